@@ -1,0 +1,16 @@
+#pragma once
+
+#include <knav/CNavComboBox.h>
+
+class CNavFilterArray;
+
+/// The file type combo.
+class KNAV_API CNavFilterComboBox : public CNavComboBox {
+public:
+    CNavFilterComboBox() = default;
+
+    /// Replaces the items by the full descriptions of the filters, in their order. A filter whose description is empty
+    /// gets no item, so that later item indices are smaller than filter indices. The selected index stays selected as
+    /// far as it exists, else the last item; without a selection the first item is selected.
+    void FillWithFilterArray(CNavFilterArray& filters);
+};
