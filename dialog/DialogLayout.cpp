@@ -1,0 +1,138 @@
+#include "dialog/DialogLayout.h"
+
+#include <string_view>
+
+namespace knav {
+namespace {
+
+// Client coordinates of a mirrored dialog run from the right; mapping both corners at once takes care of it.
+RECT rectIn(HWND dialog, HWND control) {
+    RECT at{};
+    GetWindowRect(control, &at);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&at), 2);
+    return at;
+}
+
+bool isOfClass(HWND window, std::wstring_view name) {
+    wchar_t text[64] = L"";
+    GetClassNameW(window, text, static_cast<int>(std::size(text)));
+    return CompareStringOrdinal(text, -1, name.data(), static_cast<int>(name.size()), TRUE) == CSTR_EQUAL;
+}
+
+bool isComboBox(HWND window) {
+    return isOfClass(window, L"ComboBox");
+}
+
+// To size a combo box is to size its list as well.
+int heightToSet(HWND window, const RECT& at) {
+    if (!isComboBox(window))
+        return at.bottom - at.top;
+    RECT dropped{};
+    SendMessageW(window, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
+    return std::max<int>(dropped.bottom - dropped.top, at.bottom - at.top);
+}
+
+// A combo box selects its whole text when it is resized; the user's selection is put back.
+class KeptEditSelections {
+public:
+    explicit KeptEditSelections(std::span<const HWND> windows) {
+        for (HWND window : windows) {
+            if (isComboBox(window) && (GetWindowLongPtrW(window, GWL_STYLE) & 3) == CBS_DROPDOWN)
+                m_kept.push_back({window, static_cast<DWORD>(SendMessageW(window, CB_GETEDITSEL, 0, 0))});
+        }
+    }
+    ~KeptEditSelections() {
+        for (const Kept& kept : m_kept)
+            SendMessageW(kept.window, CB_SETEDITSEL, 0, static_cast<LPARAM>(kept.selection));
+    }
+    KeptEditSelections(const KeptEditSelections&) = delete;
+    KeptEditSelections& operator=(const KeptEditSelections&) = delete;
+
+private:
+    struct Kept {
+        HWND window;
+        DWORD selection;
+    };
+    std::vector<Kept> m_kept;
+};
+
+HWND createGrip(HWND dialog) {
+    const int width = GetSystemMetricsForDpi(SM_CXVSCROLL, GetDpiForWindow(dialog));
+    const int height = GetSystemMetricsForDpi(SM_CYHSCROLL, GetDpiForWindow(dialog));
+    HWND grip = CreateWindowExW(0, L"SCROLLBAR", nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | SBS_SIZEGRIP, 0, 0,
+                                width, height, dialog, nullptr, nullptr, nullptr);
+    if (grip)
+        SetWindowPos(grip, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    return grip;
+}
+
+}  // namespace
+
+void DialogLayout::capture(HWND dialog, std::span<const GrowRow> rows, UINT bodyId) {
+    m_dialog = dialog;
+    m_bodyId = bodyId;
+    RECT window{};
+    RECT client{};
+    GetWindowRect(dialog, &window);
+    GetClientRect(dialog, &client);
+    m_minTrack = {window.right - window.left, window.bottom - window.top};
+
+    std::optional<RECT> body;
+    if (HWND control = GetDlgItem(dialog, static_cast<int>(bodyId)))
+        body = rectIn(dialog, control);
+    m_layout = Layout({client.right, client.bottom}, rows, bodyId, body);
+    m_windows.clear();
+    for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        m_layout.add(static_cast<UINT>(GetDlgCtrlID(child)), rectIn(dialog, child));
+        m_windows.push_back(child);
+    }
+    if (!m_grip && (GetWindowLongPtrW(dialog, GWL_STYLE) & WS_THICKFRAME))
+        m_grip = createGrip(dialog);
+    placeGrip(client.right, client.bottom);
+}
+
+void DialogLayout::closeColumn(UINT id) {
+    m_layout.closeColumn(id);
+    RECT client{};
+    if (GetClientRect(m_dialog, &client))
+        apply(client.right, client.bottom);
+}
+
+void DialogLayout::move(HDWP& moves, size_t index, SIZE client) const {
+    HWND window = m_windows[index];
+    if (!moves || !IsWindow(window))
+        return;
+    const RECT to = m_layout.rectOf(index, client);
+    const RECT from = rectIn(m_dialog, window);
+    if (EqualRect(&from, &to))
+        return;
+    moves = DeferWindowPos(moves, window, nullptr, to.left, to.top, to.right - to.left, heightToSet(window, to),
+                           SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
+void DialogLayout::apply(int cx, int cy) {
+    if (!m_dialog || cx <= 0 || cy <= 0)  // minimised
+        return;
+    const KeptEditSelections kept(m_windows);
+    HDWP moves = BeginDeferWindowPos(static_cast<int>(m_windows.size()));
+    for (size_t i = 0; i < m_windows.size(); ++i)
+        move(moves, i, {cx, cy});
+    if (moves)
+        EndDeferWindowPos(moves);
+    placeGrip(cx, cy);
+}
+
+void DialogLayout::placeGrip(int cx, int cy) const {
+    if (!m_grip)
+        return;
+    RECT at = rectIn(m_dialog, m_grip);
+    SetWindowPos(m_grip, nullptr, cx - (at.right - at.left), cy - (at.bottom - at.top), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | (IsZoomed(m_dialog) ? SWP_HIDEWINDOW : SWP_SHOWWINDOW));
+}
+
+RECT DialogLayout::bodyRect() const {
+    HWND body = m_dialog ? GetDlgItem(m_dialog, static_cast<int>(m_bodyId)) : nullptr;
+    return body ? rectIn(m_dialog, body) : RECT{};
+}
+
+}  // namespace knav
