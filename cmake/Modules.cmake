@@ -38,3 +38,10 @@ function(knav_layer_objects out)
   endforeach()
   set(${out} ${all} PARENT_SCOPE)
 endfunction()
+
+# knav_subdirectory(FOLDER): a part of the tree that has a build file.
+macro(knav_subdirectory folder)
+  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/CMakeLists.txt)
+    add_subdirectory(${folder})
+  endif()
+endmacro()
