@@ -1,0 +1,4 @@
+#include <knav/CNavDataArray.h>
+
+CNavDataArray::CNavDataArray() = default;
+CNavDataArray::~CNavDataArray() = default;
