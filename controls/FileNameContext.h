@@ -14,9 +14,6 @@ public:
     /// The node of the Look-in combo's selected item; null without a combo window or a selection. Not owned.
     virtual CNavNode* lookInNode() const = 0;
 
-    /// A folder may be the result of this dialog call, so folders are named in the field too.
-    virtual bool returnFolderMode() const = 0;
-
 protected:
     ~FileNameContext() = default;
 };

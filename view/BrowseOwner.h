@@ -19,7 +19,7 @@ public:
     /// The view now shows another folder (or the same one again). Called inside the enter/leave pair, after the old
     /// view has gone, so that the Look-in combo and the history can follow; a browse started from here does nothing.
     /// `folder` is the qualified list of the folder shown; it stays the browser's.
-    virtual void browsed(const ITEMIDLIST* folder, UINT flags) = 0;
+    virtual void browsed(ITEMIDLIST* folder, UINT flags) = 0;
 
     /// The columns, widths and sort order of `view` are about to be lost, or may be put back. Each is called once per
     /// browse: save before the new view is made, restore after the new list has been taken over.

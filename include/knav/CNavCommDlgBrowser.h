@@ -38,7 +38,7 @@ public:
 
     /// Whether the view may show an item of the current folder: the current filter and the folders-only option decide.
     /// `item` is relative to that folder. Nonzero: it is shown.
-    virtual int IsAllowed(const ITEMIDLIST* item);
+    virtual int IsAllowed(ITEMIDLIST* item);
     /// Double-click or Enter in the view. The default asks the IKNavUI callback; nonzero: it was handled.
     virtual int OnDefaultCommand();
     /// An item was renamed in the view. The default does what a selection change does.
@@ -53,7 +53,7 @@ public:
     /// Shows a folder. `flags` are SBSP_ABSOLUTE (qualified list), SBSP_RELATIVE (relative to the current folder) or
     /// SBSP_PARENT (the parent of the list, or of the current folder for null). A shortcut shows its target. Nonzero on
     /// success, and while another browse is under way, when nothing is done. Needs an owner and a buddy window.
-    int BrowseObject(const ITEMIDLIST* list, UINT flags);
+    int BrowseObject(ITEMIDLIST* list, UINT flags);
     /// Shows the current folder anew; after changes of the view mode, the filter or the options. Zero without one.
     int BrowseCurrentObject();
     /// Destroys the current view; nonzero `saveState` first saves its columns as a browse would. The current folder
@@ -81,8 +81,8 @@ public:
     CNavFilter* GetCurrentFilter() const;
     void SetCurrentFilter(CNavFilter* filter);
     /// Qualified list of the folder shown; null before the first browse. Set takes a copy.
-    const ITEMIDLIST* GetCurrentObjectID() const;
-    void SetCurrentObjectID(const ITEMIDLIST* list);
+    ITEMIDLIST* GetCurrentObjectID() const;
+    void SetCurrentObjectID(ITEMIDLIST* list);
     /// View and folder shown, without a reference added; null before the first browse. Set adds a reference.
     IShellView* GetCurrentShellView() const;
     void SetCurrentShellView(IShellView* view);

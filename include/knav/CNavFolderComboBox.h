@@ -42,7 +42,7 @@ public:
     void FillToNode(CNavNode* node);
     /// Fills in the chain to the folder of a qualified list and returns the index of its item. -1 and nothing done
     /// while the standard hierarchy is set.
-    int FillToFolder(const ITEMIDLIST* list);
+    int FillToFolder(ITEMIDLIST* list);
     /// Adds the items of a tree, of a node with its following siblings at `indent`, or inserts the latter from `index`
     /// on; Insert returns the index behind the last item it made.
     void FillFromTree(CNavTree& tree);
@@ -62,7 +62,7 @@ public:
     int GetPathname(CNavPathname& pathname);
     /// First item that stands for the same folder as `node`, or for the folder of a qualified list; -1: none.
     int FindItemByNode(CNavNode* node);
-    int FindItemByList(const ITEMIDLIST* list);
+    int FindItemByList(ITEMIDLIST* list);
     /// The item that the item at `index` is indented below; -1: none.
     int FindParentItemIndex(int index);
     /// First item that is the root of the extension of that name, in any case; -1: none.
@@ -90,7 +90,7 @@ protected:
 
 private:
     void clear();
-    void fillToNodeAndSelect(const ITEMIDLIST* list);
+    void fillToNodeAndSelect(ITEMIDLIST* list);
     void widenDroppedList();
     int textLeft(const CNavNode& node, bool selectionField) const;
     void drawPicture(const DRAWITEMSTRUCT& item, const CNavNode& node, int left) const;
