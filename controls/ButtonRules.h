@@ -52,7 +52,7 @@ struct ArrowCorners {
 };
 ArrowCorners dropArrowIn(const RECT& room, UINT dpi);
 
-/// How a key asks a button for its menu: F4, or Down with Alt; on a pure menu button also Down alone.
+/// Whether a key asks a button for its menu: F4, or Up and Down with Alt; on a pure menu button also without.
 bool isDropKey(WPARAM key, bool alt, bool pureMenuButton);
 
 }  // namespace knav

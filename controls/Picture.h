@@ -1,0 +1,41 @@
+// Pictures with alpha: loading them from resources and drawing them. A GdiPlusSession must live meanwhile.
+#pragma once
+
+#include <memory>
+
+#include "controls/GdiPlus.h"
+
+namespace knav {
+
+using Picture = std::unique_ptr<Gdiplus::Bitmap>;
+
+/// The picture that an icon resource holds for `size` x `size` pixels, scaled when it has no such size; null when there
+/// is none. `name` may be MAKEINTRESOURCE(id); without a module the resource modules are searched.
+Picture loadPicture(const wchar_t* name, int size, HINSTANCE module = nullptr);
+
+/// The same for a bitmap resource, which has one size.
+Picture loadBitmapPicture(const wchar_t* name, HINSTANCE module = nullptr);
+
+/// Copies of what a handle shows; the handle stays the caller's. A bitmap handle without alpha gives a picture without
+/// it, which drawPicture() takes for one of the old kind.
+Picture pictureOf(HICON icon);
+Picture pictureOf(HBITMAP bitmap);
+
+/// A copy of a picture.
+Picture copyOf(const Picture& picture);
+
+/// A new 32-bit bitmap handle, which the caller deletes; null on failure.
+HBITMAP bitmapOf(const Picture& picture);
+
+/// How a picture is drawn.
+enum class PictureTone {
+    Plain,
+    Grey,   ///< the same brightness without colour
+    Faded,  ///< grey and half transparent: cannot be used now
+};
+
+/// Draws into the device context, scaled to `to`. Mirrored windows show pictures as they are. In a picture without
+/// alpha the colour of the top left pixel is transparent, and black stands for the system's text colour.
+void drawPicture(HDC dc, Gdiplus::Bitmap& picture, const RECT& to, PictureTone tone);
+
+}  // namespace knav
