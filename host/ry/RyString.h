@@ -1,0 +1,6 @@
+// The platform layer's string is the framework's.
+#pragma once
+
+#include <platform/CString.h>
+
+using RyString = CString;
