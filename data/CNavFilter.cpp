@@ -62,7 +62,7 @@ int CNavFilter::IsAllowed(const wchar_t* name) const {
     if (IsEmpty()) {
         return 1;
     }
-    return knav::atApiEdge(0, [this, name = std::wstring_view(name)] {
+    return knav::atApiEdge(0, [this, name] {
         const auto matches = [name](const CString& pattern) { return knav::matchesPattern(name, pattern); };
         return std::any_of(begin(), end(), matches) ? 1 : 0;
     });

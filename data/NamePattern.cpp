@@ -47,6 +47,15 @@ std::optional<bool> endsIn(std::wstring_view name, std::wstring_view suffix) {
     return true;
 }
 
+bool hasDoubleStar(const wchar_t* pattern) {
+    for (; *pattern != L'\0'; ++pattern) {
+        if (pattern[0] == L'*' && pattern[1] == L'*') {
+            return true;
+        }
+    }
+    return false;
+}
+
 // Writes `pattern` without "**" and returns the end: of each run of stars, one is left or none.
 wchar_t* writeWithoutDoubleStars(const wchar_t* pattern, wchar_t* out) {
     for (; *pattern != L'\0'; ++pattern) {
@@ -74,14 +83,11 @@ bool matchesWithoutDoubleStars(const wchar_t* name, const wchar_t* pattern) {
 
 }  // namespace
 
-bool knav::matchesPattern(std::wstring_view name, const wchar_t* pattern) {
+bool knav::matchesPattern(const wchar_t* name, const wchar_t* pattern) {
     if (const std::wstring_view suffix = plainSuffix(pattern); !suffix.empty()) {
         if (const std::optional<bool> verdict = endsIn(name, suffix)) {
             return *verdict;
         }
     }
-    if (std::wstring_view(pattern).find(L"**") == std::wstring_view::npos) {
-        return PathMatchSpecW(name.data(), pattern) != FALSE;
-    }
-    return matchesWithoutDoubleStars(name.data(), pattern);
+    return hasDoubleStar(pattern) ? matchesWithoutDoubleStars(name, pattern) : PathMatchSpecW(name, pattern) != FALSE;
 }

@@ -1,0 +1,136 @@
+#include <knav/CNavNode.h>
+#include <knav/CNavPathname.h>
+#include <knav/NavNames.h>
+
+#include <wininet.h>
+
+#include "data/ApiEdge.h"
+#include "shell/FolderCalls.h"
+#include "shell/ItemList.h"
+#include "shell/SiteLocation.h"
+
+namespace {
+
+// A text that starts with one separator is absolute to the file system, but inside a site it means the site's root.
+bool startsAtRoot(const wchar_t* text) {
+    const auto isSeparator = [](wchar_t character) { return character == L'/' || character == L'\\'; };
+    return isSeparator(text[0]) && !isSeparator(text[1]);
+}
+
+bool isRoot(const CNavNode& node) {
+    const NavNodeType type = node.GetType();
+    return type == NavNodeExtensionRoot || type == NavNodeInternetRoot || type == NavNodeWebFoldersRoot;
+}
+
+// The location text of a site: its name as its own folder gives it, or else the desktop.
+CString locationOf(CNavNode& site, const knav::ItemList& qualified) {
+    CString location;
+    if (!site.GetNameForParsing(location)) {
+        NavGetItemDisplayNameInDesktop(SHGDN_FORPARSING, qualified.get(), location);
+    }
+    return location;
+}
+
+// Web Folders hand out escaped URLs; the dialog shows and stores them in readable form. Fails for one that is too long.
+bool decodeUrl(std::wstring& location) {
+    wchar_t decoded[MAX_PATH];
+    DWORD size = MAX_PATH;
+    if (!InternetCanonicalizeUrlW(location.c_str(), decoded, &size, ICU_DECODE | ICU_NO_ENCODE)) {
+        return false;
+    }
+    location = decoded;
+    return true;
+}
+
+}  // namespace
+
+PathErr CNavPathname::ParseRelative(const wchar_t* text, const CNavPathname* base, CNavNode* node, int allowWildcards) {
+    return knav::atApiEdge(PathErr::NotFileSystem, [&] {
+        m_isExtension = node != nullptr && node->IsExtensionType();
+        m_isUrl = node != nullptr && (node->IsInternetType() || node->IsWebFoldersType());
+        m_location.Empty();
+        dropOwnedID();
+        if (!isText()) {
+            return parseAbsolute(text, base, allowWildcards != 0);
+        }
+        const std::wstring_view typed(text != nullptr ? text : L"");
+        if (typed.empty()) {
+            return PathErr::Empty;
+        }
+        if (typed.size() >= MAX_PATH) {
+            return PathErr::TooLong;
+        }
+        if (CNavNode* const site = node->GetSiteNode()) {
+            return parseInSite(text, base, *site, allowWildcards != 0);
+        }
+        return isRoot(*node) && parseAtRoot(text, *node) ? PathErr::None
+                                                         : parseAbsolute(text, base, allowWildcards != 0);
+    });
+}
+
+// Takes an absolute path; only then the flags are cleared.
+PathErr CNavPathname::parseAbsolute(const wchar_t* text, const CNavPathname* base, bool allowWildcards) {
+    CZoUiPathname path;
+    if (path.Parse(text, allowWildcards) != PathErr::None || !path.WasAbsolute()) {
+        return PathErr::NotFileSystem;
+    }
+    m_isExtension = false;
+    m_isUrl = false;
+    return CZoUiPathname::ParseRelative(text, base, allowWildcards);
+}
+
+PathErr CNavPathname::parseInSite(const wchar_t* text, const CNavPathname* base, CNavNode& site, bool allowWildcards) {
+    if (!startsAtRoot(text)) {
+        const PathErr result = parseAbsolute(text, base, allowWildcards);
+        if (!isText()) {
+            return result;
+        }
+    }
+    auto qualified = knav::ItemList::adopt(site.CalculateQualifiedItemList());
+    std::wstring place(locationOf(site, qualified).view());
+    std::optional<std::wstring> location = knav::locationInSite(place, text);
+    if (place.empty() || !location) {
+        return PathErr::NotFileSystem;
+    }
+    if (!knav::sitePrefix(*location).empty()) {
+        location = knav::canonicalLocation(*location);
+    }
+    if (!location || location->size() >= MAX_PATH) {
+        return PathErr::TooLong;
+    }
+    if (site.IsWebFoldersType() && (!decodeUrl(*location) || !decodeUrl(place))) {
+        return PathErr::TooLong;
+    }
+    setLocation(CString(*location));
+    findInSite(site, qualified.release(), std::wstring(knav::nameBelowSite(place, *location)).c_str());
+    return PathErr::None;
+}
+
+// Asks the site's folder about `name`; what it does not know is taken for a file, which may be about to be saved.
+void CNavPathname::findInSite(CNavNode& site, ITEMIDLIST* siteList, const wchar_t* name) {
+    const auto qualified = knav::ItemList::adopt(siteList);
+    DWORD attributes = 0;
+    const knav::ItemList found = knav::parseName(site.GetFolder(), name, SFGAO_FOLDER | SFGAO_FILESYSTEM, &attributes);
+    if (found || name[0] == L'\0') {
+        ownID(knav::ItemList::join(qualified.get(), found.get()).release());
+    }
+    const bool isFolder = name[0] == L'\0' || (attributes & SFGAO_FOLDER) != 0;
+    m_type = isFolder ? Directory : ExistingFile;
+}
+
+// Asks a root's folder for the site of that name; false when it knows none.
+bool CNavPathname::parseAtRoot(const wchar_t* text, CNavNode& root) {
+    const knav::ItemList site = knav::parseName(root.GetFolder(), text);
+    if (!site) {
+        return false;
+    }
+    const auto qualified = knav::ItemList::adopt(root.CalculateQualifiedItemList());
+    CString location;
+    if (!NavGetItemDisplayName(SHGDN_FORPARSING, root.GetFolder(), site.get(), location)) {
+        location = text;
+    }
+    setLocation(location);
+    ownID(knav::ItemList::join(qualified.get(), site.get()).release());
+    m_type = Directory;
+    return true;
+}

@@ -1,0 +1,113 @@
+#include "shell/SiteLocation.h"
+
+#include <platform/Windows.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::wstring_view kSchemeEnd = L"://";
+constexpr std::wstring_view kSeparators = L"/\\";
+constexpr std::wstring_view kFakeRoot = L"x:\\site";  // what a site looks like to the path functions
+
+bool isSeparator(wchar_t character) {
+    return kSeparators.find(character) != std::wstring_view::npos;
+}
+
+bool sameText(std::wstring_view a, std::wstring_view b) {
+    return CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(), static_cast<int>(b.size()), TRUE) ==
+           CSTR_EQUAL;
+}
+
+// `location` is `place` or lies below it.
+bool liesIn(std::wstring_view location, std::wstring_view place) {
+    while (!place.empty() && isSeparator(place.back())) {
+        place.remove_suffix(1);
+    }
+    return location.size() >= place.size() && sameText(location.substr(0, place.size()), place) &&
+           (location.size() == place.size() || isSeparator(location[place.size()]));
+}
+
+}  // namespace
+
+namespace knav {
+
+bool isUrlLocation(std::wstring_view text) noexcept {
+    return text.starts_with(L"ftp://") || text.starts_with(L"http://") || text.starts_with(L"https://");
+}
+
+std::wstring_view sitePrefix(std::wstring_view location) noexcept {
+    const std::size_t scheme = location.find(kSchemeEnd);
+    if (scheme == std::wstring_view::npos || scheme + kSchemeEnd.size() == location.size()) {
+        return {};
+    }
+    const std::size_t host = scheme + kSchemeEnd.size();
+    const std::size_t slash = location.find(L'/', host);
+    return location.substr(0, slash != std::wstring_view::npos ? slash : location.find(L'\\', host));
+}
+
+std::wstring_view serverName(std::wstring_view sitePrefix) noexcept {
+    const std::size_t scheme = sitePrefix.find(kSchemeEnd);
+    return scheme != std::wstring_view::npos ? sitePrefix.substr(scheme + kSchemeEnd.size()) : std::wstring_view();
+}
+
+std::wstring_view lastName(std::wstring_view location) noexcept {
+    const std::size_t slash = location.rfind(L'/');
+    const std::size_t end = slash != std::wstring_view::npos ? slash : location.rfind(L'\\');
+    return end != std::wstring_view::npos ? location.substr(end + 1) : location;
+}
+
+std::optional<std::wstring> canonicalLocation(std::wstring_view location) {
+    const std::wstring_view prefix = sitePrefix(location);
+    if (prefix.empty()) {
+        return std::nullopt;
+    }
+    std::wstring path(kFakeRoot);
+    path += location.substr(prefix.size());
+    std::ranges::replace(path, L'/', L'\\');
+    wchar_t canonical[MAX_PATH];
+    if (path.size() >= MAX_PATH || !PathCanonicalizeW(canonical, path.c_str())) {
+        return std::nullopt;
+    }
+    // ".." may have led out of the fake root's folder but not out of its drive, which is then the site's root too.
+    std::wstring_view rest(canonical);
+    rest.remove_prefix(liesIn(rest, kFakeRoot) ? kFakeRoot.size() : std::min(rest.size(), kFakeRoot.find(L'\\')));
+    std::wstring result(prefix);
+    result += rest;
+    std::ranges::replace(result, L'\\', L'/');
+    return result.size() < MAX_PATH ? std::optional(std::move(result)) : std::nullopt;
+}
+
+std::optional<std::wstring> locationInSite(std::wstring_view site, std::wstring_view text) {
+    const std::wstring_view prefix = sitePrefix(site);
+    if (liesIn(text, prefix.empty() ? site : prefix)) {
+        return std::wstring(text);
+    }
+    if (!sitePrefix(text).empty()) {
+        return std::nullopt;
+    }
+    const bool fromRoot = !text.empty() && isSeparator(text.front());
+    std::wstring location(fromRoot && !prefix.empty() ? prefix : site);
+    while (!location.empty() && isSeparator(location.back())) {
+        location.pop_back();
+    }
+    if (!fromRoot) {
+        location += L'/';
+    }
+    location += text;
+    return location;
+}
+
+std::wstring_view nameBelowSite(std::wstring_view site, std::wstring_view location) noexcept {
+    if (!liesIn(location, site)) {
+        return location;
+    }
+    std::wstring_view name = location.substr(std::min(location.size(), site.size()));
+    const std::size_t first = name.find_first_not_of(kSeparators);
+    if (first == std::wstring_view::npos) {
+        return {};
+    }
+    return name.substr(first, name.find_last_not_of(kSeparators) - first + 1);
+}
+
+}  // namespace knav
