@@ -24,3 +24,8 @@
 #include <ole2.h>
 #include <shlobj.h>
 #include <shlwapi.h>
+
+// windowsx.h gives names of window operations to macros.
+#undef SubclassWindow
+#undef GetFirstChild
+#undef GetNextSibling
