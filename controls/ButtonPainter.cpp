@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "controls/BackBuffer.h"
+#include <platform/GdiOwners.h>
 
 namespace knav {
 namespace {
@@ -129,7 +129,7 @@ void paintBackgroundOf(HWND button, HDC dc, const RECT& area) {
 }
 
 void paintPushButton(HANDLE theme, HDC dc, const PushButtonLook& look, const ButtonCaption& caption) {
-    const SavedDc saved(dc);
+    const zoui::SavedDC saved(dc);
     if (caption.font)
         SelectObject(dc, caption.font);
     RECT content = mainPartOf(look.area, look.dpi, look.menuExists);
@@ -158,7 +158,7 @@ void paintPushButton(HANDLE theme, HDC dc, const PushButtonLook& look, const But
 }
 
 void paintToolButtonFrame(HANDLE theme, HDC dc, const RECT& area, const ButtonState& state) {
-    const SavedDc saved(dc);
+    const zoui::SavedDC saved(dc);
     if (theme) {
         DrawThemeBackground(theme, dc, TP_BUTTON, toolButtonThemeState(state), &area, nullptr);
     } else if (const UINT edge = toolButtonEdge(state)) {
@@ -170,7 +170,7 @@ void paintToolButtonFrame(HANDLE theme, HDC dc, const RECT& area, const ButtonSt
 }
 
 void paintDropArrow(HDC dc, const RECT& room, UINT dpi, COLORREF colour) {
-    const SavedDc saved(dc);
+    const zoui::SavedDC saved(dc);
     SelectObject(dc, GetStockObject(DC_BRUSH));
     SelectObject(dc, GetStockObject(DC_PEN));
     SetDCBrushColor(dc, colour);
@@ -180,14 +180,14 @@ void paintDropArrow(HDC dc, const RECT& room, UINT dpi, COLORREF colour) {
 }
 
 void paintToolButtonText(HDC dc, RECT area, const ButtonCaption& caption, const ButtonState& state) {
-    const SavedDc saved(dc);
+    const zoui::SavedDC saved(dc);
     if (caption.font)
         SelectObject(dc, caption.font);
     paintClassicText(dc, area, caption, state);
 }
 
 SIZE sizeOfCaption(HDC dc, const ButtonCaption& caption) {
-    const SavedDc saved(dc);
+    const zoui::SavedDC saved(dc);
     if (caption.font)
         SelectObject(dc, caption.font);
     RECT text{};

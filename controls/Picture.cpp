@@ -1,27 +1,12 @@
 #include "controls/Picture.h"
 
-#include <platform/Resources.h>
-
 #include <vector>
+
+#include <platform/GdiOwners.h>
+#include <platform/Resources.h>
 
 namespace knav {
 namespace {
-
-struct IconOwner {
-    HICON icon;
-    ~IconOwner() {
-        if (icon)
-            DestroyIcon(icon);
-    }
-};
-
-struct BitmapOwner {
-    HBITMAP bitmap;
-    ~BitmapOwner() {
-        if (bitmap)
-            DeleteObject(bitmap);
-    }
-};
 
 struct Pixels {
     int width = 0;
@@ -38,10 +23,9 @@ bool readPixels(HBITMAP bitmap, Pixels& pixels) {
     pixels.bits.resize(static_cast<size_t>(pixels.width) * static_cast<size_t>(pixels.height));
     BITMAPINFO info{};
     info.bmiHeader = {sizeof info.bmiHeader, pixels.width, -pixels.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    HDC screen = GetDC(nullptr);
+    const zoui::WindowDC screen(nullptr);
     const int rows =
         GetDIBits(screen, bitmap, 0, static_cast<UINT>(pixels.height), pixels.bits.data(), &info, DIB_RGB_COLORS);
-    ReleaseDC(nullptr, screen);
     if (rows != pixels.height)
         return false;
     // A bitmap of fewer bits has no alpha of its own: what stands there means nothing.
@@ -107,23 +91,23 @@ void treatAsOldKind(Gdiplus::Bitmap& picture, Gdiplus::ImageAttributes& attribut
 }  // namespace
 
 Picture loadPicture(const wchar_t* name, int size, HINSTANCE module) {
-    const IconOwner owner{static_cast<HICON>(
-        LoadImageW(moduleOf(module, name, RT_GROUP_ICON), name, IMAGE_ICON, size, size, LR_DEFAULTCOLOR))};
-    return owner.icon ? pictureOf(owner.icon) : nullptr;
+    const zoui::UniqueIcon icon(static_cast<HICON>(
+        LoadImageW(moduleOf(module, name, RT_GROUP_ICON), name, IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+    return pictureOf(icon.get());
 }
 
 Picture loadBitmapPicture(const wchar_t* name, HINSTANCE module) {
-    const BitmapOwner owner{static_cast<HBITMAP>(
-        LoadImageW(moduleOf(module, name, RT_BITMAP), name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION))};
-    return owner.bitmap ? pictureOf(owner.bitmap) : nullptr;
+    const zoui::UniqueBitmap bitmap(static_cast<HBITMAP>(
+        LoadImageW(moduleOf(module, name, RT_BITMAP), name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+    return pictureOf(bitmap.get());
 }
 
 Picture pictureOf(HICON icon) {
     ICONINFO info{};
     if (!icon || !GetIconInfo(icon, &info))
         return nullptr;
-    const BitmapOwner colour{info.hbmColor};
-    const BitmapOwner mask{info.hbmMask};
+    const zoui::UniqueBitmap colour(info.hbmColor);
+    const zoui::UniqueBitmap mask(info.hbmMask);
     Pixels pixels;
     if (!readPixels(info.hbmColor, pixels))
         return nullptr;
