@@ -1,0 +1,3 @@
+#include <zoui/CZoUiBitmapButton.h>
+
+IMPLEMENT_DYNAMIC(CZoUiBitmapButton, CButton)

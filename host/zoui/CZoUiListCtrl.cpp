@@ -1,0 +1,3 @@
+#include <zoui/CZoUiListCtrl.h>
+
+IMPLEMENT_DYNAMIC(CZoUiListCtrl, CListCtrl)
