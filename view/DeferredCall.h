@@ -21,7 +21,8 @@ public:
     bool isPosted() const { return m_posted; }
 
 private:
-    static LRESULT CALLBACK receive(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR self);
+    static LRESULT CALLBACK receive(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                    DWORD_PTR self);
     bool makeWindow();
 
     std::function<void()> m_work;

@@ -1,0 +1,125 @@
+#include "view/ViewTakeover.h"
+
+#include "view/BrowseOwner.h"
+#include "view/BrowserState.h"
+
+#include <knav/CNavCommDlgBrowser.h>
+#include <knav/CNavCommDlgBuddy.h>
+#include <knav/CNavCommDlgView.h>
+#include <knav/CNavListCtrl.h>
+
+#include <array>
+#include <string_view>
+
+namespace knav {
+namespace {
+
+constexpr std::wstring_view kViewClass = L"SHELLDLL_DefView";
+constexpr const wchar_t* kListClass = L"SysListView32";
+constexpr UINT kPlaceholderId = 13001;
+constexpr DWORD kListHelpId = 0x808332D2;
+
+bool isStandardView(HWND window) {
+    std::array<wchar_t, 80> name{};
+    const int length = GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+    return std::wstring_view(name.data(), static_cast<std::size_t>(length)) == kViewClass;
+}
+
+void subclassView(CNavCommDlgBrowser& browser, HWND window) {
+    auto* const view = browser.GetViewWindow();
+    if (view != nullptr && isStandardView(window)) {
+        view->SubclassWindow(window);
+        view->SetBrowser(&browser);
+        view->SetZoUiParent(browser.GetViewOwnerWindow());
+        view->SetTabNext(kPlaceholderId);
+        subclassListCtrl(browser, window);
+    }
+}
+
+// The dialog manager walks the windows from the top of the stack down: behind the placeholder, the view has the
+// placeholder's turn.
+void takePlaceOf(CNavCommDlgBuddy& placeholder, HWND window) {
+    SetWindowPos(window, placeholder, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    placeholder.SetBuddy(CWnd::FromHandle(window));
+}
+
+// Where the list cannot show thumbnails it is marked, so that the mode is still what the user chose.
+void markThumbnails(HWND list, unsigned mode) {
+    if (mode == ViewThumbnails && readModeOfList(list) != ViewThumbnails) {
+        SetWindowLongPtrW(list, GWLP_USERDATA, static_cast<LONG_PTR>(listViewOf(ViewThumbnails)));
+    }
+}
+
+}  // namespace
+
+void saveView(const BrowserState& state) {
+    if (state.view) {
+        guarded([&state] { return state.view->SaveViewState(); });
+        if (state.browseOwner != nullptr) {
+            state.browseOwner->saveListState(state.view.get());
+        }
+    }
+}
+
+void releaseViewWindows(BrowserState& state) {
+    if (state.buddy != nullptr) {
+        state.buddy->SetBuddy(nullptr);
+    }
+    if (state.listCtrl != nullptr) {
+        state.listCtrl->UnsubclassWindow();
+    }
+    if (state.viewWindow != nullptr) {
+        state.viewWindow->UnsubclassWindow();
+    }
+}
+
+void viewWindowDestroyed(BrowserState& state, HWND window) {
+    if (state.buddy != nullptr && SafeHwnd(state.buddy->GetBuddy()) == window) {
+        state.buddy->SetBuddy(nullptr);
+    }
+}
+
+void takeOverView(CNavCommDlgBrowser& browser) {
+    auto& state = browser.state();
+    if (const HWND window = windowOfView(state.view.get())) {
+        subclassView(browser, window);
+        takePlaceOf(*state.buddy, window);
+    }
+    state.arrivals.restart();
+    if (state.browseOwner != nullptr) {
+        state.browseOwner->restoreListState(state.view.get());
+    }
+}
+
+void subclassListCtrl(CNavCommDlgBrowser& browser, HWND viewWindow) {
+    auto& state = browser.state();
+    auto* const list = state.listCtrl;
+    if (list == nullptr) {
+        return;
+    }
+    list->UnsubclassWindow();
+    const HWND window = FindWindowExW(viewWindow, nullptr, kListClass, nullptr);
+    if (window == nullptr || !list->SubclassWindow(window)) {
+        return;
+    }
+    list->SetBrowser(&browser);
+    list->SetZoUiParent(state.owner);
+    list->SetWindowContextHelpId(kListHelpId);
+    list->ModifyStyle(0, LVS_SHOWSELALWAYS);
+    ListView_SetExtendedListViewStyleEx(window, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+    markThumbnails(window, state.folderSettings.ViewMode);
+}
+
+FocusInView::FocusInView(const BrowserState& state) : m_state(state) {
+    const HWND window = windowOfView(state.view.get());
+    const HWND focus = GetFocus();
+    m_hadFocus = window != nullptr && focus != nullptr && (focus == window || IsChild(window, focus));
+}
+
+FocusInView::~FocusInView() {
+    if (m_hadFocus) {
+        SetFocus(windowOfView(m_state.view.get()));
+    }
+}
+
+}  // namespace knav

@@ -1,0 +1,41 @@
+// The windows of a view while it is shown in the dialog.
+#pragma once
+
+#include <platform/Windows.h>
+
+class CNavCommDlgBrowser;
+
+namespace knav {
+
+struct BrowserState;
+
+/// Has the current view save its state and the owner its columns; nothing without a view.
+void saveView(const BrowserState& state);
+
+/// Gives the window and the list of the current view back; they then belong to the shell alone.
+void releaseViewWindows(BrowserState& state);
+
+/// The window was destroyed by somebody else: nothing points to it any more.
+void viewWindowDestroyed(BrowserState& state, HWND window);
+
+/// Takes over the window and the list of the current view, puts it behind the placeholder in the tab order, and has the
+/// owner restore its columns.
+void takeOverView(CNavCommDlgBrowser& browser);
+
+/// Takes over the list in a view's window, after giving back the one held before.
+void subclassListCtrl(CNavCommDlgBrowser& browser, HWND viewWindow);
+
+/// When the focus is in the current view, it is in its successor at the end of the scope.
+class FocusInView {
+public:
+    explicit FocusInView(const BrowserState& state);
+    FocusInView(const FocusInView&) = delete;
+    FocusInView& operator=(const FocusInView&) = delete;
+    ~FocusInView();
+
+private:
+    const BrowserState& m_state;
+    bool m_hadFocus;
+};
+
+}  // namespace knav
