@@ -1,0 +1,29 @@
+// Walking the bytes of item identifier lists that may come from anywhere.
+#pragma once
+
+#include <platform/Windows.h>
+
+#include <cstddef>
+
+namespace knav {
+
+/// What one walk over a list finds.
+struct ListMeasure {
+    int count = 0;                     ///< elements
+    std::size_t bytes = 0;             ///< of all elements, without the terminator
+    const ITEMIDLIST* last = nullptr;  ///< the last element; null when there is none
+};
+
+/// Walks the whole list under one guard. Memory that cannot be read ends the list as a terminator would.
+ListMeasure measureList(const ITEMIDLIST* list) noexcept;
+
+/// The bytes of the first element, its count included; 0 when there is none or it cannot be read.
+int elementSize(const ITEMIDLIST* list) noexcept;
+
+/// The list from the second element on; null when there is none.
+const ITEMIDLIST* nextElement(const ITEMIDLIST* list) noexcept;
+
+/// Copies bytes that may not be readable; false when they are not.
+bool copyListBytes(void* to, const void* from, std::size_t bytes) noexcept;
+
+}  // namespace knav

@@ -1,0 +1,47 @@
+#include "shell/SpecialItems.h"
+
+#include <knav/NavFolders.h>
+#include <knav/NavNames.h>
+
+#include "data/ApiEdge.h"
+#include "shell/FolderCalls.h"
+#include "shell/ListWalk.h"
+
+namespace {
+
+constexpr CLSID kWebFolders = {0xBDEADF00, 0xC265, 0x11D0, {0xBC, 0xED, 0x00, 0xA0, 0xC9, 0x0A, 0xB5, 0x0F}};
+
+bool isWebFoldersName(const CString& name) {
+    struct Freed {
+        OLECHAR* text = nullptr;
+        ~Freed() { CoTaskMemFree(text); }
+    } identifier;
+    if (FAILED(StringFromCLSID(kWebFolders, &identifier.text))) {
+        return false;
+    }
+    // Folders differ in how they write identifiers: upper and lower case mean the same.
+    return StrStrIW(name, identifier.text) != nullptr || name.view().starts_with(L"Web Folders");
+}
+
+}  // namespace
+
+int NavIsInternetSiteItem(ITEMIDLIST* list) {
+    if (knav::nextElement(list) == nullptr) {
+        return 0;
+    }
+    const auto root = knav::ItemList::firstOf(list);
+    return root && NavIsInternetRoot(root.get());
+}
+
+int NavIsWebFoldersItem(ITEMIDLIST* list) {
+    const auto root = knav::ItemList::firstOf(list);
+    const auto item = knav::ItemList::firstOf(knav::nextElement(list));
+    if (!root || !item || !NavIsDrives(root.get())) {
+        return 0;
+    }
+    const auto drives = knav::ComPtr<IShellFolder>::adopt(NavGetDrivesFolder());
+    return knav::atApiEdge(false, [&] {
+        CString name;
+        return NavGetItemNameForParsing(drives.get(), item.get(), name) && isWebFoldersName(name);
+    });
+}
