@@ -39,6 +39,11 @@ function(knav_layer_objects out)
   set(${out} ${all} PARENT_SCOPE)
 endfunction()
 
+# knav_shipped(TARGET): a module that is installed carries no symbol table in a release build.
+function(knav_shipped target)
+  target_link_options(${target} PRIVATE $<$<CONFIG:Release>:-s>)
+endfunction()
+
 # knav_subdirectory(FOLDER): a part of the tree that has a build file.
 macro(knav_subdirectory folder)
   if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/CMakeLists.txt)

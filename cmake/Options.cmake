@@ -6,7 +6,7 @@ option(KNAV_CHECKED "Stop the program at undefined behaviour and at a misused co
 add_library(knav_build INTERFACE)
 target_compile_definitions(knav_build INTERFACE UNICODE _UNICODE NOMINMAX STRICT _WIN32_WINNT=0x0A00)
 target_compile_options(knav_build INTERFACE
-  $<BUILD_INTERFACE:-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
+  $<BUILD_INTERFACE:-Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Wimplicit-fallthrough
   -Wnull-dereference -Werror -finput-charset=UTF-8 -fno-strict-aliasing>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(knav_build INTERFACE $<BUILD_INTERFACE:-Wcast-function-type>)
@@ -15,8 +15,7 @@ endif()
 # The same sources give the same bytes: no time stamps, no build paths, no name-derived image base.
 target_compile_options(knav_build INTERFACE $<BUILD_INTERFACE:-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>)
 target_link_options(knav_build INTERFACE
-  $<BUILD_INTERFACE:-static;-static-libgcc;-static-libstdc++;-Wl,--no-insert-timestamp>
-  $<$<CONFIG:Release>:$<BUILD_INTERFACE:-s>>)
+  $<BUILD_INTERFACE:-static;-static-libgcc;-static-libstdc++;-Wl,--no-insert-timestamp>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_link_options(knav_build INTERFACE $<BUILD_INTERFACE:-Wl,--disable-auto-image-base>)
 endif()
