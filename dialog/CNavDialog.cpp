@@ -1,0 +1,130 @@
+// The facade: construction, the framework's calls, and the operations that go to the implementation.
+#include <knav/CNavDataArray.h>
+#include <knav/CNavDialog.h>
+#include <knav/NavFolders.h>
+#include <platform/WindowMessages.h>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/NameRules.h"
+#include "dialog/ResourceModule.h"
+#include "resources/ids.h"
+
+namespace {
+
+/// The shell's own message by which a view or an extension asks a window for its IShellBrowser.
+constexpr UINT kGetIShellBrowser = WM_USER + 7;
+
+}  // namespace
+
+IMPLEMENT_DYNAMIC(CNavDialog, CZoUiDialog)
+
+BEGIN_MESSAGE_MAP(CNavDialog, CZoUiDialog)
+ON_WM_SYSCOLORCHANGE()
+ON_WM_DESTROY()
+ON_WM_HELPINFO()
+ON_WM_CONTEXTMENU()
+ON_WM_SIZE()
+ON_WM_GETMINMAXINFO()
+ON_MESSAGE(WM_KICKIDLE, &CNavDialog::OnKickIdle)
+ON_MESSAGE(WM_DEVICECHANGE, &CNavDialog::OnWmDeviceChange)
+ON_MESSAGE(kGetIShellBrowser, &CNavDialog::OnWmGetIShellBrowser)
+ON_REGISTERED_MESSAGE(CNavDialogImp::s_ownMessage, &CNavDialog::OnImpMessage)
+END_MESSAGE_MAP()
+
+CNavDialog::CNavDialog(CNavDataArray& data, CNavFilterArray& filters, UINT idd, CWnd* parent, HINSTANCE instance)
+    : CZoUiDialog(idd == 0 ? IDD_KNAV : idd, parent, idd == 0 ? knav::resourceModule() : instance),
+      m_imp(new CNavDialogImp(data, filters, idd == 0 ? IDD_KNAV : idd, *this)) {
+}
+
+CNavDialog::~CNavDialog() {
+    delete m_imp;
+}
+
+// --- the framework ---------------------------------------------------------------------------------------------------
+
+INT_PTR CNavDialog::DoModal() {
+    return m_imp->runModal();
+}
+
+BOOL CNavDialog::OnInitDialog() {
+    m_imp->initializeOle();
+    CZoUiDialog::OnInitDialog();
+    m_imp->InitializeDialogData();
+    return FALSE;  // the dialog has set the focus itself
+}
+
+void CNavDialog::DoDataExchange(CDataExchange* exchange) {
+    CZoUiDialog::DoDataExchange(exchange);
+    m_imp->DoDataExchange(exchange);
+}
+
+BOOL CNavDialog::PreTranslateMessage(MSG* message) {
+    return m_imp->PreTranslateMessage(message) || CZoUiDialog::PreTranslateMessage(message);
+}
+
+void CNavDialog::OnOK() {
+    m_imp->okButton().ClearState();
+    m_imp->OnOK();
+}
+
+void CNavDialog::OnCancel() {
+    m_imp->OnCancel();
+}
+
+ZOUI_REPLY CNavDialog::OnNotifyControlChange(unsigned int id, __int64 code) {
+    return m_imp->OnNotifyControlChange(id, code);
+}
+
+ZOUI_REPLY CNavDialog::OnNotifyGeneric(unsigned int code, __int64 parameter) {
+    return m_imp->OnNotifyGeneric(code, parameter);
+}
+
+BOOL CNavDialog::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) {
+    // The implementation sees every command first; what the host's class makes of it does not depend on that.
+    m_imp->OnCmdMsg(id, code, extra, info);
+    return CZoUiDialog::OnCmdMsg(id, code, extra, info);
+}
+
+void CNavDialog::OnSysColorChange() {
+    SendMessageToDescendants(WM_SYSCOLORCHANGE, 0, 0);
+    CZoUiDialog::OnSysColorChange();
+}
+
+void CNavDialog::OnDestroy() {
+    m_imp->OnDestroy();
+    CZoUiDialog::OnDestroy();
+}
+
+BOOL CNavDialog::OnHelpInfo(HELPINFO* info) {
+    return m_imp->OnHelpInfo(info);
+}
+
+LRESULT CNavDialog::OnKickIdle(WPARAM wParam, LPARAM lParam) {
+    return m_imp->OnKickIdle(wParam, lParam);
+}
+
+void CNavDialog::OnContextMenu(CWnd*, POINT point) {
+    m_imp->OnContextMenu(nullptr, point);
+}
+
+void CNavDialog::OnSize(UINT type, int cx, int cy) {
+    CZoUiDialog::OnSize(type, cx, cy);
+    m_imp->OnSize(cx, cy);
+}
+
+void CNavDialog::OnGetMinMaxInfo(MINMAXINFO* info) {
+    m_imp->OnGetMinMaxInfo(*info);
+}
+
+LRESULT CNavDialog::OnWmGetIShellBrowser(WPARAM, LPARAM) {
+    return reinterpret_cast<LRESULT>(m_imp->browser().GetIShellBrowser());
+}
+
+LRESULT CNavDialog::OnWmDeviceChange(WPARAM, LPARAM) {
+    return m_imp->OnDeviceChange();
+}
+
+LRESULT CNavDialog::OnImpMessage(WPARAM wParam, LPARAM) {
+    m_imp->OnOwnMessage(static_cast<CNavDialogImp::OwnMessage>(wParam));
+    return 0;
+}

@@ -1,0 +1,159 @@
+// What the hooks do when a host does not override them.
+#include <knav/CNavDialog.h>
+#include <knav/NavUrl.h>
+#include <platform/CMenu.h>
+
+#include "dialog/CNavDialogImp.h"
+#include "resources/ids.h"
+
+void CNavDialog::OnDialogHelp() {
+}
+
+int CNavDialog::SetAllDialogsData(const CString& name, unsigned long value) {
+    return m_imp->setAllDialogsData(name, value);
+}
+
+int CNavDialog::SetAllDialogsData(const CString& name, const CString& value) {
+    return m_imp->setAllDialogsData(name, value);
+}
+
+int CNavDialog::GetAllDialogsData(const CString& name, unsigned long& value) {
+    return m_imp->getAllDialogsData(name, value);
+}
+
+int CNavDialog::GetAllDialogsData(const CString& name, CString& value) {
+    return m_imp->getAllDialogsData(name, value);
+}
+
+void CNavDialog::LocateFile() {
+    m_imp->LocateFile();
+}
+
+int CNavDialog::GetProductName(CString& name) {
+    name.Empty();
+    return 0;
+}
+
+int CNavDialog::BeginDownloadFiles(CStringArray&, CDWordArray&) {
+    return 1;
+}
+
+unsigned long CNavDialog::GetDownloadActionCodes(CString&) {
+    return 4;
+}
+
+void CNavDialog::OnDialogHelp(const wchar_t*) {
+}
+
+void CNavDialog::PrepareOkMenu(CMenu* menu) {
+    if (GetReadOnlyHidden()) {
+        menu->DeleteMenu(IDM_KNAV_OPEN_READ_ONLY, MF_BYCOMMAND);
+    } else if (!GetReadOnlyAllowed()) {
+        menu->EnableMenuItem(IDM_KNAV_OPEN_READ_ONLY, MF_BYCOMMAND | MF_GRAYED);
+    }
+}
+
+void CNavDialog::PrepareToolsMenu(CMenu* menu) {
+    m_imp->PrepareToolsMenu(menu);
+}
+
+void CNavDialog::PrepareViewsMenu(CMenu* menu) {
+    m_imp->PrepareViewsMenu(menu);
+}
+
+OkHandlerErr CNavDialog::PreprocessData(CNavDataArray& data) {
+    return m_imp->PreprocessData(data);
+}
+
+OkHandlerErr CNavDialog::CombineDataTextWithFolderName(CNavData* item, CString& text) {
+    return m_imp->CombineDataTextWithFolderName(item, text);
+}
+
+int CNavDialog::UpdateFileExtension(CString& name, int replace) {
+    return m_imp->UpdateFileExtension(name, replace);
+}
+
+int CNavDialog::OnFileNameOK() {
+    return m_imp->OnFileNameOK();
+}
+
+int CNavDialog::VerifyURLSave() {
+    return m_imp->VerifyURLSave();
+}
+
+int CNavDialog::OnUrlOK() {
+    return m_imp->OnUrlOK();
+}
+
+int CNavDialog::ReportURLTransferStatus(CDWordArray& codes, CStringArray& urls, CStringArray& files) {
+    return m_imp->ReportURLTransferStatus(codes, urls, files);
+}
+
+int CNavDialog::GetRecentDirectory(CString& folder) {
+    folder.Empty();
+    return 0;
+}
+
+int CNavDialog::FindInSearchPath(const wchar_t* name, CString* found) {
+    return m_imp->FindInSearchPath(name, found);
+}
+
+void CNavDialog::DisplaySearchError(const wchar_t* name) {
+    m_imp->DisplaySearchError(name);
+}
+
+void CNavDialog::GetDefaultBrowserStartURL(CString& url) {
+    url = L"https://www.kelvara.example/";
+}
+
+int CNavDialog::LaunchBrowserDialog(CString&, const wchar_t*, const wchar_t*, const wchar_t* url) {
+    NavLaunchBrowserWith(url);
+    return 0;
+}
+
+void CNavDialog::OnURLDownloadSuccess(CString&) {
+}
+
+void CNavDialog::OnDoLocate() {
+    m_imp->LocateFile();
+}
+
+void CNavDialog::OnDoFind() {
+    m_imp->OnDoFind();
+}
+
+void CNavDialog::OnDoAddToFavorites(int command) {
+    m_imp->OnDoAddToFavorites(command);
+}
+
+void CNavDialog::Refresh() {
+    m_imp->Refresh();
+}
+
+void CNavDialog::OnFileNameChange() {
+    m_imp->OnFileNameChange();
+}
+
+void CNavDialog::OnFileNameSelectionChange() {
+    m_imp->OnFileNameSelectionChange();
+}
+
+void CNavDialog::OnFilterChange() {
+    m_imp->OnFilterChange();
+}
+
+void CNavDialog::OnFolderItemChange() {
+    m_imp->SyncEditFieldToBrowser();
+}
+
+void CNavDialog::OnFolderChange() {
+    m_imp->OnFolderChange();
+}
+
+void CNavDialog::UpdateUIState() {
+    m_imp->UpdateUIState();
+}
+
+void CNavDialog::OnPlacesChanged() {
+    m_imp->OnSelChangePlacesList();
+}

@@ -1,0 +1,108 @@
+#include "dialog/DialogMenus.h"
+
+#include <knav/NavToolsMenuItem.h>
+#include <platform/CMenu.h>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/Messages.h"
+#include "dialog/NameRules.h"
+#include "dialog/ResourceModule.h"
+#include "resources/ids.h"
+
+namespace knav {
+
+int toolsMenuItemPosition(unsigned int item) {
+    constexpr unsigned int kItems[] = {NavToolsFind,  NavToolsLocate,      NavToolsItem3,
+                                       NavToolsItem4, NavToolsAddToPlaces, NavToolsAddToFavorites};
+    const auto found = std::ranges::find(kItems, item);
+    return found == std::end(kItems) ? -1 : static_cast<int>(found - kItems);
+}
+
+unsigned int viewCommandOf(unsigned int mode) {
+    switch (mode) {
+        case 3:
+            return IDM_KNAV_LIST;
+        case 4:
+            return IDM_KNAV_DETAILS;
+        case 5:
+            return IDM_KNAV_THUMBNAILS;
+        default:
+            return 0;
+    }
+}
+
+}  // namespace knav
+
+int CNavDialogImp::PrepareButtonMenu(UINT buttonId, CMenu& menu) {
+    const UINT menuId = buttonId == IDOK             ? IDR_KNAV_OK_MENU
+                        : buttonId == IDC_KNAV_TOOLS ? IDR_KNAV_TOOLS_MENU
+                                                     : IDR_KNAV_VIEWS_MENU;
+    if (!menu.LoadMenu(menuId, knav::resourceModule())) {
+        return 0;
+    }
+    CMenu* popup = menu.GetSubMenu(0);
+    if (buttonId == IDOK) {
+        m_facade.PrepareOkMenu(popup);
+    } else if (buttonId == IDC_KNAV_TOOLS) {
+        m_facade.PrepareToolsMenu(popup);
+    } else {
+        m_facade.PrepareViewsMenu(popup);
+    }
+    return popup->GetMenuItemCount() > 0;
+}
+
+void CNavDialogImp::PrepareViewsMenu(CMenu* menu) {
+    if (const UINT command = knav::viewCommandOf(m_browser.GetViewMode())) {
+        menu->EnableMenuItem(command, MF_BYCOMMAND | MF_GRAYED);
+    }
+}
+
+void CNavDialogImp::PrepareToolsMenu(CMenu* menu) {
+    const unsigned present = m_options.toolsMenuItemsPresent;
+    // Commands of parts that the dialog does not have yet are not offered.
+    for (const UINT absent : {IDM_KNAV_FIND, IDM_KNAV_FTP_LOCATIONS, IDM_KNAV_ADD_TO_PLACES}) {
+        menu->DeleteMenu(absent, MF_BYCOMMAND);
+    }
+    if (!(present & NavToolsLocate)) {
+        menu->DeleteMenu(IDM_KNAV_LOCATE, MF_BYCOMMAND);
+    } else if (knav::trim(fileNameText().view()).empty()) {
+        menu->EnableMenuItem(IDM_KNAV_LOCATE, MF_BYCOMMAND | MF_GRAYED);
+    }
+    prepareFavorites(menu);
+}
+
+/// The Favorites submenu is the first entry that is a submenu.
+void CNavDialogImp::prepareFavorites(CMenu* menu) {
+    int position = 0;
+    while (position < menu->GetMenuItemCount() && menu->GetMenuItemID(position) != static_cast<UINT>(-1)) {
+        ++position;
+    }
+    if (position == menu->GetMenuItemCount()) {
+        return;
+    }
+    if (!(m_options.toolsMenuItemsPresent & NavToolsAddToFavorites)) {
+        menu->DeleteMenu(position, MF_BYPOSITION);
+        return;
+    }
+    CNavPathname folder;
+    if (selectedFolderPathname(folder) && folder.GetIsURL()) {
+        menu->EnableMenuItem(position, MF_BYPOSITION | MF_GRAYED);
+        return;
+    }
+    fillFavorites(*menu->GetSubMenu(position));
+}
+
+void CNavDialogImp::fillFavorites(CMenu& favorites) {
+    while (favorites.GetMenuItemCount() > 0 && favorites.DeleteMenu(0, MF_BYPOSITION)) {
+    }
+    CString folder;
+    GetCurrentFolder(folder);
+    folder.Replace(L"&", L"&&");
+    favorites.AppendMenu(MF_STRING, IDM_KNAV_FAVORITE_FOLDER, knav::messageText(IDS_KNAV_FAVORITE_FOLDER, folder));
+    const int selected = selectedCount();
+    if (selected == 1) {
+        favorites.AppendMenu(MF_STRING, IDM_KNAV_FAVORITE_ITEM, knav::messageText(IDS_KNAV_FAVORITE_ITEM));
+    } else if (selected > 1) {
+        favorites.AppendMenu(MF_STRING, IDM_KNAV_FAVORITE_ITEMS, knav::messageText(IDS_KNAV_FAVORITE_ITEMS));
+    }
+}

@@ -1,0 +1,12 @@
+// Rules of the menus, without windows.
+#pragma once
+
+namespace knav {
+
+/// Position of an item in the unprepared Tools menu; -1 for anything that is not exactly one item.
+int toolsMenuItemPosition(unsigned int item);
+
+/// The Views menu's command for a view mode, or 0.
+unsigned int viewCommandOf(unsigned int mode);
+
+}  // namespace knav

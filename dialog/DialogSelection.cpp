@@ -1,0 +1,173 @@
+// Keeping the view's selection, the result items and the file name field in step.
+#include <knav/CNavDataArray.h>
+#include <knav/CNavNode.h>
+#include <knav/FileDialogAllowReturnFolderEnabler.h>
+#include <knav/NavItemList.h>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/NameRules.h"
+#include "dialog/ScopedFlag.h"
+#include "resources/ids.h"
+#include "shell/Guard.h"
+
+CNavFilter* CNavDialogImp::GetCurrentFileExtension(CString& extension) {
+    extension = m_currentFilter->GetCount() > 0 ? m_currentFilter->GetAt(0) : CString();
+    return m_currentFilter;
+}
+
+bool CNavDialogImp::multiSelectAllowed() const {
+    return m_browser.GetMultiSelectAllowed() != 0;
+}
+
+bool CNavDialogImp::returnFolderMode() {
+    return FileDialogAllowReturnFolderEnabler::status();
+}
+
+CString CNavDialogImp::fileNameText() {
+    CString text;
+    if (m_fileName.GetSafeHwnd()) {
+        m_fileName.GetWindowText(text);
+    }
+    return text;
+}
+
+void CNavDialogImp::setFileNameText(const CString& text) {
+    if (m_fileName.GetSafeHwnd()) {
+        const knav::ScopedFlag writing(m_writingFileName);
+        m_fileName.SetWindowText(text);
+    }
+    m_nameCameFromSelection = false;
+}
+
+void CNavDialogImp::selectFileNameText() {
+    if (m_fileName.GetSafeHwnd()) {
+        m_fileName.SetEditSel(0, -1);
+    }
+}
+
+void CNavDialogImp::refuseFileName() {
+    selectFileNameText();
+    if (m_fileName.GetSafeHwnd() && m_fileName.IsWindowVisible()) {
+        m_fileName.SetFocus();
+        selectFileNameText();
+    }
+}
+
+void CNavDialogImp::SyncEditFieldToBrowser() {
+    m_browser.SendSelectionToData(m_data);
+    if (m_data.GetCount() == 0 && !returnFolderMode()) {
+        clearStaleName();
+        return;
+    }
+    const knav::ScopedFlag writing(m_writingFileName);
+    const CString before = fileNameText();
+    m_fileName.SyncToData(m_data);
+    m_fileName.SetFileNameComboBoxDirty(0);
+    m_fileNameEditDirty = false;
+    m_nameCameFromSelection = m_nameCameFromSelection || before != fileNameText();
+}
+
+/// A name that only stood for the selection goes with it. What the user typed stays, and so does every name in a
+/// dialog that saves: picking a file there is a way of typing its name.
+void CNavDialogImp::clearStaleName() {
+    if (m_nameCameFromSelection && !m_fileNameEditDirty && !m_options.creatingFile) {
+        setFileNameText(CString());
+    }
+}
+
+void CNavDialogImp::SyncBrowserToEditField() {
+    if (!m_browser.GetCurrentFolder() || !m_fileName.GetSafeHwnd()) {
+        return;
+    }
+    CStringArray names;
+    m_fileName.GetEditBoxStrings(names);
+    CNavDataArray selection;
+    for (int i = 0; i < names.GetSize(); ++i) {
+        const std::wstring_view name = names[i].view();
+        if (name.find_first_of(L"*?\\/:") != std::wstring_view::npos) {
+            continue;  // a pattern or a path is not an item of this folder, though some folders parse it as one
+        }
+        auto child = findInCurrentFolder(names[i]);
+        CNavData* item = child ? selection.AddData() : nullptr;
+        if (item) {
+            item->SetID(child.release());
+        }
+    }
+    m_browser.SyncToData(selection);
+    m_fileName.SetFileNameComboBoxDirty(0);
+}
+
+void CNavDialogImp::OnFileNameChange() {
+    m_fileNameEditDirty = true;
+    m_nameCameFromSelection = false;
+}
+
+void CNavDialogImp::OnFileNameSelectionChange() {
+    m_fileNameEditDirty = true;
+    m_nameCameFromSelection = false;
+}
+
+void CNavDialogImp::setCurrentFilter(CNavFilter* filter) {
+    m_currentFilter = filter ? filter : &m_noFilter;
+    m_browser.SetCurrentFilter(m_currentFilter);
+}
+
+void CNavDialogImp::OnFilterChange() {
+    setCurrentFilter(m_filters.GetData(GetFilterIndex()));
+    if (m_options.creatingFile) {
+        updateExtensionForType();
+    }
+    if (m_browser.GetCurrentObjectID()) {
+        m_browser.BrowseCurrentObject();
+    }
+    UpdateAutoCompletion();
+}
+
+/// A drawing that is to be saved as another type gets that type's extension at once, so that the user sees the name
+/// that will be written. A name without an extension gets it on OK.
+void CNavDialogImp::updateExtensionForType() {
+    CString name = fileNameText();
+    if (!knav::extensionDot(name.view())) {
+        return;
+    }
+    const CString before = name;
+    m_facade.UpdateFileExtension(name, 1);
+    if (name != before) {
+        const bool dirty = m_fileNameEditDirty;
+        setFileNameText(name);
+        m_fileNameEditDirty = dirty;
+        m_fileName.SetFileNameComboBoxDirty(1);
+    }
+}
+
+int CNavDialogImp::selectedCount() const {
+    const HWND list = m_listInUse->GetSafeHwnd();
+    return list ? static_cast<int>(ListView_GetSelectedCount(list)) : 0;
+}
+
+void CNavDialogImp::UpdateUIState() {
+    ITEMIDLIST* current = m_browser.GetCurrentObjectID();
+    const CNavNode* node = currentFolderNode();
+    const auto enable = [this](CWnd& control, bool on) {
+        if (control.GetSafeHwnd() && control.IsWindowEnabled() != (on ? TRUE : FALSE)) {
+            leaveIfFocused(control, on);
+            control.EnableWindow(on);
+        }
+    };
+    enable(m_backButton, m_previous.size() > 1 && !m_policies.noBackButton);
+    enable(m_upButton, current && current->mkid.cb != 0);
+    enable(m_newFolderButton, node && (node->IsInFileSystem() || node->IsDropTarget()));
+    enable(m_deleteButton, selectedCount() > 0);
+}
+
+void CNavDialogImp::leaveIfFocused(CWnd& control, bool staysEnabled) {
+    if (!staysEnabled && ::GetFocus() == control.GetSafeHwnd()) {
+        m_facade.NextDlgCtrl();
+    }
+}
+
+void CNavDialogImp::Refresh() {
+    if (IShellView* view = m_browser.GetCurrentShellView()) {
+        knav::guarded([&] { return view->Refresh(); });
+    }
+}

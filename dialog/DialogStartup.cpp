@@ -1,0 +1,294 @@
+// What happens before the dialog is first painted, in this order.
+#include <knav/CNavExtensionArray.h>
+#include <knav/CNavNode.h>
+#include <knav/NavFolders.h>
+#include <knav/NavItemList.h>
+#include <knav/NavNames.h>
+#include <ry/FileSystem.h>
+
+#include <array>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/FolderQuestions.h"
+#include "dialog/Messages.h"
+#include "dialog/NameRules.h"
+#include "dialog/NavLayout.h"
+#include "dialog/ResourceModule.h"
+#include "resources/ids.h"
+
+namespace {
+
+constexpr unsigned long kDetails = 4;
+
+struct ButtonLook {
+    CNavBitmapButton* button;
+    UINT picture;
+    UINT tip;
+};
+
+CString currentDirectory() {
+    wchar_t buffer[260];
+    const DWORD length = GetCurrentDirectoryW(259, buffer);
+    return length > 0 && length < 259 ? CString(buffer) : CString();
+}
+
+/// The folder of the host's executable, without its last backslash (but "C:\").
+CString executableFolder() {
+    wchar_t buffer[260];
+    const DWORD length = GetModuleFileNameW(nullptr, buffer, 259);
+    if (length == 0 || length >= 259) {
+        return CString();
+    }
+    PathRemoveFileSpecW(buffer);
+    return buffer;
+}
+
+CString windowsFolder() {
+    wchar_t buffer[260];
+    const UINT length = GetWindowsDirectoryW(buffer, 260);
+    return length > 0 && length < 260 ? CString(buffer) : CString();
+}
+
+void hide(CWnd& control) {
+    if (control.GetSafeHwnd()) {
+        control.EnableWindow(FALSE);
+        control.ShowWindow(SW_HIDE);
+    }
+}
+
+}  // namespace
+
+void CNavDialogImp::InitializeDialogData() {
+    NavUpdateShellCache();
+    startName();
+    if (m_options.foldersOnly) {
+        startFoldersOnly();
+    }
+    if (!m_options.caption.IsEmpty()) {
+        m_facade.SetWindowText(m_options.caption);
+    }
+    startAccelerators();
+    startViewMode();
+    knav::applyPolicies(m_policies);
+    startBrowserHost();
+    startExtensions();
+    const CString folder = initialFolderText();
+    startFileTypes();
+    startButtons();
+    SetFilterIndex(static_cast<int>(GetInitialFilterIndex()));
+    m_appendCompletion = GetAutoCompleteRegValue();
+    startLookIn();
+    showInitialFolder(folder);
+    pushOptionsToControls();
+    SyncListToComboBox();
+    if (!m_options.okButtonText.IsEmpty() && m_okButton.GetSafeHwnd()) {
+        m_okButton.SetWindowText(m_options.okButtonText);
+    }
+    loadFileNameHistory();
+    startFileName();
+    m_facade.UpdateUIState();
+    m_placesListCustomized = false;
+    startPlaces();
+    startFocus();
+}
+
+void CNavDialogImp::startName() {
+    if (m_facade.GetDialogName().IsEmpty() && !m_options.caption.IsEmpty()) {
+        m_facade.SetDialogName(m_options.caption);
+    }
+}
+
+void CNavDialogImp::startFoldersOnly() {
+    m_options.readOnlyAllowed = 0;
+    SetMultiSelectAllowed(0);
+    m_options.toolsMenuItemsPresent &= ~static_cast<unsigned>(NavToolsFind | NavToolsLocate);
+    m_policies.noFileMru = 1;
+    m_policies.noRecentDocsHistory = 1;
+}
+
+void CNavDialogImp::startAccelerators() {
+    if (!m_accelerators) {
+        m_accelerators = LoadAcceleratorsW(knav::resourceModule(), MAKEINTRESOURCEW(IDR_KNAV_KEYS));
+    }
+}
+
+void CNavDialogImp::startViewMode() {
+    unsigned long mode = kDetails;
+    if (!m_facade.GetDialogData(L"ViewMode", mode)) {
+        mode = kDetails;
+    }
+    if (m_browser.GetViewMode() == mode) {
+        return;
+    }
+    m_browser.StoreViewMode(mode);
+    m_browser.ApplyViewModeToList(mode);
+    m_browser.BrowseCurrentObject();
+}
+
+void CNavDialogImp::startBrowserHost() {
+    m_browser.SetViewWindow(&m_viewWindow);
+    m_browser.SetBuddyWindow(&m_buddy);
+    m_browser.SetListCtrl(m_listInUse);
+    m_browser.SetBrowseOwner(this);
+    m_browser.SetViewOwnerWindow(&m_facade, this);
+    m_browser.SetFoldersOnly(m_options.foldersOnly);
+    m_viewWindow.SetZoUiParent(&m_facade);
+    if (m_buddy.GetSafeHwnd()) {
+        m_buddy.ShowWindow(SW_HIDE);
+    }
+}
+
+void CNavDialogImp::startExtensions() {
+    CString product;
+    m_facade.GetProductName(product);
+}
+
+CString CNavDialogImp::initialFolderText() {
+    CString text = m_options.forceInitialFolder;
+    if (text.IsEmpty() && !m_facade.GetDialogData(L"InitialDirectory", text)) {
+        text = m_options.defaultInitialFolder;
+    }
+    if (text.IsEmpty()) {
+        text = currentDirectory();
+    }
+    const bool desktop = text.CompareNoCase(L"Desktop") == 0;
+    const std::wstring replacement = Kelvara::Tessary::PAL::FileSystem::networkAwareChangeDir(text, desktop);
+    return replacement.empty() ? text : CString(replacement);
+}
+
+void CNavDialogImp::startFileTypes() {
+    if (m_options.foldersOnly) {
+        hide(m_fileType);
+        hide(m_fileTypeLabel);
+    } else if (m_fileType.GetSafeHwnd()) {
+        m_fileType.FillWithFilterArray(m_filters);
+    }
+}
+
+void CNavDialogImp::startButtons() {
+    for (CNavBitmapButton* button : {&m_backButton, &m_upButton, &m_deleteButton, &m_webButton, &m_newFolderButton}) {
+        if (button->GetSafeHwnd()) {
+            m_facade.AutoLoadControl(*button);
+        }
+    }
+    if (m_policies.noBackButton) {
+        hide(m_backButton);
+    }
+}
+
+void CNavDialogImp::startLookIn() {
+    if (!m_lookIn.GetSafeHwnd()) {
+        return;
+    }
+    m_facade.AutoLoadControl(m_lookIn);
+    m_lookIn.SetNoFTP(m_options.noFtp || m_options.noUrlsAllowed);
+    m_lookIn.SetNoExtraExtensions(m_options.noExtraExtensions || m_options.noUrlsAllowed);
+}
+
+void CNavDialogImp::showInitialFolder(const CString& folder) {
+    if (folder.CompareNoCase(L"Desktop") == 0) {
+        const auto desktop = knav::ItemList::adopt(NavGetDesktopFolderItem(m_facade.GetSafeHwnd()));
+        showInitialList(desktop.get());
+        return;
+    }
+    auto list = knav::ItemList::adopt(NavGetQualifiedItemListFromFolderFullPath(folder));
+    for (const CString& fallback : {executableFolder(), windowsFolder()}) {
+        if (knav::canBeShown(list.get())) {
+            break;
+        }
+        SetCurrentDirectoryW(fallback);
+        list = knav::ItemList::adopt(NavGetQualifiedItemListFromFolderFullPath(fallback));
+    }
+    showInitialList(list.get());
+}
+
+void CNavDialogImp::showInitialList(ITEMIDLIST* list) {
+    if (!list || !m_lookIn.GetSafeHwnd()) {
+        return;
+    }
+    m_lookIn.SetCurSel(m_lookIn.FillToFolder(list));
+    AddItemToPrevious(list);
+}
+
+void CNavDialogImp::startFileName() {
+    if (m_options.foldersOnly) {
+        hide(m_fileName);
+        hide(m_fileNameLabel);
+        return;
+    }
+    if (!m_fileName.GetSafeHwnd()) {
+        return;
+    }
+    m_fileName.LimitText(static_cast<int>(knav::kLongestPath));
+    CString name;
+    FindInitialFileName(name);
+    setFileNameText(name);
+    SyncBrowserToEditField();
+}
+
+void CNavDialogImp::FindInitialFileName(CString& name) {
+    name = m_options.initialFileName;
+    if (name.IsEmpty()) {
+        return;
+    }
+    if (!knav::extensionDot(name.view())) {
+        if (!m_options.defaultFileExtension.IsEmpty()) {
+            name += L"." + m_options.defaultFileExtension;
+        }
+        return;
+    }
+    CString pattern;
+    CNavFilter* filter = GetCurrentFileExtension(pattern);
+    if (m_options.creatingFile && !filter->IsAllowed(name)) {
+        name = knav::withExtensionOf(name.view(), pattern.view());
+    }
+}
+
+void CNavDialogImp::startPlaces() {
+    if (!m_places.GetSafeHwnd()) {
+        return;
+    }
+    if (m_policies.noPlacesList) {
+        hide(m_places);
+        m_layout.closeColumn(IDC_KNAV_PLACES);
+        return;
+    }
+    CString order;
+    if (m_facade.GetAllDialogsData(L"PlacesOrder0", order)) {
+        m_places.LoadFromOrder();
+    } else {
+        m_facade.AutoLoadControl(m_places);
+    }
+    for (int i = 0; i < m_places.GetCount(); ++i) {
+        SetPlacesId(i);
+    }
+}
+
+void CNavDialogImp::startPictures() {
+    const ButtonLook looks[] = {
+        {&m_backButton, IDB_KNAV_BACK, IDS_KNAV_TIP_BACK},
+        {&m_upButton, IDB_KNAV_UP, IDS_KNAV_TIP_UP},
+        {&m_webButton, IDB_KNAV_WEB, IDS_KNAV_TIP_WEB},
+        {&m_refreshButton, IDB_KNAV_REFRESH, IDS_KNAV_TIP_REFRESH},
+        {&m_deleteButton, IDB_KNAV_DELETE, IDS_KNAV_TIP_DELETE},
+        {&m_newFolderButton, IDB_KNAV_NEW_FOLDER, IDS_KNAV_TIP_NEW_FOLDER},
+        {&m_toolsButton, IDB_KNAV_TOOLS, IDS_KNAV_TIP_TOOLS},
+        {&m_viewsButton, IDB_KNAV_VIEWS, IDS_KNAV_TIP_VIEWS},
+    };
+    for (const ButtonLook& look : looks) {
+        look.button->SetPictureId(look.picture);
+        look.button->SetTipText(knav::messageText(look.tip));
+    }
+}
+
+void CNavDialogImp::captureLayout() {
+    m_layout.capture(m_facade.GetSafeHwnd(), knav::navLayoutRows(), IDC_KNAV_VIEW);
+}
+
+void CNavDialogImp::startFocus() {
+    CWnd& first = m_options.foldersOnly ? static_cast<CWnd&>(*m_listInUse) : m_fileName;
+    if (first.GetSafeHwnd()) {
+        first.SetFocus();
+    }
+    selectFileNameText();
+}

@@ -1,0 +1,109 @@
+// The most recently used file names, and the name searched along the search path.
+#include <knav/CNavDataArray.h>
+#include <ry/RyUt.h>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/Messages.h"
+#include "dialog/NameRules.h"
+#include "resources/ids.h"
+
+namespace {
+
+constexpr int kLongestEntry = 254;
+
+}  // namespace
+
+/// The form in which a name enters the history, or nothing when it does not.
+std::optional<CString> CNavDialogImp::historyEntry(const CString& name) {
+    if (m_options.creatingFile && !name.IsEmpty()) {
+        return name;
+    }
+    if (name.IsEmpty() || name.GetLength() > kLongestEntry) {
+        return std::nullopt;
+    }
+    RyFileStatus status;
+    if (RyUt::GetFileStatus(name, status)) {
+        return status.m_fullName;
+    }
+    CNavPathname folder;
+    CString entry;
+    if (selectedFolderPathname(folder)) {
+        folder.GetFullPath(entry);
+    }
+    entry += L"\\" + name;
+    entry.Replace(L"\\\\", L"\\");
+    if (entry.GetLength() > kLongestEntry || !RyUt::GetFileStatus(entry, status)) {
+        return std::nullopt;
+    }
+    return entry;
+}
+
+int CNavDialogImp::AddFileNameToMRU(const CString& name) {
+    if (m_policies.noFileMru || m_policies.noRecentDocsHistory) {
+        return 0;
+    }
+    const CString text = fileNameText();
+    const auto entry = historyEntry(name);
+    if (!entry) {
+        return 0;
+    }
+    const int dot = entry->ReverseFind(L'.');
+    const CString base = dot < 0 ? *entry : entry->Left(dot);
+    const int found = m_fileName.FindStringExact(-1, *entry);
+    if (found > 0) {
+        m_fileName.DeleteString(found);
+        m_fileName.InsertString(0, *entry);
+        // Deleting the item that the field shows empties the field.
+        setFileNameText(text);
+    } else if (found < 0 && (base.IsEmpty() || m_fileName.FindStringExact(-1, base) < 0)) {
+        m_fileName.InsertString(0, *entry);
+    }
+    return 1;
+}
+
+void CNavDialogImp::AddDataToHistory() {
+    if (m_policies.noRecentDocsHistory) {
+        return;
+    }
+    for (int i = 0; i < m_data.GetCount(); ++i) {
+        const CNavData& item = *m_data.GetData(i);
+        if (item.GetDataType() == NAV_DATA_FILE || item.GetDataType() == NAV_DATA_NETWORK) {
+            SHAddToRecentDocs(SHARD_PATHW, item.GetText());
+        }
+    }
+}
+
+void CNavDialogImp::LocateFile() {
+    const CString name = CString(knav::trim(fileNameText().view()));
+    if (name.IsEmpty()) {
+        return;
+    }
+    CString found;
+    if (!m_facade.FindInSearchPath(name, &found)) {
+        m_facade.DisplaySearchError(name);
+        refuseFileName();
+        return;
+    }
+    setFileNameText(found);
+    m_fileNameEditDirty = true;
+    m_fileName.SetFileNameComboBoxDirty(1);
+    refuseFileName();
+}
+
+int CNavDialogImp::FindInSearchPath(const wchar_t* name, CString* found) {
+    std::wstring path(260, L'\0');
+    DWORD length = SearchPathW(nullptr, name, nullptr, static_cast<DWORD>(path.size()), path.data(), nullptr);
+    if (length > path.size()) {
+        path.resize(length + 1);
+        length = SearchPathW(nullptr, name, nullptr, static_cast<DWORD>(path.size()), path.data(), nullptr);
+    }
+    if (length == 0 || length > path.size()) {
+        return 0;
+    }
+    *found = CString(path.c_str(), static_cast<int>(length));
+    return 1;
+}
+
+void CNavDialogImp::DisplaySearchError(const wchar_t* name) {
+    knav::showMessage(IDS_KNAV_LOCATE_FAILED, name);
+}

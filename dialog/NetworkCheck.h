@@ -1,0 +1,47 @@
+// Whether a network location can be reached, asked of the network without ever blocking the dialog for long.
+#pragma once
+
+#include <platform/CString.h>
+
+#include <string>
+
+namespace knav {
+
+/// Result code of a name that is no network name at all.
+inline constexpr unsigned kNetworkNameInvalid = 16;
+
+struct NetworkAnswer {
+    bool reachable = false;
+    unsigned code = 0;
+    CString message;  ///< the network's own words, when it has any
+};
+
+/// Asks the network. Called on a worker thread; it may block.
+class NetworkProbe {
+public:
+    virtual ~NetworkProbe() = default;
+    /// Each returns a system error code, ERROR_SUCCESS when the location is there. `message` may receive the network's
+    /// own words.
+    virtual unsigned long server(const std::wstring& server, std::wstring& message) = 0;
+    virtual unsigned long share(const std::wstring& server, const std::wstring& share, std::wstring& message) = 0;
+    virtual unsigned long path(const std::wstring& path, std::wstring& message) = 0;
+};
+
+/// The probe in use: the platform's network functions, until another is set (null goes back to them). The caller keeps
+/// its probe alive until the process ends, since an abandoned check may still run on it.
+NetworkProbe& networkProbe();
+void setNetworkProbe(NetworkProbe* probe);
+
+/// What kind of network location a text names.
+enum class NetworkPlace { None, Server, Share, Path };
+struct NetworkName {
+    NetworkPlace place = NetworkPlace::None;
+    std::wstring server;  ///< with its two backslashes
+    std::wstring share;   ///< without separators
+};
+NetworkName splitNetworkName(std::wstring_view text);
+
+/// Checks a location on a worker thread and gives up after `limit` milliseconds: it then counts as unreachable.
+NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, unsigned limit = 10'000);
+
+}  // namespace knav

@@ -1,0 +1,155 @@
+// The checks of a chosen file's drive, network location and presence.
+#include <direct.h>
+#include <knav/CNavDataArray.h>
+#include <platform/CWaitCursor.h>
+#include <platform/Prompt.h>
+#include <platform/Url.h>
+#include <wininet.h>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/Messages.h"
+#include "dialog/NameRules.h"
+#include "dialog/NetworkCheck.h"
+#include "resources/ids.h"
+#include "shell/ScopedHandle.h"
+#include "shell/TextRules.h"
+
+namespace {
+
+/// Makes a drive current to find out whether it can be used, and goes back.
+bool canBeCurrent(const std::wstring& drive) {
+    const int previous = _getdrive();
+    const bool ready = _chdrive(drive[0] - L'A' + 1) == 0;
+    if (ready) {
+        _chdrive(previous);
+    }
+    return ready;
+}
+
+/// The message for a drive that cannot be used, or 0.
+UINT driveProblem(const std::wstring& drive) {
+    const UINT type = GetDriveTypeW(drive.c_str());
+    const bool unknown = type < DRIVE_REMOVABLE;
+    if (!unknown && type != DRIVE_REMOVABLE && type != DRIVE_CDROM) {
+        return 0;
+    }
+    if (canBeCurrent(drive)) {
+        return 0;
+    }
+    return unknown ? IDS_KNAV_NO_DRIVE : IDS_KNAV_DRIVE_NOT_READY;
+}
+
+struct GuardedType {
+    const wchar_t* extension;
+    UINT caption;
+};
+
+/// Types whose files other programs keep open while they show them.
+constexpr GuardedType kGuardedTypes[] = {{L"VMF", IDS_KNAV_DRAWING_IN_USE_TITLE},
+                                         {L"VMFx", IDS_KNAV_DRAWING_IN_USE_TITLE},
+                                         {L"pdf", IDS_KNAV_PDF_IN_USE_TITLE}};
+
+bool isInUse(const CString& path) {
+    const HANDLE file =
+        CreateFileW(path, GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return true;
+    }
+    CloseHandle(file);
+    return false;
+}
+
+}  // namespace
+
+int CNavDialogImp::validateDrive(const CString& name) {
+    const auto drive = knav::driveOf(name.view());
+    const UINT problem = drive ? driveProblem(*drive) : 0;
+    if (problem == 0) {
+        return 1;
+    }
+    knav::showMessage(problem, *drive);
+    selectFileNameText();
+    return 0;
+}
+
+int CNavDialogImp::validateUNC(const CString& name) {
+    if (!NavIsUNCPath(name)) {
+        return 1;
+    }
+    knav::NetworkAnswer answer;
+    {
+        const CWaitCursor wait;
+        answer = knav::checkNetworkLocation(knav::networkProbe(), name);
+    }
+    if (answer.reachable) {
+        return 1;
+    }
+    if (!answer.message.IsEmpty()) {
+        AfxMessageBox(answer.message, MB_OK);
+    } else {
+        knav::showMessage(
+            answer.code == knav::kNetworkNameInvalid ? IDS_KNAV_INVALID_NAME : IDS_KNAV_NETWORK_UNREACHABLE, name);
+    }
+    refuseFileName();
+    return 0;
+}
+
+void CNavDialogImp::canonicalizeSiteItem(CNavData& item) {
+    if (item.GetDataType() != NAV_DATA_FTP) {
+        return;
+    }
+    const CString text = item.GetText();
+    DWORD service = 0;
+    CString server;
+    CString object;
+    INTERNET_PORT port = 0;
+    if (text.Find(L"://") < 1 || !AfxParseURL(text, service, server, object, port)) {
+        return;
+    }
+    wchar_t canonical[260];
+    DWORD length = 260;
+    if (InternetCanonicalizeUrlW(text, canonical, &length, ICU_DECODE | ICU_NO_ENCODE)) {
+        item.SetText(canonical);
+    }
+}
+
+bool CNavDialogImp::mayReplace(CNavData& item) {
+    const CString name = knav::trimName(item.GetText(), true);
+    CZoUiPathname path;
+    if (path.Parse(name, false) != PathErr::None || !path.Exists()) {
+        return true;
+    }
+    if (refuseFileInUse(name)) {
+        return false;
+    }
+    const CString question = knav::messageText(IDS_KNAV_REPLACE, name);
+    if (knav::showText(m_facade, question, m_options.caption, MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) == IDYES) {
+        return true;
+    }
+    refuseFileName();
+    return false;
+}
+
+bool CNavDialogImp::refuseFileInUse(const CString& name) {
+    const CString extension = name.Mid(name.ReverseFind(L'.') + 1);
+    for (const GuardedType& type : kGuardedTypes) {
+        if (extension.CompareNoCase(type.extension) == 0 && isInUse(name)) {
+            knav::showText(m_facade, knav::messageText(IDS_KNAV_FILE_IN_USE, name), knav::messageText(type.caption),
+                           MB_OK | MB_ICONWARNING);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool CNavDialogImp::refuseMissing(CNavData& item) {
+    if (item.GetPathname()->Exists() || m_browser.GetMultiSelectAllowed()) {
+        return false;
+    }
+    const knav::TaskDialogPair pairs[] = {{L"FeatureName", m_options.caption}, {L"FileName", fileNameText()}};
+    if (!knav::showTaskDialog(m_facade, L"Standard.FileNotFound", pairs)) {
+        knav::showMessage(IDS_KNAV_INVALID_PATH, fileNameText());
+    }
+    refuseFileName();
+    return true;
+}

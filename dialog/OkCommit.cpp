@@ -1,0 +1,126 @@
+// What the first typed name turns out to be: a file, a folder to enter, a filter to set, or nothing usable.
+#include <knav/CNavDataArray.h>
+#include <knav/CNavNode.h>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/Messages.h"
+#include "resources/ids.h"
+#include "shell/TextRules.h"
+
+int CNavDialogImp::CommitFileNameEdit() {
+    if (m_data.GetCount() == 0) {
+        m_fileName.SendFileNameToData(m_data);
+    }
+    CNavData* item = m_data.GetData(0);
+    if (!item) {
+        return 0;
+    }
+    const CString text = item->GetText();
+    if (text.IsEmpty()) {
+        return 1;
+    }
+    if (!validateUNC(text) || !validateDrive(text)) {
+        return 0;
+    }
+    CNavPathname folder;
+    selectedFolderPathname(folder);
+    CNavNode* node = currentFolderNode();
+    CNavPathname path;
+    if (path.ParseRelative(text, &folder, node, 1) == PathErr::None) {
+        return commitParsed(*item, path, node);
+    }
+    return commitUnparsed(*item, text, folder, node);
+}
+
+int CNavDialogImp::commitParsed(CNavData& item, CNavPathname& path, CNavNode* node) {
+    switch (path.GetType()) {
+        case CZoUiPathname::NewFile:
+        case CZoUiPathname::ExistingFile:
+            return acceptFile(item, path, node);
+        case CZoUiPathname::Wildcard:
+            NavigateToWildCard(path);
+            return 0;
+        case CZoUiPathname::Directory:
+            if (m_options.foldersOnly) {
+                item.SetPathname(&path);
+                return 1;
+            }
+            enterTypedFolder(path);
+            return 0;
+        case CZoUiPathname::Invalid:
+            knav::showMessage(IDS_KNAV_INVALID_PATH, item.GetText());
+            selectFileNameText();
+            return 0;
+        default:
+            return 0;
+    }
+}
+
+int CNavDialogImp::acceptFile(CNavData& item, CNavPathname& path, CNavNode* node) {
+    item.SetPathname(&path);
+    if (item.GetDataType() == NAV_DATA_FTP) {
+        return 1;
+    }
+    if (!path.GetIsExtension()) {
+        item.SetDataType(NavIsUNCPath(path.GetPathString()) ? NAV_DATA_NETWORK : NAV_DATA_FILE);
+        return 1;
+    }
+    item.SetDataType(NAV_DATA_EXTENSION);
+    if (node) {
+        item.SetExtensionName(node->GetExtensionName());
+    }
+    CString user;
+    CString password;
+    if (m_browser.GetCurrentLogin(user, password)) {
+        item.SetUserName(user);
+        item.SetPassword(password);
+    }
+    return 1;
+}
+
+int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathname& folder, CNavNode* node) {
+    CNavPathname path;
+    path.ParseRelative(text, &folder, node, 1);
+    if (path.GetType() == CZoUiPathname::Wildcard) {
+        NavigateToWildCard(path);
+        return 0;
+    }
+    if (NavIsUNCPath(text)) {
+        item.SetDataType(NAV_DATA_NETWORK);
+        return NavigateToFolder(text) ? 0 : 1;
+    }
+    const wchar_t last = text.GetAt(text.GetLength() - 1);
+    if (NavIsURL(text) && ((last != L'/' && last != L'\\') || m_options.foldersOnly)) {
+        item.SetDataType(NAV_DATA_URL);
+        path.Parse(text, false);
+        item.SetPathname(&path);
+        return 1;
+    }
+    const knav::TaskDialogPair pairs[] = {
+        {L"ObjectName", m_options.caption},
+        {L"FieldName", knav::messageText(IDS_KNAV_UNSUPPORTED_FIELD)},
+        {L"UnsupportedCharacters", knav::messageText(IDS_KNAV_UNSUPPORTED_CHARACTERS)}};
+    if (!knav::showTaskDialog(m_facade, L"Standard.Object.UnsupportCharacters", pairs)) {
+        knav::showMessage(IDS_KNAV_INVALID_PATH, text);
+    }
+    refuseFileName();
+    return 0;
+}
+
+void CNavDialogImp::enterTypedFolder(CNavPathname& folder) {
+    const bool dirty = m_fileNameEditDirty;
+    NavigateToDir(folder);
+    if (dirty) {
+        setFileNameText(CString());
+    }
+}
+
+void CNavDialogImp::parseOtherItems() {
+    for (int i = 1; i < m_data.GetCount(); ++i) {
+        CNavData& item = *m_data.GetData(i);
+        CNavPathname path;
+        if (path.Parse(item.GetText(), true) == PathErr::None || path.GetIsURL()) {
+            item.SetPathname(&path);
+        }
+    }
+}

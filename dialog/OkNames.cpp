@@ -1,0 +1,195 @@
+// How the names that were typed or selected become full paths with a kind.
+#include <knav/CNavDataArray.h>
+#include <knav/CNavNode.h>
+#include <knav/NavFolders.h>
+#include <knav/NavLinks.h>
+#include <knav/NavNames.h>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/NameRules.h"
+#include "shell/TextRules.h"
+
+namespace {
+
+bool isRoot(const CNavNode* node) {
+    return node && (node->GetType() == NavNodeExtensionRoot || node->GetType() == NavNodeWebFoldersRoot);
+}
+
+bool isUrlLike(const CNavNode* node) {
+    return node && (node->IsExtensionType() || node->IsInternetType() || node->IsWebFoldersType());
+}
+
+}  // namespace
+
+OkHandlerErr CNavDialogImp::PreprocessData(CNavDataArray& data) {
+    if (m_fileName.IsFileNameComboBoxDirty() || data.GetCount() == 0) {
+        m_fileName.SendFileNameToData(data);
+    }
+    for (int i = 0; i < data.GetCount(); ++i) {
+        if (const OkHandlerErr error = finishItem(*data.GetData(i)); error != OkErrNone) {
+            reportNameError(error);
+            return error;
+        }
+    }
+    return OkErrNone;
+}
+
+OkHandlerErr CNavDialogImp::finishItem(CNavData& item) {
+    CString text = item.GetText();
+    if (const auto expansion = knav::expandEnvironment(text.view()); expansion.replaced > 0) {
+        text = expansion.text;
+        item.SetText(text);
+    }
+    if (const OkHandlerErr error = m_facade.CombineDataTextWithFolderName(&item, text); error != OkErrNone) {
+        return error;
+    }
+    text = knav::trimName(text.view(), false);
+    UpdateFileExtension(text, 0);
+    resolveShortcut(item, text);
+    item.SetText(text);
+    if (CString name = item.GetTextInFolder(); isRoot(nodeForNames()) && !name.IsEmpty()) {
+        item.SetText(name);
+    }
+    classifyItem(item, text);
+    return OkErrNone;
+}
+
+void CNavDialogImp::resolveShortcut(CNavData& item, CString& text) {
+    if (!item.GetID()) {
+        return;
+    }
+    const auto target = knav::ItemList::adopt(NavResolveLink(item.GetID(), 0));
+    CString name;
+    if (target && NavGetItemDisplayNameInDesktop(SHGDN_FORPARSING, target.get(), name) && !name.IsEmpty()) {
+        text = name;
+    }
+}
+
+void CNavDialogImp::classifyItem(CNavData& item, const CString& text) {
+    CZoUiPathname path;
+    const CNavNode* node = lookInNode();
+    if (path.Parse(text, true) == PathErr::None && path.WasAbsolute()) {
+        item.SetDataType(NAV_DATA_FILE);
+    } else if (NavIsUNCPath(text)) {
+        item.SetDataType(NAV_DATA_NETWORK);
+    } else if (node && node->IsWebFoldersType()) {
+        item.SetDataType(NAV_DATA_FTP);
+    } else if (node && node->IsExtensionType()) {
+        item.SetDataType(NAV_DATA_EXTENSION);
+        item.SetExtensionName(node->GetExtensionName());
+    } else {
+        item.SetDataType(NavIsURL(text) ? NAV_DATA_URL : NAV_DATA_FILE);
+    }
+}
+
+CNavNode* CNavDialogImp::nodeForNames() {
+    CNavNode* node = lookInNode();
+    return node ? node : currentFolderNode();
+}
+
+std::optional<CString> CNavDialogImp::folderTextForNames(CNavNode* node, CString& prefix, bool& unnamed) {
+    unnamed = false;
+    CString folder;
+    CNavPathname pathname;
+    if (selectedFolderPathname(pathname)) {
+        pathname.GetAttachedPrefix(prefix);
+        if (!pathname.GetFullPath(folder)) {
+            return std::nullopt;
+        }
+        return folder;
+    }
+    if (!node) {
+        return std::nullopt;
+    }
+    unnamed = !node->GetNameForParsing(folder) || folder.IsEmpty();
+    return folder;
+}
+
+OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CString& text) {
+    text = item->GetText();
+    CNavNode* node = nodeForNames();
+    if (isRoot(node)) {
+        return OkErrNone;
+    }
+    CString prefix;
+    bool unnamed = false;
+    const std::optional<CString> folder = folderTextForNames(node, prefix, unnamed);
+    const NAV_DATA_TYPE type = item->GetDataType();
+    if (unnamed || type == NAV_DATA_URL || type == NAV_DATA_NETWORK) {
+        return OkErrNone;
+    }
+    CNavPathname parsed;
+    if (parsed.Parse(text, true) == PathErr::None) {
+        if (parsed.GetType() == CZoUiPathname::Wildcard && !prefix.IsEmpty()) {
+            text = prefix + text;
+            return OkErrNone;
+        }
+        if (parsed.WasAbsolute()) {
+            return OkErrNone;
+        }
+    }
+    if (NavIsURL(text)) {
+        text.Replace(L'\\', L'/');
+        return OkErrNone;
+    }
+    if (isUrlLike(node)) {
+        text = knav::joinUrl(folder.value_or(CString()).view(), text.view());
+        return OkErrNone;
+    }
+    if (node && !node->IsInFileSystem()) {
+        return OkErrNoFileSystemFolder;
+    }
+    return knav::appendPath(text, folder.value_or(CString())) ? OkErrNone : OkErrNameTooLong;
+}
+
+int CNavDialogImp::UpdateFileExtension(CString& name, int replace) {
+    if (IsExistingFolder(name)) {
+        return 1;
+    }
+    CString pattern;
+    GetCurrentFileExtension(pattern);
+    knav::ExtensionFacts facts{pattern.view(), replace != 0, m_options.creatingFile != 0,
+                               m_options.acceptAnyFileExtension != 0};
+    facts.context = &m_filters;
+    facts.isKnown = [](const void* filters, std::wstring_view typed) {
+        const auto* known = static_cast<const CNavFilterArray*>(filters);
+        return const_cast<CNavFilterArray*>(known)->Find(CString(typed)) >= 0;
+    };
+    const knav::ExtensionOutcome outcome = knav::withFilterExtension(name.view(), facts);
+    name = outcome.name;
+    return outcome.result;
+}
+
+int CNavDialogImp::IsExistingFolder(const CString& name) {
+    CString directory;
+    if (PathIsUNCServerW(name) || PathIsUNCServerShareW(name) || ExtractDirectoryFromURL(name, directory)) {
+        return 1;
+    }
+    CNavPathname parsed;
+    CNavNode* node = lookInNode();
+    if (node && isUrlLike(node)) {
+        CNavPathname folder;
+        selectedFolderPathname(folder);
+        return parsed.ParseRelative(name, &folder, node, 0) == PathErr::None &&
+               parsed.GetType() == CZoUiPathname::Directory;
+    }
+    parsed.CZoUiPathname::Parse(name, false);
+    return parsed.GetType() == CZoUiPathname::Directory;
+}
+
+int CNavDialogImp::ExtractDirectoryFromURL(const CString& url, CString& directory) {
+    const auto path = knav::pathOfFileUrl(url.view());
+    const DWORD attributes = path ? GetFileAttributesW(path->c_str()) : INVALID_FILE_ATTRIBUTES;
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_DIRECTORY)) {
+        return 0;
+    }
+    directory = *path;
+    return 1;
+}
+
+void CNavDialogImp::GetSingleDataFullPath(CString& path) {
+    path.Empty();
+    if (m_data.GetCount() == 1) {
+        m_facade.CombineDataTextWithFolderName(m_data.GetData(0), path);
+    }
+}

@@ -1,0 +1,136 @@
+// The road from OK to a closed dialog, as the list of decisions that it is.
+#include <knav/CNavDataArray.h>
+#include <knav/FileDialogAllowReturnFolderEnabler.h>
+#include <platform/CWaitCursor.h>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/Messages.h"
+#include "dialog/NameRules.h"
+#include "resources/ids.h"
+
+namespace {
+
+bool isRemoteType(NAV_DATA_TYPE type) {
+    return type == NAV_DATA_URL || type == NAV_DATA_EXTENSION || type == NAV_DATA_FTP;
+}
+
+bool isFileType(NAV_DATA_TYPE type) {
+    return type == NAV_DATA_FILE || type == NAV_DATA_NETWORK;
+}
+
+}  // namespace
+
+void CNavDialogImp::OnOK() {
+    if (!m_lookIn.GetSafeHwnd() || m_inShellViewRegen || !m_okButton.GetSafeHwnd() || !m_okButton.IsWindowEnabled()) {
+        return;
+    }
+    if (m_options.foldersOnly) {
+        SendCurrentFolderToData();
+    }
+    if (m_facade.PreprocessData(m_data) != OkErrNone) {
+        return;
+    }
+    CString directory;
+    if (CNavData* first = m_data.GetData(0); first && ExtractDirectoryFromURL(first->GetText(), directory)) {
+        setFileNameText(directory);
+        first->SetText(directory);
+    }
+    if (m_facade.OnFileNameOK()) {
+        parseOtherItems();
+        AddDataToHistory();
+        m_facade.CZoUiDialog::OnOK();
+    }
+}
+
+void CNavDialogImp::OnCancel() {
+    if (m_placesListDirty && knav::showMessage(IDS_KNAV_KEEP_PLACES, MB_YESNO | MB_ICONQUESTION) == IDYES) {
+        SavePlacesList();
+    }
+    m_facade.CZoUiDialog::OnCancel();
+}
+
+int CNavDialogImp::SendCurrentFolderToData() {
+    if (m_data.GetCount() > 0) {
+        return 0;
+    }
+    CNavPathname folder;
+    CString text;
+    if (!selectedFolderPathname(folder) || !folder.GetFullPath(text) || text.IsEmpty()) {
+        GetCurrentFolderForPersistence(text);
+    }
+    CNavData* item = text.IsEmpty() ? nullptr : m_data.AddData();
+    if (!item) {
+        return 0;
+    }
+    item->SetText(text);
+    item->SetPathname(&folder);
+    return 1;
+}
+
+int CNavDialogImp::OnFileNameOK() {
+    const bool asksBeforeReplacing = m_options.creatingFile && m_options.confirmReplace;
+
+    if (FileDialogAllowReturnFolderEnabler::status()) {
+        if (m_data.GetCount() == 0) {
+            SendCurrentFolderToData();
+        }
+        CNavData* first = m_data.GetData(0);
+        if (first && first->GetPathname()->GetType() == CZoUiPathname::Directory && first->GetPathname()->Exists()) {
+            SaveCurrentStates();
+            return 1;
+        }
+    }
+    if (m_data.GetCount() == 0) {
+        return 0;
+    }
+    if (asksBeforeReplacing && !m_facade.VerifyURLSave()) {
+        selectFileNameText();
+        return 0;
+    }
+    if (!CommitFileNameEdit()) {
+        return 0;
+    }
+    // Committing and the hooks may have emptied the array.
+    CNavData* first = m_data.GetData(0);
+    if (!first) {
+        return 0;
+    }
+    if (isRemoteType(first->GetDataType()) && !m_options.foldersOnly && !m_facade.OnUrlOK()) {
+        selectFileNameText();
+        return 0;
+    }
+    first = m_data.GetData(0);
+    if (!first) {
+        return 0;
+    }
+    canonicalizeSiteItem(*first);
+    if (isFileType(first->GetDataType())) {
+        if (asksBeforeReplacing && !mayReplace(*first)) {
+            return 0;
+        }
+        if (!m_options.creatingFile && m_options.confirmReplace && refuseMissing(*first)) {
+            return 0;
+        }
+    }
+    SaveCurrentStates();
+    return 1;
+}
+
+void CNavDialogImp::reportNameError(OkHandlerErr error) {
+    switch (error) {
+        case OkErrNoFileSystemFolder:
+            knav::showMessage(m_options.creatingFile ? IDS_KNAV_NO_FOLDER_TO_SAVE : IDS_KNAV_NO_FOLDER_TO_OPEN);
+            break;
+        case OkErrNameTooLong: {
+            const knav::TaskDialogPair pairs[] = {{L"ObjectName", knav::messageText(IDS_KNAV_NAME_OBJECT)},
+                                                  {L"FieldName", knav::messageText(IDS_KNAV_NAME_FIELD)}};
+            if (!knav::showTaskDialog(m_facade, L"Standard.InvalidName.TooLong", pairs)) {
+                knav::showMessage(IDS_KNAV_INVALID_NAME);
+            }
+            break;
+        }
+        default:
+            knav::showMessage(IDS_KNAV_INVALID_NAME);
+    }
+    refuseFileName();
+}
