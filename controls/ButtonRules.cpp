@@ -46,10 +46,6 @@ UINT toolButtonEdge(const ButtonState& state) {
     return state.hot ? BDR_RAISEDINNER : 0;
 }
 
-int scaled(int atNormal, UINT dpi) {
-    return MulDiv(atNormal, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI);
-}
-
 RECT menuPartOf(const RECT& button, UINT dpi, bool menuExists) {
     if (!menuExists)
         return {button.right, button.top, button.right, button.bottom};

@@ -4,6 +4,8 @@
 
 #include <platform/Windows.h>
 
+#include "controls/Dpi.h"
+
 namespace knav {
 
 /// Everything that decides how a button looks.
@@ -26,9 +28,6 @@ int toolButtonThemeState(const ButtonState& state);
 
 /// The edge of a flat tool button without a theme: 0 for none, else the flag for DrawEdge.
 UINT toolButtonEdge(const ButtonState& state);
-
-/// A measure given at 96 dots per inch.
-int scaled(int atNormal, UINT dpi);
 
 /// The part of a button that drops its menu, at its right end (in a mirrored window the left one); empty without a
 /// menu. It never takes more than half of the button.

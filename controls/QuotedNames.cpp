@@ -1,21 +1,11 @@
 #include "controls/QuotedNames.h"
 
-#include <cwctype>
+#include "shell/TextRules.h"
 
 namespace knav {
 namespace {
 
 constexpr std::wstring_view kSeparator = L"\" \"";
-
-std::wstring_view trimmed(std::wstring_view text) {
-    while (!text.empty() && std::iswspace(text.front())) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && std::iswspace(text.back())) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
 
 // `rest` begins behind an opening quote. Quotes that are not set as a pair around one blank still separate names, so
 // that a list somebody typed by hand is understood as far as it can be.

@@ -26,15 +26,15 @@ public:
 
     /// Leave FTP locations, or the other extensions, out of the standard hierarchy. Default 0.
     int GetNoFTP() const { return m_noFtp; }
-    void SetNoFTP(int noFtp) { m_noFtp = noFtp; }
+    void SetNoFTP(int noFtp);
     int GetNoExtraExtensions() const { return m_noExtraExtensions; }
-    void SetNoExtraExtensions(int noExtensions) { m_noExtraExtensions = noExtensions; }
+    void SetNoExtraExtensions(int noExtensions);
     /// 0: only the chain to the current folder is filled in; else the standard hierarchy. Set while dropped down.
     int GetStandardHierarchy() const { return m_standardHierarchy; }
     void SetStandardHierarchy(int standard) { m_standardHierarchy = standard; }
 
     /// Takes the sizes from the system's small icons; when the control is attached, and after a change of their size.
-    void OnAutoLoad() override;
+    int OnAutoLoad() override;
 
     /// Fills in the standard hierarchy and the chain to `node`, which may belong to the present tree; null: no chain.
     void FillWithTopLevelFolders(CNavNode* node);
