@@ -1,0 +1,347 @@
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "resources/Module.h"
+#include "resources/ids.h"
+
+namespace knav::test {
+namespace {
+
+class Resources : public testing::TestWithParam<std::wstring> {
+protected:
+    const Module m_module{GetParam()};
+};
+
+INSTANTIATE_TEST_SUITE_P(, Resources, testing::ValuesIn(builtLanguages()), [](const auto& built) {
+    return built.param.empty() ? std::string("standard") : utf8(built.param);
+});
+
+// The window that the dialog itself makes.
+constexpr UINT kMadeByCode[] = {IDC_KNAV_FIND_STATUS};
+constexpr UINT kMenus[] = {IDR_KNAV_OK_MENU, IDR_KNAV_TOOLS_MENU, IDR_KNAV_VIEWS_MENU, IDR_KNAV_PLACES_MENU};
+
+// Calls `body` for every popup, the inner ones too.
+void eachPopup(HMENU popup, const std::function<void(HMENU)>& body) {
+    body(popup);
+    for (int i = 0; i < GetMenuItemCount(popup); ++i) {
+        if (HMENU inner = GetSubMenu(popup, i))
+            eachPopup(inner, body);
+    }
+}
+
+std::vector<UINT> dialogIds() {
+    std::vector<UINT> ids;
+    for (const IdRow& row : allIds()) {
+        if (row.startsWith("IDD_"))
+            ids.push_back(row.id);
+    }
+    return ids;
+}
+
+bool isThere(const Module& module, const IdRow& row, const std::set<UINT>& controls) {
+    if (row.startsWith("IDS_"))
+        return !module.text(row.id).empty();
+    if (row.startsWith("IDC_"))
+        return controls.contains(row.id);
+    if (row.startsWith("IDB_"))
+        return module.has(row.id, RT_GROUP_ICON);
+    if (row.startsWith("IDD_"))
+        return module.has(row.id, RT_DIALOG);
+    if (row.startsWith("IDR_"))
+        return module.has(row.id, row.id == IDR_KNAV_KEYS ? RT_ACCELERATOR : RT_MENU);
+    return row.startsWith("IDM_");
+}
+
+TEST_P(Resources, EveryIdIsThere) {
+    std::set<UINT> controls(std::begin(kMadeByCode), std::end(kMadeByCode));
+    for (const UINT id : dialogIds()) {
+        const Dialog dialog(m_module, id, 9);
+        for (HWND control : dialog.controls())
+            controls.insert(static_cast<UINT>(GetDlgCtrlID(control)));
+    }
+    for (const IdRow& row : allIds()) {
+        EXPECT_TRUE(isThere(m_module, row, controls)) << row.name;
+    }
+    EXPECT_TRUE(FindResourceW(m_module.handle(), L"IDB_KNAV_NEW_FTP_16", RT_GROUP_ICON));
+}
+
+// A number means one thing within each kind, so that a wrong look-up cannot find something else.
+TEST(ResourceIds, NumbersAreUsedOncePerKind) {
+    std::map<std::pair<std::string, UINT>, std::string> seen;
+    for (const IdRow& row : allIds()) {
+        const auto [other, fresh] = seen.try_emplace({std::string(row.name).substr(0, 4), row.id}, row.name);
+        EXPECT_TRUE(fresh) << row.name << " and " << other->second << " are both " << row.id;
+    }
+    EXPECT_GT(seen.size(), 100u);
+}
+
+TEST_P(Resources, TextsTakeTheArgumentThatTheirCallersGive) {
+    for (const IdRow& row : allIds()) {
+        if (!row.startsWith("IDS_"))
+            continue;
+        const std::wstring text = m_module.text(row.id);
+        EXPECT_EQ(text.find(L"%1") != std::wstring::npos, row.takesArgument) << row.name;
+        EXPECT_EQ(std::ranges::count(text, L'%'), row.takesArgument ? 1 : 0) << row.name;
+    }
+}
+
+TEST_P(Resources, MenuEntriesHaveMnemonicsOfTheirOwn) {
+    for (const UINT id : kMenus) {
+        eachPopup(Menu(m_module, id).popup(), [id](HMENU popup) {
+            std::set<wchar_t> used;
+            for (int i = 0; i < GetMenuItemCount(popup); ++i) {
+                if (GetMenuState(popup, static_cast<UINT>(i), MF_BYPOSITION) & MF_SEPARATOR)
+                    continue;
+                const std::wstring text = textOf(popup, i);
+                EXPECT_NE(mnemonicOf(text), 0) << id << ": " << utf8(text);
+                EXPECT_TRUE(used.insert(mnemonicOf(text)).second) << id << ": " << utf8(text);
+            }
+        });
+    }
+    EXPECT_NE(mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_FOLDER)), mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_ITEM)));
+    EXPECT_NE(mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_FOLDER)), mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_ITEMS)));
+}
+
+TEST_P(Resources, ToolsMenuKeepsItsPositions) {
+    const Menu menu(m_module, IDR_KNAV_TOOLS_MENU);
+    const HMENU tools = menu.popup();
+    EXPECT_EQ(GetMenuItemID(tools, 0), static_cast<UINT>(IDM_KNAV_FIND));
+    EXPECT_EQ(GetMenuItemID(tools, 1), static_cast<UINT>(IDM_KNAV_LOCATE));
+    EXPECT_EQ(GetMenuItemID(tools, 2), static_cast<UINT>(IDM_KNAV_FTP_LOCATIONS));
+    EXPECT_EQ(GetMenuItemID(tools, 4), static_cast<UINT>(IDM_KNAV_ADD_TO_PLACES));
+    EXPECT_TRUE(GetSubMenu(tools, 5));
+    EXPECT_EQ(GetMenuItemCount(tools), 6);
+}
+
+// What a menu entry promises at its right edge is what the keys do.
+std::string shownKey(const ACCEL& key) {
+    std::string text;
+    if (key.fVirt & FCONTROL)
+        text += "Ctrl+";
+    if (key.fVirt & FSHIFT)
+        text += "Shift+";
+    return text + static_cast<char>(key.key);
+}
+
+TEST_P(Resources, KeysAreCommandsAndMenusShowThem) {
+    std::map<UINT, std::string> keyOf;
+    std::set<std::pair<WORD, BYTE>> used;
+    for (const ACCEL& key : m_module.keys()) {
+        keyOf[key.cmd] = shownKey(key);
+        EXPECT_TRUE(std::ranges::any_of(allIds(), [&](const IdRow& row) {
+            return row.startsWith("IDM_") && row.id == key.cmd;
+        })) << key.cmd;
+        EXPECT_TRUE(used.insert({key.key, static_cast<BYTE>(key.fVirt & 0x7F)}).second) << key.cmd;
+        // Keys that type or edit belong to the control with the focus.
+        const bool bare = !(key.fVirt & (FCONTROL | FALT));
+        EXPECT_TRUE(!bare || (key.key >= VK_F1 && key.key <= VK_F12)) << key.cmd;
+    }
+    ASSERT_FALSE(keyOf.empty());
+    for (const UINT id : kMenus) {
+        eachPopup(Menu(m_module, id).popup(), [&](HMENU popup) {
+            for (int i = 0; i < GetMenuItemCount(popup); ++i) {
+                const std::wstring text = textOf(popup, i);
+                if (const size_t tab = text.find(L'\t'); tab != std::wstring::npos) {
+                    EXPECT_EQ(utf8(text.substr(tab + 1)), keyOf[GetMenuItemID(popup, i)]) << utf8(text);
+                }
+            }
+        });
+    }
+}
+
+// Sizes in an icon, as its directory lists them.
+std::vector<int> sizesOf(const std::vector<BYTE>& directory) {
+    std::vector<int> sizes;
+    for (size_t at = 6; at + 14 <= directory.size(); at += 14)
+        sizes.push_back(directory[at]);
+    return sizes;
+}
+
+struct AlphaRange {
+    BYTE least = 255;
+    BYTE most = 0;
+};
+
+AlphaRange alphaOf(HBITMAP bitmap, int size) {
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof info.bmiHeader, size, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    std::vector<DWORD> pixels(static_cast<size_t>(size) * static_cast<size_t>(size));
+    HDC screen = GetDC(nullptr);
+    GetDIBits(screen, bitmap, 0, static_cast<UINT>(size), pixels.data(), &info, DIB_RGB_COLORS);
+    ReleaseDC(nullptr, screen);
+    AlphaRange range;
+    for (const DWORD pixel : pixels) {
+        range.least = std::min(range.least, static_cast<BYTE>(pixel >> 24));
+        range.most = std::max(range.most, static_cast<BYTE>(pixel >> 24));
+    }
+    return range;
+}
+
+TEST_P(Resources, PicturesHaveEverySizeWithAlpha) {
+    for (const IdRow& row : allIds()) {
+        if (!row.startsWith("IDB_"))
+            continue;
+        SCOPED_TRACE(row.name);
+        const std::vector<int> sizes = sizesOf(m_module.bytes(row.id, RT_GROUP_ICON));
+        EXPECT_THAT(sizes, testing::AnyOf(testing::ElementsAre(16, 20, 24, 32), testing::ElementsAre(32, 40, 48, 64)));
+        for (const int size : sizes) {
+            const auto icon = static_cast<HICON>(
+                LoadImageW(m_module.handle(), MAKEINTRESOURCEW(row.id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
+            ICONINFO info{};
+            ASSERT_TRUE(GetIconInfo(icon, &info)) << size;
+            BITMAP colour{};
+            GetObjectW(info.hbmColor, sizeof colour, &colour);
+            EXPECT_EQ(colour.bmWidth, size);
+            const AlphaRange alpha = alphaOf(info.hbmColor, size);
+            EXPECT_EQ(alpha.least, 0) << size;
+            EXPECT_EQ(alpha.most, 255) << size;
+            DeleteObject(info.hbmColor);
+            DeleteObject(info.hbmMask);
+            DestroyIcon(icon);
+        }
+    }
+}
+
+// --- dialogs ---------------------------------------------------------------------------------------------------
+
+std::wstring classOf(HWND window) {
+    wchar_t name[64] = L"";
+    GetClassNameW(window, name, 64);
+    return name;
+}
+
+bool shown(HWND control) {
+    return (GetWindowLongW(control, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+RECT rectIn(HWND dialog, HWND control) {
+    RECT rect;
+    GetWindowRect(control, &rect);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+SIZE extentOf(HWND control) {
+    HDC dc = GetDC(control);
+    const HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    RECT rect{};
+    DrawTextW(dc, textOf(control).c_str(), -1, &rect, DT_CALCRECT | DT_SINGLELINE);
+    SelectObject(dc, old);
+    ReleaseDC(control, dc);
+    return {rect.right, rect.bottom};
+}
+
+// What a control needs besides its text; nothing for a picture button, which does not draw it.
+std::optional<int> extraWidth(HWND control) {
+    const LONG style = GetWindowLongW(control, GWL_STYLE);
+    if (classOf(control) == L"Static")
+        return 0;
+    if (classOf(control) != L"Button")
+        return std::nullopt;
+    switch (style & BS_TYPEMASK) {
+        case BS_OWNERDRAW:
+            return std::nullopt;
+        case BS_PUSHBUTTON:
+        case BS_DEFPUSHBUTTON:
+            return 2 * GetSystemMetrics(SM_CXEDGE) + 8;
+        default:
+            return GetSystemMetrics(SM_CXMENUCHECK) + 6;
+    }
+}
+
+// 96, 150 and 192 DPI, by their dialog units.
+constexpr int kPointSizes[] = {9, 14, 18};
+
+TEST_P(Resources, NoControlIsClippedOrCovered) {
+    for (const UINT id : dialogIds()) {
+        for (const int points : kPointSizes) {
+            SCOPED_TRACE(std::to_string(id) + " at " + std::to_string(points) + " points");
+            const Dialog dialog(m_module, id, points);
+            const SIZE area = dialog.area();
+            std::vector<std::pair<RECT, std::string>> placed;
+            for (HWND control : dialog.controls()) {
+                // An up-down control lies over its field on purpose.
+                if (!shown(control) || classOf(control) == UPDOWN_CLASSW)
+                    continue;
+                const std::string name = std::to_string(GetDlgCtrlID(control)) + " " + utf8(textOf(control));
+                const RECT at = rectIn(dialog.window(), control);
+                if (const auto extra = extraWidth(control)) {
+                    EXPECT_LE(extentOf(control).cx + *extra, at.right - at.left) << name;
+                    EXPECT_LE(extentOf(control).cy, at.bottom - at.top) << name;
+                }
+                EXPECT_TRUE(at.left > 0 && at.top > 0 && at.right < area.cx && at.bottom < area.cy) << name;
+                for (const auto& [other, otherName] : placed) {
+                    RECT common;
+                    EXPECT_FALSE(IntersectRect(&common, &at, &other)) << name << " covers " << otherName;
+                }
+                placed.emplace_back(at, name);
+            }
+        }
+    }
+}
+
+TEST_P(Resources, FindPagesFitTheirTabs) {
+    for (const int points : kPointSizes) {
+        const Dialog find(m_module, IDD_KNAV_FIND, points);
+        const HWND tabs = GetDlgItem(find.window(), IDC_KNAV_FIND_TABS);
+        TCITEMW tab{};
+        std::wstring text = m_module.text(IDS_KNAV_FIND_NAME_TAB);
+        tab.mask = TCIF_TEXT;
+        tab.pszText = text.data();
+        SendMessageW(tabs, TCM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&tab));
+        RECT room = rectIn(find.window(), tabs);
+        SendMessageW(tabs, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&room));
+        for (const UINT id : {IDD_KNAV_FIND_NAME, IDD_KNAV_FIND_DATE}) {
+            const SIZE page = Dialog(m_module, id, points).area();
+            EXPECT_LE(page.cx, room.right - room.left) << id << " at " << points;
+            EXPECT_LE(page.cy, room.bottom - room.top) << id << " at " << points;
+        }
+    }
+}
+
+// The pages of the Find dialog are on screen together with its frame.
+TEST_P(Resources, DialogMnemonicsAreUnique) {
+    const std::vector<std::vector<UINT>> together{{IDD_KNAV},
+                                                  {IDD_KNAV_PLACE},
+                                                  {IDD_KNAV_FTP},
+                                                  {IDD_KNAV_FIND, IDD_KNAV_FIND_NAME},
+                                                  {IDD_KNAV_FIND, IDD_KNAV_FIND_DATE},
+                                                  {IDD_KNAV_FIND_FOLDER}};
+    for (const auto& ids : together) {
+        std::map<wchar_t, std::string> used;
+        for (const UINT id : ids) {
+            const Dialog dialog(m_module, id, 9);
+            for (HWND control : dialog.controls()) {
+                const std::wstring text = textOf(control);
+                if (const wchar_t key = mnemonicOf(text)) {
+                    const auto [other, fresh] = used.try_emplace(key, utf8(text));
+                    EXPECT_TRUE(fresh) << id << ": " << utf8(text) << " and " << other->second;
+                }
+            }
+        }
+        EXPECT_FALSE(used.empty()) << ids.front();
+    }
+}
+
+// A label speaks for the control behind it, to the keyboard and to a screen reader.
+TEST_P(Resources, FieldsFollowTheirLabels) {
+    const std::pair<UINT, UINT> rows[] = {
+        {IDC_KNAV_LOOK_IN_LABEL, IDC_KNAV_LOOK_IN},     {IDC_KNAV_PLACES_LABEL, IDC_KNAV_PLACES},
+        {IDC_KNAV_VIEW_LABEL, IDC_KNAV_VIEW},           {IDC_KNAV_FILE_NAME_LABEL, IDC_KNAV_FILE_NAME},
+        {IDC_KNAV_FILE_TYPE_LABEL, IDC_KNAV_FILE_TYPE},
+    };
+    const Dialog dialog(m_module, IDD_KNAV, 9);
+    for (const auto& [label, field] : rows) {
+        const HWND next = GetWindow(GetDlgItem(dialog.window(), static_cast<int>(label)), GW_HWNDNEXT);
+        EXPECT_EQ(static_cast<UINT>(GetDlgCtrlID(next)), field);
+    }
+}
+
+}  // namespace
+}  // namespace knav::test
