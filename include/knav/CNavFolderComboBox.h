@@ -10,8 +10,9 @@
 class CNavPathname;
 
 namespace knav {
+class ItemList;
 class OverlayIcons;
-}
+}  // namespace knav
 
 /// The Look-in combo: the folder hierarchy as an indented list with small shell icons. It owns the tree; each item's
 /// data is the node it stands for. Closed, it holds the chain from the desktop to the current folder; dropped down, the
@@ -90,9 +91,10 @@ protected:
 
 private:
     void clear();
-    void fillToNodeAndSelect(ITEMIDLIST* list);
+    void fillStandardKeepingSelection();
+    void selectChainTo(const knav::ItemList& list);
     void widenDroppedList();
-    int textLeft(const CNavNode& node, bool selectionField) const;
+    int pictureLeft(const CNavNode& node, bool selectionField) const;
     void drawPicture(const DRAWITEMSTRUCT& item, const CNavNode& node, int left) const;
 
     CNavTree m_tree;

@@ -1,0 +1,153 @@
+#include <knav/CNavFolderComboBox.h>
+
+#include "controls/OverlayIcons.h"
+#include "data/ApiEdge.h"
+#include "shell/ExtensionItems.h"
+#include "shell/FolderCalls.h"
+
+#include <knav/CNavExtension.h>
+#include <knav/CNavPathname.h>
+#include <knav/NavFolders.h>
+#include <knav/NavNames.h>
+
+BEGIN_MESSAGE_MAP(CNavFolderComboBox, CNavComboBox)
+ON_CONTROL_REFLECT_EX(CBN_DROPDOWN, &CNavFolderComboBox::OnDropDown)
+ON_CONTROL_REFLECT_EX(CBN_CLOSEUP, &CNavFolderComboBox::OnCloseUp)
+END_MESSAGE_MAP()
+
+namespace {
+
+CString desktopDirectory() {
+    const auto list = knav::ItemList::adopt(NavGetSpecialFolderItem(nullptr, CSIDL_DESKTOPDIRECTORY));
+    std::array<wchar_t, MAX_PATH> path{};
+    return list && SHGetPathFromIDListW(list.get(), path.data()) ? CString(path.data()) : CString();
+}
+
+// A place in an extension is a folder whatever the desktop folder, which knows nothing of it, would say.
+void parseNode(CNavPathname& pathname, const CNavNode& node, ITEMIDLIST* list, CString& name) {
+    if (node.IsExtensionType()) {
+        pathname.Parse(nullptr, nullptr, knav::ItemList::firstOf(list).get(), name);
+    } else {
+        pathname.Parse(list, knav::desktopFolder().get(), nullptr, name);
+    }
+}
+
+}  // namespace
+
+CNavFolderComboBox::CNavFolderComboBox() : m_overlayIcons(std::make_unique<knav::OverlayIcons>()) {
+}
+
+CNavFolderComboBox::~CNavFolderComboBox() = default;
+
+void CNavFolderComboBox::SetNoFTP(int noFtp) {
+    m_treeIsStandard = m_treeIsStandard && noFtp == m_noFtp;
+    m_noFtp = noFtp;
+}
+
+void CNavFolderComboBox::SetNoExtraExtensions(int noExtensions) {
+    m_treeIsStandard = m_treeIsStandard && noExtensions == m_noExtraExtensions;
+    m_noExtraExtensions = noExtensions;
+}
+
+int CNavFolderComboBox::OnAutoLoad() {
+    int width = 0;
+    int height = 0;
+    if (!ImageList_GetIconSize(NavGetSystemImageList(), &width, &height)) {
+        return 0;
+    }
+    m_indentWidth = m_iconWidth = width;
+    m_itemHeight = m_iconHeight = height;
+    SetItemHeight(-1, m_itemHeight);
+    SetItemHeight(0, m_itemHeight);
+    return 1;
+}
+
+int CNavFolderComboBox::GetPathname(CNavPathname& pathname) {
+    return knav::atApiEdge(0, [&] {
+        const CNavNode* const node = GetSelectedNode();
+        if (node == nullptr || !node->IsFolder()) {
+            return 0;
+        }
+        const auto list = knav::ItemList::adopt(node->CalculateQualifiedItemList());
+        CString name;
+        if (NavIsDesktop(list.get())) {
+            name = desktopDirectory();
+            pathname.Parse(name, false);
+        } else if (NavGetItemNameForParsing(node->GetParentFolder(), node->GetID(), name)) {
+            parseNode(pathname, *node, list.get(), name);
+        }
+        return name.IsEmpty() ? 0 : 1;
+    });
+}
+
+int CNavFolderComboBox::FindItemByNode(CNavNode* node) {
+    return knav::atApiEdge(-1, [&] {
+        const auto list = knav::ItemList::adopt(node != nullptr ? node->CalculateQualifiedItemList() : nullptr);
+        return FindItemByList(list.get());
+    });
+}
+
+int CNavFolderComboBox::FindItemByList(ITEMIDLIST* list) {
+    return knav::atApiEdge(-1, [&] {
+        const auto desktop = knav::desktopFolder();
+        if (list == nullptr || !desktop) {
+            return -1;
+        }
+        for (int index = 0; index < GetCount(); ++index) {
+            const CNavNode* const node = GetNode(index);
+            const auto other = knav::ItemList::adopt(node != nullptr ? node->CalculateQualifiedItemList() : nullptr);
+            if (other && NavCompareFolderItems(desktop.get(), list, other.get()) == 0) {
+                return index;
+            }
+        }
+        return -1;
+    });
+}
+
+int CNavFolderComboBox::FindParentItemIndex(int index) {
+    const int indent = GetItemIndent(index);
+    int parent = index - 1;
+    while (parent >= 0 && GetItemIndent(parent) >= indent) {
+        --parent;
+    }
+    return index >= 0 && index < GetCount() ? parent : -1;
+}
+
+int CNavFolderComboBox::GetExtensionRootIndex(const wchar_t* extensionName) {
+    for (int index = 0; extensionName != nullptr && index < GetCount(); ++index) {
+        const CNavNode* const node = GetNode(index);
+        if (node == nullptr || node->GetType() != NavNodeExtensionRoot || *node->GetExtensionName() == L'\0') {
+            continue;
+        }
+        const CNavExtension* const extension = NavFindExtensionByName(node->GetExtensionName());
+        if (extension != nullptr && CString(extension->GetName()).CompareNoCase(extensionName) == 0) {
+            return index;
+        }
+    }
+    return -1;
+}
+
+CNavNode* CNavFolderComboBox::GetNode(int index) const {
+    return index >= 0 && index < GetCount() ? static_cast<CNavNode*>(GetItemDataPtr(index)) : nullptr;
+}
+
+CNavNode* CNavFolderComboBox::GetSelectedNode() const {
+    return GetNode(GetCurSel());
+}
+
+int CNavFolderComboBox::GetItemIndent(int index) const {
+    const CNavNode* const node = GetNode(index);
+    return node != nullptr ? node->GetIndent() : 0;
+}
+
+int CNavFolderComboBox::GetItemText(int index, CString& text) const {
+    text.Empty();
+    return knav::atApiEdge(0, [&] {
+        if ((GetStyle() & CBS_HASSTRINGS) != 0) {
+            GetLBText(index, text);
+        } else if (const CNavNode* const node = GetNode(index)) {
+            node->GetNameInFolder(text);
+        }
+        return text.IsEmpty() ? 0 : 1;
+    });
+}

@@ -1,0 +1,69 @@
+// Drawing the items of the Look-in combo.
+#include <knav/CNavFolderComboBox.h>
+
+#include "controls/Dpi.h"
+#include "controls/OverlayIcons.h"
+#include "data/ApiEdge.h"
+
+#include <platform/GdiOwners.h>
+#include <uxtheme.h>
+
+namespace {
+
+// The list and the field share the combo's window; only the state tells them apart.
+bool isSelectionField(const DRAWITEMSTRUCT& item) {
+    return (item.itemState & ODS_COMBOBOXEDIT) != 0;
+}
+
+// A theme paints the selection field itself, and no highlight belongs on it.
+bool isPaintedByTheme(const DRAWITEMSTRUCT& item) {
+    return isSelectionField(item) && IsAppThemed() && IsThemeActive();
+}
+
+}  // namespace
+
+void CNavFolderComboBox::DrawItem(DRAWITEMSTRUCT* item) {
+    const CNavNode* const node =
+        static_cast<int>(item->itemID) >= 0 ? GetNode(static_cast<int>(item->itemID)) : nullptr;
+    if (node == nullptr) {
+        return;
+    }
+    knav::atApiEdge([&] {
+        const bool selected = (item->itemState & ODS_SELECTED) != 0;
+        const zoui::SelectedObject font(item->hDC, GetFont());
+        if (!isPaintedByTheme(*item)) {
+            FillRect(item->hDC, &item->rcItem, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+        }
+        const int left = item->rcItem.left + pictureLeft(*node, isSelectionField(*item));
+        drawPicture(*item, *node, left);
+        SetBkMode(item->hDC, TRANSPARENT);
+        SetTextColor(item->hDC, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+        RECT place = item->rcItem;
+        place.left = left + m_indentWidth + knav::scaled(2, knav::dpiOf(m_hWnd));
+        CString text;
+        GetItemText(static_cast<int>(item->itemID), text);
+        DrawTextW(item->hDC, text, text.GetLength(), &place, DT_SINGLELINE | DT_NOPREFIX | DT_VCENTER);
+        if ((item->itemState & ODS_FOCUS) != 0) {
+            DrawFocusRect(item->hDC, &item->rcItem);
+        }
+    });
+}
+
+int CNavFolderComboBox::pictureLeft(const CNavNode& node, bool selectionField) const {
+    const UINT dpi = knav::dpiOf(m_hWnd);
+    return selectionField ? knav::scaled(5, dpi) : m_indentWidth * node.GetIndent() + knav::scaled(2, dpi);
+}
+
+void CNavFolderComboBox::drawPicture(const DRAWITEMSTRUCT& item, const CNavNode& node, int left) const {
+    const int top = item.rcItem.top;
+    if (node.GetIcon() != nullptr) {
+        DrawIconEx(item.hDC, left, top, node.GetIcon(), m_iconWidth, m_iconHeight, 0, nullptr, DI_NORMAL);
+    }
+    if (const auto overlay = m_overlays.find(&node); overlay != m_overlays.end()) {
+        m_overlayIcons->draw(item.hDC, overlay->second, left, top, {m_iconWidth, m_iconHeight});
+    }
+}
+
+void CNavFolderComboBox::MeasureItem(MEASUREITEMSTRUCT* item) {
+    item->itemHeight = static_cast<UINT>(m_itemHeight);
+}
