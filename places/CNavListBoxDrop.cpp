@@ -1,0 +1,82 @@
+// Folders that the user drops on the list.
+#include <knav/CNavListBox.h>
+#include <knav/CNavPathname.h>
+#include <knav/NavFolders.h>
+#include <knav/NavNames.h>
+
+#include <wininet.h>
+
+#include "places/PlaceRecord.h"
+#include "places/PlacesDropTarget.h"
+#include "shell/ExtensionItems.h"
+#include "shell/FolderCalls.h"
+#include "shell/TextRules.h"
+
+using namespace knav;
+
+namespace {
+
+DWORD attributesOfQualified(const ITEMIDLIST* list, DWORD mask) {
+    const auto parent = ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(ItemList::parentOf(list).get()));
+    const ITEMIDLIST* child = ILFindLastID(list);
+    return attributesOf(parent ? parent.get() : desktopFolder().get(), child, mask).value_or(0);
+}
+
+// Readable, where it is a URL that fits the buffer; as it is otherwise.
+CString readableName(const CString& name) {
+    if (!NavIsURL(name))
+        return name;
+    wchar_t readable[MAX_PATH];
+    DWORD size = MAX_PATH;
+    return InternetCanonicalizeUrlW(name, readable, &size, ICU_DECODE | ICU_NO_ENCODE) ? CString(readable) : name;
+}
+
+}  // namespace
+
+int CNavListBox::RegisterDropTarget() {
+    m_drop.reset();
+    m_drop = std::make_unique<PlacesDropScope>(m_hWnd, [this](const ITEMIDLIST* folder, POINT point) {
+        ScreenToClient(&point);
+        return AddDroppedItem(folder, point) >= 0;
+    });
+    return m_drop->ok();
+}
+
+int CNavListBox::AddDroppedItem(const wchar_t* path, POINT point) {
+    CNavPathname folder;
+    CString full;
+    if (folder.Parse(path, false) != PathErr::None || folder.GetType() != CZoUiPathname::Directory ||
+        !folder.GetFullPath(full))
+        return -1;
+    CString label;
+    folder.GetBasename(label);
+    const int row = insertPathRow(ItemFromPoint(point), full, label.IsEmpty() ? full : label);
+    if (row >= 0)
+        changed();
+    return row;
+}
+
+int CNavListBox::AddDroppedItem(const ITEMIDLIST* list, POINT point) {
+    if (!list || NavIsInternetRoot(listArgument(list)))
+        return -1;
+    const DWORD attributes = attributesOfQualified(list, SFGAO_FOLDER | SFGAO_FILESYSTEM | SFGAO_STREAM);
+    CString parsingName;
+    NavGetItemDisplayNameInDesktop(SHGDN_FORPARSING, listArgument(list), parsingName);
+    if (attributes & SFGAO_FILESYSTEM)
+        return AddDroppedItem(parsingName, point);
+    const bool inExtension = NavIsExtensionItem(listArgument(list)) != 0;
+    if (!inExtension && !(attributes & SFGAO_FOLDER))
+        return -1;
+    auto place = std::make_unique<PlaceRecord>();
+    place->name = readableName(parsingName);
+    place->type = PlacesItemFolder;
+    place->idList = ItemList::copyOf(list);
+    NavGetExtensionNameFromItem(listArgument(list), place->extensionName);
+    place->flags = InExtension;
+    CString label;
+    NavGetItemDisplayNameInDesktop(SHGDN_NORMAL, listArgument(list), label);
+    const int row = insertFolderRow(ItemFromPoint(point), label, std::move(place));
+    if (row >= 0)
+        changed();
+    return row;
+}
