@@ -1,0 +1,129 @@
+#include <ry/RyRegKey.h>
+
+#include <gtest/gtest.h>
+
+#include "support/Printers.h"
+#include "support/RegistryRedirect.h"
+
+namespace {
+
+class RegistryTest : public testing::Test {
+protected:
+    RegistryTest() { EXPECT_TRUE(m_key.create(HKEY_CURRENT_USER, L"Software\\A\\B")); }
+
+    void storeRaw(const wchar_t* name, DWORD type, const void* data, DWORD bytes) {
+        ASSERT_EQ(RegSetValueExW(m_key.get(), name, 0, type, static_cast<const BYTE*>(data), bytes), ERROR_SUCCESS);
+    }
+
+    knav::test::RegistryRedirect m_redirect;
+    RyRegKey m_key;
+};
+
+TEST_F(RegistryTest, TextAndNumberComeBackAsWritten) {
+    EXPECT_EQ(ryRegSetValue(m_key.get(), L"text", CString(L"\x00FC plan")), ERROR_SUCCESS);
+    EXPECT_EQ(ryRegSetValue(m_key.get(), L"empty", CString()), ERROR_SUCCESS);
+    EXPECT_EQ(ryRegSetValue(m_key.get(), L"number", 0xFFFFFFFF), ERROR_SUCCESS);
+    EXPECT_EQ(ryRegSetValue(m_key.get(), nullptr, CString(L"default")), ERROR_SUCCESS);
+    CString text;
+    EXPECT_EQ(ryRegGetValue(m_key.get(), L"text", text), ERROR_SUCCESS);
+    EXPECT_EQ(text, L"\x00FC plan");
+    EXPECT_EQ(ryRegGetValue(m_key.get(), L"empty", text), ERROR_SUCCESS);
+    EXPECT_EQ(text, L"");
+    EXPECT_EQ(ryRegGetValue(m_key.get(), L"", text), ERROR_SUCCESS);
+    EXPECT_EQ(text, L"default");
+    DWORD number = 0;
+    EXPECT_EQ(ryRegGetValue(m_key.get(), L"number", number), ERROR_SUCCESS);
+    EXPECT_EQ(number, 0xFFFFFFFF);
+    DWORD bytes = 0;
+    EXPECT_EQ(RegQueryValueExW(m_key.get(), L"text", nullptr, nullptr, nullptr, &bytes), ERROR_SUCCESS);
+    EXPECT_EQ(bytes, 7u * sizeof(wchar_t)) << "with the terminator";
+}
+
+TEST_F(RegistryTest, ValuesThatAreNotWhatWasAskedForAreErrorsAndChangeNothing) {
+    const BYTE bytes[8] = {'a', 0, 'b', 0, 'c', 0, 'd', 0};
+    storeRaw(L"short number", REG_DWORD, bytes, 2);
+    storeRaw(L"long number", REG_DWORD, bytes, 8);
+    storeRaw(L"other byte order", REG_DWORD_BIG_ENDIAN, bytes, 4);
+    storeRaw(L"binary", REG_BINARY, bytes, 4);
+    storeRaw(L"list", REG_MULTI_SZ, L"a\0", 6);
+    storeRaw(L"odd text", REG_SZ, bytes, 5);
+    storeRaw(L"text", REG_SZ, L"1", 4);
+    storeRaw(L"number", REG_DWORD, bytes, 4);
+    struct Row {
+        const wchar_t* name;
+        LONG asNumber;
+        LONG asText;
+    };
+    constexpr Row rows[] = {
+        {L"missing", ERROR_FILE_NOT_FOUND, ERROR_FILE_NOT_FOUND},
+        {L"short number", ERROR_INVALID_DATA, ERROR_UNSUPPORTED_TYPE},
+        {L"long number", ERROR_INVALID_DATA, ERROR_UNSUPPORTED_TYPE},
+        {L"other byte order", ERROR_UNSUPPORTED_TYPE, ERROR_UNSUPPORTED_TYPE},
+        {L"binary", ERROR_UNSUPPORTED_TYPE, ERROR_UNSUPPORTED_TYPE},
+        {L"list", ERROR_UNSUPPORTED_TYPE, ERROR_UNSUPPORTED_TYPE},
+        {L"odd text", ERROR_UNSUPPORTED_TYPE, ERROR_INVALID_DATA},
+        {L"text", ERROR_UNSUPPORTED_TYPE, ERROR_SUCCESS},
+        {L"number", ERROR_SUCCESS, ERROR_UNSUPPORTED_TYPE},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(knav::test::utf8(row.name));
+        DWORD number = 77;
+        EXPECT_EQ(ryRegGetValue(m_key.get(), row.name, number), row.asNumber);
+        EXPECT_EQ(number == 77, row.asNumber != ERROR_SUCCESS);
+        CString text(L"kept");
+        EXPECT_EQ(ryRegGetValue(m_key.get(), row.name, text), row.asText);
+        EXPECT_EQ(text == L"kept", row.asText != ERROR_SUCCESS);
+    }
+}
+
+TEST_F(RegistryTest, TextIsReadToItsFirstTerminatorAndWithoutOne) {
+    storeRaw(L"open", REG_SZ, L"abc", 6);
+    storeRaw(L"two", REG_EXPAND_SZ, L"%PATH%\0x", 18);
+    CString text;
+    EXPECT_EQ(ryRegGetValue(m_key.get(), L"open", text), ERROR_SUCCESS);
+    EXPECT_EQ(text, L"abc");
+    EXPECT_EQ(ryRegGetValue(m_key.get(), L"two", text), ERROR_SUCCESS);
+    EXPECT_EQ(text, L"%PATH%") << "as it is stored";
+}
+
+TEST_F(RegistryTest, OverlongTextIsRefusedBothWays) {
+    const CString longest(L'x', ryRegMaxText);
+    const CString tooLong(L'x', ryRegMaxText + 1);
+    CString text;
+    EXPECT_EQ(ryRegSetValue(m_key.get(), L"long", longest), ERROR_SUCCESS);
+    EXPECT_EQ(ryRegGetValue(m_key.get(), L"long", text), ERROR_SUCCESS);
+    EXPECT_EQ(text, longest);
+    EXPECT_EQ(ryRegSetValue(m_key.get(), L"long", tooLong), ERROR_MORE_DATA);
+    storeRaw(L"long", REG_SZ, tooLong.GetString(), (ryRegMaxText + 2) * sizeof(wchar_t));
+    EXPECT_EQ(ryRegGetValue(m_key.get(), L"long", text), ERROR_MORE_DATA);
+    storeRaw(L"long", REG_SZ, tooLong.GetString(), (ryRegMaxText + 1) * sizeof(wchar_t));
+    EXPECT_EQ(ryRegGetValue(m_key.get(), L"long", text), ERROR_MORE_DATA) << "unterminated, as long as one that fits";
+}
+
+TEST_F(RegistryTest, EnumValueGivesEachNameAndTypeOnce) {
+    ryRegSetValue(m_key.get(), L"one", CString(L"1"));
+    ryRegSetValue(m_key.get(), CString(L'n', 300), 2);
+    std::map<CString, DWORD> found;
+    CString name;
+    DWORD type = 0;
+    DWORD index = 0;
+    for (; ryRegEnumValue(m_key.get(), index, name, &type) == ERROR_SUCCESS; ++index) {
+        found[name] = type;
+    }
+    EXPECT_EQ(ryRegEnumValue(m_key.get(), index, name), ERROR_NO_MORE_ITEMS);
+    EXPECT_EQ(found, (std::map<CString, DWORD>{{L"one", REG_SZ}, {CString(L'n', 300), REG_DWORD}}));
+}
+
+TEST_F(RegistryTest, DeleteTreeTakesTheKeyWithEverythingBelow) {
+    EXPECT_EQ(ryRegDeleteValue(m_key.get(), L"none"), ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(ryRegDeleteTree(HKEY_CURRENT_USER, L""), ERROR_INVALID_PARAMETER) << "never a whole hive";
+    EXPECT_EQ(ryRegDeleteTree(HKEY_CURRENT_USER, nullptr), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(ryRegDeleteTree(HKEY_CURRENT_USER, L"Software\\A"), ERROR_SUCCESS);
+    RyRegKey key;
+    EXPECT_FALSE(key.open(HKEY_CURRENT_USER, L"Software\\A"));
+    EXPECT_TRUE(key.open(HKEY_CURRENT_USER, L"Software"));
+    EXPECT_FALSE(key.open(HKEY_CURRENT_USER, L"Software\\None"));
+    EXPECT_FALSE(key) << "a failed open leaves nothing held";
+}
+
+}  // namespace
