@@ -55,6 +55,22 @@ std::optional<DWORD> attributesOf(IShellFolder* folder, const ITEMIDLIST* list, 
     return SUCCEEDED(result) ? std::optional(attributes & mask) : std::nullopt;
 }
 
+bool enumerateItems(IShellFolder* folder, HWND owner, DWORD shcontf, ComPtr<IEnumIDList>& items) noexcept {
+    IEnumIDList* enumerator = nullptr;
+    const HRESULT result = guarded([&] { return folder->EnumObjects(owner, shcontf, &enumerator); });
+    items = ComPtr<IEnumIDList>::adopt(SUCCEEDED(result) ? enumerator : nullptr);
+    return SUCCEEDED(result);
+}
+
+ItemList nextItem(const ComPtr<IEnumIDList>& items) noexcept {
+    if (!items) {
+        return {};
+    }
+    ITEMIDLIST* item = nullptr;
+    const HRESULT result = guarded([&] { return items->Next(1, &item, nullptr); });
+    return result == S_OK ? ItemList::adopt(item) : ItemList();
+}
+
 int compareIds(IShellFolder* folder, const ITEMIDLIST* a, const ITEMIDLIST* b) noexcept {
     const HRESULT order = guarded([=] { return folder->CompareIDs(0, a, b); });
     return static_cast<short>(HRESULT_CODE(order));

@@ -34,6 +34,12 @@ ItemList parseName(IShellFolder* folder, const wchar_t* text, DWORD attributes =
 /// The attributes of an item among those of `mask`.
 std::optional<DWORD> attributesOf(IShellFolder* folder, const ITEMIDLIST* list, DWORD mask) noexcept;
 
+/// What enumerating the folder gives, or null when it has nothing; false when it fails.
+bool enumerateItems(IShellFolder* folder, HWND owner, DWORD shcontf, ComPtr<IEnumIDList>& items) noexcept;
+
+/// The next item; null behind the last one, and when the enumeration fails.
+ItemList nextItem(const ComPtr<IEnumIDList>& items) noexcept;
+
 /// The order that the folder gives two items; not 0 when it fails.
 int compareIds(IShellFolder* folder, const ITEMIDLIST* a, const ITEMIDLIST* b) noexcept;
 

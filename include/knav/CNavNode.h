@@ -128,10 +128,10 @@ public:
 
 private:
     bool readAttributes();
-    void appendChild(CNavNode* node);
-    CNavNode* newChild(ITEMIDLIST* id);
-    bool bindFolder();
-    bool ownName(DWORD rootFlags, DWORD flags, CString& name) const;
+    int nameInParent(DWORD shgdn, CString& name) const;
+    CNavNode* appendEnumerated(ITEMIDLIST* item, bool alwaysShown, bool foldersOnly);
+    CNavNode* appendElement(ITEMIDLIST* element);
+    bool bindAsFolder();
 
     IShellFolder* m_folder;
     ITEMIDLIST* m_id;

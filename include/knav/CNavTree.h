@@ -50,11 +50,10 @@ public:
     void Dump() const;
 
 private:
-    CNavNode* newDesktop(HWND owner);
-    bool buildDesktop(HWND owner, CWnd* dialog);
-    bool expandDrives(HWND owner);
-    CNavNode* newExtensionNode(CNavExtension& extension, CNavNode* desktop);
+    int makeDesktop(HWND owner);
+    int buildTopLevels(HWND owner, CWnd* dialog);
     bool isHidden(const CNavExtension& extension, bool leaveOutDisabled) const;
+    bool addExtension(CNavExtension& extension, CNavNode& desktop);
 
     CNavNode* m_root = nullptr;
     int m_hideExtensions = 0;
