@@ -58,13 +58,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void onOkCommand() { OnOK(); }
-    void onCancelCommand() { OnCancel(); }
     bool createWindow(const DLGTEMPLATE* dialogTemplate, HWND owner);
-    const DLGTEMPLATE* findTemplate(HINSTANCE& module) const noexcept;
-    LRESULT initialise(WPARAM wParam, LPARAM lParam);
+    const DLGTEMPLATE* findTemplate() noexcept;
+    LRESULT initialise();
     void runModalLoop();
-    void showWhenQuiet(bool& pending);
+    bool running() const noexcept { return m_modal && m_hWnd != nullptr; }
     static INT_PTR CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     UINT m_templateId = 0;

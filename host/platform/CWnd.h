@@ -8,8 +8,9 @@
 class CDataExchange;
 
 namespace zoui {
+class CreationHook;
 struct WindowBinding;
-}
+}  // namespace zoui
 
 // Asks a window whether it has something to do while no message waits. wParam is MSGF_DIALOGBOX, lParam counts the
 // calls since the last message; a result of 0 stops the calls until then. Handle it with ON_MESSAGE.
@@ -147,9 +148,13 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class zoui::CreationHook;
     friend struct zoui::WindowBinding;
     LRESULT defaultOrReflect(HWND child);
     BOOL bind(HWND window, bool subclass, bool created);
+    void bindCreated(HWND window) { bind(window, true, true); }
+    bool callHandler(UINT message, UINT id, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    BOOL reflectToMap(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
 
     zoui::WindowBinding* m_binding = nullptr;
 };
