@@ -4,7 +4,7 @@
 #include <future>
 #include <memory>
 
-#include <ry/ModuleFolder.h>
+#include "ry/ModuleFolder.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include <ry/ModuleFolder.h>
+#include "ry/ModuleFolder.h"
 
 namespace zoui {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include <ry/ModuleFolder.h>
+#include "ry/ModuleFolder.h"
 
 namespace {
 

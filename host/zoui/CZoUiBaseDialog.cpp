@@ -1,8 +1,9 @@
 #include <zoui/CZoUiBaseDialog.h>
 
 #include <zoui/CZoUiControl.h>
-#include <zoui/NotifyMessage.h>
-#include <zoui/ThemedControls.h>
+
+#include "zoui/NotifyMessage.h"
+#include "zoui/ThemedControls.h"
 
 IMPLEMENT_DYNAMIC(CZoUiBaseDialog, CDialog)
 

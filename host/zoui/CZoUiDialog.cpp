@@ -1,8 +1,9 @@
 #include <zoui/CZoUiDialog.h>
 
 #include <zoui/CZoUiRegistryAccess.h>
-#include <zoui/DialogPlace.h>
-#include <zoui/SettingsKey.h>
+
+#include "zoui/DialogPlace.h"
+#include "zoui/SettingsKey.h"
 
 IMPLEMENT_DYNAMIC(CZoUiDialog, CZoUiBaseDialog)
 

@@ -1,6 +1,6 @@
 #include <zoui/CZoUiListBox.h>
 
-#include <zoui/RowTip.h>
+#include "zoui/RowTip.h"
 
 IMPLEMENT_DYNAMIC(CZoUiListBox, CListBox)
 

@@ -1,6 +1,6 @@
 #include <zoui/CZoUiPathname.h>
 
-#include <zoui/PathText.h>
+#include "zoui/PathText.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include <zoui/DialogPlace.h>
+#include "zoui/DialogPlace.h"
 
 #include <algorithm>
 #include <cwchar>

@@ -1,4 +1,4 @@
-#include <zoui/PathText.h>
+#include "zoui/PathText.h"
 
 #include <algorithm>
 #include <array>

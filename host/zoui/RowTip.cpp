@@ -1,4 +1,4 @@
-#include <zoui/RowTip.h>
+#include "zoui/RowTip.h"
 
 namespace zoui {
 namespace {

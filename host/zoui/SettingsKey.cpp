@@ -1,4 +1,4 @@
-#include <zoui/SettingsKey.h>
+#include "zoui/SettingsKey.h"
 
 #include <cstdint>
 #include <cwctype>

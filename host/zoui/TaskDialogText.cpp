@@ -1,4 +1,4 @@
-#include <zoui/TaskDialogText.h>
+#include "zoui/TaskDialogText.h"
 
 #include <xmllite.h>
 

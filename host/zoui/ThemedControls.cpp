@@ -1,6 +1,6 @@
-#include <zoui/ThemedControls.h>
+#include "zoui/ThemedControls.h"
 
-#include <ry/ModuleFolder.h>
+#include "ry/ModuleFolder.h"
 
 namespace zoui {
 namespace {

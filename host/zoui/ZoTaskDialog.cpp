@@ -3,8 +3,9 @@
 #include <platform/CWnd.h>
 #include <platform/Prompt.h>
 #include <platform/Resources.h>
-#include <zoui/TaskDialogText.h>
-#include <zoui/ThemedControls.h>
+
+#include "zoui/TaskDialogText.h"
+#include "zoui/ThemedControls.h"
 
 namespace {
 

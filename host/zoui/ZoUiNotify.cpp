@@ -1,8 +1,8 @@
 #include <zoui/ZoUiNotify.h>
 
-#include <zoui/NotifyMessage.h>
-
 #include <platform/RegisteredMessage.h>
+
+#include "zoui/NotifyMessage.h"
 
 const UINT WM_ZOUI_NOTIFY = zoui::registeredMessage(L"Kelvara.ZoUiNotify");
 
