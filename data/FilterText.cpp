@@ -50,7 +50,7 @@ std::vector<wchar_t> knav::copyFilterList(const wchar_t* list, std::size_t limit
     while (length < limit && (list[length - 2] != L'\0' || list[length - 1] != L'\0')) {
         ++length;
     }
-    std::vector<wchar_t> copy(list, list + length);
-    std::fill(copy.end() - 2, copy.end(), L'\0');
+    std::vector<wchar_t> copy(length);  // zeros
+    std::copy_n(list, length - 2, copy.begin());
     return copy;
 }

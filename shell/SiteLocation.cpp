@@ -72,6 +72,9 @@ std::optional<std::wstring> canonicalLocation(std::wstring_view location) {
     // ".." may have led out of the fake root's folder but not out of its drive, which is then the site's root too.
     std::wstring_view rest(canonical);
     rest.remove_prefix(liesIn(rest, kFakeRoot) ? kFakeRoot.size() : std::min(rest.size(), kFakeRoot.find(L'\\')));
+    if (!rest.empty() && rest.front() != L'\\') {
+        return std::nullopt;  // names of three dots and more can confuse the path functions; the host must not change
+    }
     std::wstring result(prefix);
     result += rest;
     std::ranges::replace(result, L'\\', L'/');

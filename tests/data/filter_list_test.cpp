@@ -1,0 +1,229 @@
+#include <knav/CNavFilterArray.h>
+
+#include <random>
+
+#include "data/FilterText.h"
+#include "support/Printers.h"
+
+namespace {
+
+using Strings = std::vector<std::wstring>;
+
+// "|" stands for the zero that ends an element.
+std::wstring listText(std::wstring text) {
+    std::ranges::replace(text, L'|', L'\0');
+    text += L'\0';
+    return text;
+}
+
+std::wstring describe(const CNavFilter& filter) {
+    std::wstring text = filter.GetDescription();
+    for (const CString& pattern : filter) {
+        text += L'|';
+        text += pattern.view();
+    }
+    return text;
+}
+
+Strings describe(const CNavFilterArray& filters) {
+    Strings all;
+    for (int i = 0; i < filters.GetCount(); ++i) {
+        all.push_back(describe(*filters[i]));
+    }
+    return all;
+}
+
+const std::wstring k518(518, L'p');
+const std::wstring k530(530, L'p');
+const std::wstring k600(600, L'd');
+
+struct ListRow {
+    const char* why;
+    std::wstring list;
+    Strings filters;  // description|pattern|pattern
+};
+
+TEST(CNavFilterArray, ReadsListTexts) {
+    const ListRow rows[] = {
+        {"two pairs; *.* means no patterns",
+         L"Text (*.txt)|*.txt|All files|*.*|",
+         {L"Text (*.txt)|*.txt", L"All files"}},
+        {"a blank belongs to its pattern", L"Text|*.txt; *.log |", {L"Text|*.txt| *.log "}},
+        {"a separator at the end makes an empty pattern", L"Text|*.txt;|", {L"Text|*.txt|"}},
+        {"a separator alone makes two", L"Text|;|", {L"Text||"}},
+        {"*.* among others is a pattern", L"All|*.*;*.txt|", {L"All|*.*|*.txt"}},
+        {"*.* with a blank is a pattern", L"All| *.*|", {L"All| *.*"}},
+        {"an empty list", L"|", {L""}},
+        {"a description alone ends the list", L"Text||", {L"Text"}},
+        {"an empty description", L"|*.txt|More|*.m|", {L"|*.txt", L"More|*.m"}},
+        {"520 characters are kept", L"D|" + k518 + L"|E|*.e|", {L"D|" + k518, L"E|*.e"}},
+        {"one more is cut off", L"D|" + k518 + L"p|E|*.e|", {L"D|" + k518}},
+        {"what follows the cut is the next pair",
+         L"D|" + k530 + L"|E|*.e|",
+         {L"D|" + k518, k530.substr(519) + L"|E", L"*.e"}},
+        {"a cut description has no patterns", k600 + L"|*.d|E|*.e|", {k600, k600.substr(521) + L"|*.d", L"E|*.e"}},
+        {"a description that just fits", k600.substr(0, 519) + L"|*.d|", {k600.substr(0, 519), L"*.d"}},
+    };
+    for (const ListRow& row : rows) {
+        SCOPED_TRACE(row.why);
+        CNavFilterArray filters;
+        filters.AddData();
+        filters[0]->SetDescription(L"from before");
+        filters.SetFrom(listText(row.list).c_str(), 0);
+        EXPECT_EQ(describe(filters), row.filters);
+        for (int i = 0; i < filters.GetCount(); ++i) {
+            EXPECT_EQ(filters[i]->GetTagIndex(), i + 1);
+        }
+    }
+}
+
+TEST(CNavFilterArray, TakesNullForAnEmptyList) {
+    CNavFilterArray filters;
+    filters.SetFrom(nullptr, 1);
+    EXPECT_EQ(describe(filters), Strings{L""});
+    EXPECT_EQ(filters[0]->IsAllowed(L"any.thing"), 1);
+}
+
+TEST(CNavFilterArray, MayReadATextOfItsOwn) {
+    CNavFilterArray filters;
+    const std::wstring text = listText(L"Text|*.txt|");
+    filters.AddData();
+    filters[0]->SetDescription(L"x");
+    filters[0]->Add(CString(text));  // a zero inside: the pattern holds a whole list
+    filters.SetFrom(filters[0]->GetAt(0), 0);
+    EXPECT_EQ(describe(filters), Strings{L"Text|*.txt"});
+}
+
+// Stops making filters after the second.
+class TwoFilters : public CNavFilterArray {
+public:
+    CNavFilter* NewData() override { return GetCount() < 2 ? CNavFilterArray::NewData() : nullptr; }
+};
+
+TEST(CNavFilterArray, KeepsWhatWasMadeWhenMemoryEnds) {
+    TwoFilters filters;
+    filters.SetFrom(listText(L"A|*.a|B|*.b|C|*.c|").c_str(), 0);
+    EXPECT_EQ(describe(filters), (Strings{L"A|*.a", L"B|*.b"}));
+}
+
+TEST(CNavFilterArray, FindsPatterns) {
+    CNavFilterArray filters;
+    EXPECT_EQ(filters.Find(L"*.txt"), -1);
+    filters.SetFrom(listText(L"Any|*.*|Texts|*.csv;*.TXT|Text|*.txt|Log|*.log|").c_str(), 0);
+    EXPECT_EQ(filters.Find(L"*.txt"), 1);
+    EXPECT_EQ(filters.FindExact(L"*.txt"), -1) << "the first that has it has others too";
+    EXPECT_EQ(filters.FindExact(L"*.Log"), 3);
+    EXPECT_EQ(filters.Find(L"*.*"), -1);
+    EXPECT_EQ(filters.Find(nullptr), -1);
+    EXPECT_EQ(filters.FindExact(nullptr), -1);
+    EXPECT_EQ(filters[1]->Find(L"*.txt"), 1);
+    EXPECT_EQ(filters[1]->Find(nullptr), -1);
+    EXPECT_EQ(filters[0]->Find(L""), -1);
+}
+
+TEST(CNavFilter, ShowsPatternsUnlessTheDescriptionIsFull) {
+    CNavFilter filter;
+    CString shown;
+    std::wstring pair = listText(L"Text|*.txt;*.csv|");
+    EXPECT_EQ(filter.SetFrom(pair.data(), 0), nullptr);
+    filter.GetFullDescription(shown);
+    EXPECT_EQ(shown, L"Text (*.txt, *.csv)");
+    filter.SetFullDescription(L"Tables");
+    filter.GetFullDescription(shown);
+    EXPECT_EQ(shown, L"Tables");
+    filter.SetDescription(L"Tables");
+    filter.GetFullDescription(shown);
+    EXPECT_EQ(shown, L"Tables (*.txt, *.csv)");
+    filter.SetFrom(pair.data(), 1);
+    filter.GetFullDescription(shown);
+    EXPECT_EQ(shown, L"Text");
+    EXPECT_EQ(filter.SetFrom(nullptr, 0), nullptr);
+    filter.GetFullDescription(shown);
+    EXPECT_EQ(shown, L"") << "null empties it";
+    filter.SetDescription(L"All");
+    filter.GetFullDescription(shown);
+    EXPECT_EQ(shown, L"All");
+}
+
+TEST(CNavFilter, KeepsMultiSelectionPerObject) {
+    alignas(CNavFilter) std::byte place[sizeof(CNavFilter)];
+    auto* filter = new (place) CNavFilter;
+    CNavFilter other;
+    EXPECT_EQ(filter->GetMultiSelectAllowed(), 0);
+    filter->SetMultiSelectAllowed(1);
+    EXPECT_EQ(filter->GetMultiSelectAllowed(), 1);
+    EXPECT_EQ(other.GetMultiSelectAllowed(), 0);
+    filter->~CNavFilter();
+    filter = new (place) CNavFilter;
+    EXPECT_EQ(filter->GetMultiSelectAllowed(), 0) << "a new one in the same place";
+    filter->~CNavFilter();
+}
+
+TEST(FilterText, EndsAListThatIsTooLong) {
+    const std::wstring list = listText(L"A|*.aaa|");
+    const auto copied = [&](std::size_t limit) {
+        const std::vector<wchar_t> copy = knav::copyFilterList(list.c_str(), limit);
+        return std::wstring(copy.begin(), copy.end());
+    };
+    EXPECT_EQ(copied(100), list);
+    EXPECT_EQ(copied(list.size()), list);
+    EXPECT_EQ(copied(6), std::wstring(L"A\0*.\0\0", 6));
+}
+
+// A text that ends at the end of accessible memory.
+class GuardedText {
+public:
+    GuardedText() : m_pages(static_cast<std::byte*>(VirtualAlloc(nullptr, 2 * kPage, MEM_RESERVE, PAGE_NOACCESS))) {
+        VirtualAlloc(m_pages, kPage, MEM_COMMIT, PAGE_READWRITE);
+    }
+    GuardedText(const GuardedText&) = delete;
+    GuardedText& operator=(const GuardedText&) = delete;
+    ~GuardedText() { VirtualFree(m_pages, 0, MEM_RELEASE); }
+
+    wchar_t* place(const std::wstring& text) {
+        auto* const start = reinterpret_cast<wchar_t*>(m_pages + kPage) - text.size();
+        std::ranges::copy(text, start);
+        return start;
+    }
+
+private:
+    static constexpr std::size_t kPage = 0x10000;
+    std::byte* m_pages;
+};
+
+std::wstring randomList(std::mt19937& random) {
+    constexpr std::wstring_view letters = L"|||;;**..?ab Ä";
+    const std::size_t length = random() % 8 != 0 ? random() % 40 : random() % 3000;
+    const bool sparse = length > 40;
+    std::wstring text;
+    while (text.size() < length) {
+        const wchar_t letter = letters[random() % letters.size()];
+        text += sparse && letter == L'|' && random() % 200 != 0 ? L'x' : letter;
+    }
+    text = listText(text + L'|');
+    text.resize(text.find(std::wstring(2, L'\0')) + 2);
+    return text;
+}
+
+TEST(CNavFilterArrayFuzz, ReadsAnyListWithinItsBounds) {
+    std::mt19937 random(20);
+    GuardedText memory;
+    for (int round = 0; round < 100'000; ++round) {
+        const std::wstring list = randomList(random);
+        wchar_t* const start = memory.place(list);
+        Strings walked;
+        for (wchar_t* next = start; next != nullptr;) {
+            ASSERT_LT(next, start + list.size());
+            CNavFilter filter;
+            wchar_t* const from = next;
+            next = filter.SetFrom(next, 0);
+            ASSERT_TRUE(next == nullptr || next > from);
+            walked.push_back(describe(filter));
+        }
+        CNavFilterArray filters;
+        filters.SetFrom(start, 0);
+        ASSERT_EQ(describe(filters), walked) << knav::test::utf8(list);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,269 @@
+#include <knav/CNavNode.h>
+#include <knav/CNavPathname.h>
+#include <knav/CNavShell.h>
+
+#include <cstring>
+
+#include "data/Scrambler.h"
+#include "data/SiteFolderFake.h"
+#include "shell/ExtensionItems.h"
+#include "shell/ItemList.h"
+#include "support/AllocationSpy.h"
+#include "support/Printers.h"
+#include "support/ScopedTempFolder.h"
+
+namespace {
+
+using knav::ItemList;
+using knav::test::AllocationSpy;
+using knav::test::ScopedTempFolder;
+using knav::test::Scrambler;
+using knav::test::SiteFolderFake;
+
+constexpr ULONG kFolder = SFGAO_FOLDER | SFGAO_FILESYSTEM;
+
+// A root, a site below it and an item below that, with fake folders. Nodes take one reference to their folder.
+class Hierarchy {
+public:
+    // `location` is the parsing name of the site.
+    explicit Hierarchy(NavNodeType rootType, const wchar_t* location = L"ftp://host")
+        : rootFolder(location), siteFolder(L"") {
+        setUp(root, nullptr, rootType, &rootFolder, knav::buildExtensionRootItem(shell, L"Store"));
+        setUp(site, &root, static_cast<NavNodeType>(rootType + 1), &siteFolder, SiteFolderFake::itemOf(L""));
+        setUp(item, &site, static_cast<NavNodeType>(rootType + 2), nullptr, SiteFolderFake::itemOf(L"deep"));
+    }
+
+    SiteFolderFake rootFolder;
+    SiteFolderFake siteFolder;
+    CNavShell shell;
+    CNavNode root{shell};
+    CNavNode site{shell};
+    CNavNode item{shell};
+
+private:
+    static void setUp(CNavNode& node, CNavNode* parent, NavNodeType type, SiteFolderFake* folder, ITEMIDLIST* id) {
+        if (folder != nullptr) {
+            folder->AddRef();
+        }
+        node.SetFolder(folder);
+        node.SetID(id);
+        node.SetType(type);
+        node.SetParent(parent);
+    }
+};
+
+CString fullPath(const CNavPathname& pathname) {
+    CString path;
+    pathname.GetFullPath(path);
+    return path;
+}
+
+TEST(CNavPathnameRelative, TakesAbsolutePathsInOrdinaryFolders) {
+    const ScopedTempFolder temp;
+    temp.addFile(L"there.txt");
+    temp.addFolder(L"sub");
+    CNavShell shell;
+    CNavNode ordinary(shell);
+    struct Row {
+        const char* why;
+        CString text;
+        int wildcards;
+        PathErr result;
+        CZoUiPathname::Type type;
+    };
+    const Row rows[] = {
+        {"a file", temp.path(L"there.txt"), 1, PathErr::None, CZoUiPathname::ExistingFile},
+        {"a new file", temp.path(L"new.txt"), 1, PathErr::None, CZoUiPathname::NewFile},
+        {"a folder", temp.path(L"sub"), 0, PathErr::None, CZoUiPathname::Directory},
+        {"a pattern", temp.path(L"*.txt"), 1, PathErr::None, CZoUiPathname::Wildcard},
+        {"a pattern where none may be", temp.path(L"*.txt"), 0, PathErr::NotFileSystem, CZoUiPathname::NoPath},
+        {"a path through a missing folder", temp.path(L"no\\a"), 1, PathErr::None, CZoUiPathname::Invalid},
+        {"a name", L"there.txt", 1, PathErr::NotFileSystem, CZoUiPathname::NoPath},
+        {"a URL", L"ftp://host/a", 1, PathErr::NotFileSystem, CZoUiPathname::NoPath},
+        {"nothing", L"", 1, PathErr::NotFileSystem, CZoUiPathname::NoPath},
+        {"too much", temp.path(std::wstring(300, L'a').c_str()), 1, PathErr::NotFileSystem, CZoUiPathname::NoPath},
+    };
+    CNavPathname base;
+    base.Parse(temp.path(), false);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.why);
+        for (CNavNode* const node : {&ordinary, static_cast<CNavNode*>(nullptr)}) {
+            CNavPathname pathname;
+            EXPECT_EQ(pathname.ParseRelative(row.text, &base, node, row.wildcards), row.result);
+            EXPECT_EQ(pathname.GetType(), row.type);
+            EXPECT_FALSE(pathname.GetIsURL() || pathname.GetIsExtension());
+        }
+    }
+    EXPECT_EQ(CNavPathname().ParseRelative(nullptr, nullptr, nullptr, 1), PathErr::NotFileSystem);
+}
+
+struct SiteRow {
+    const char* why;
+    const wchar_t* site;
+    std::wstring text;
+    PathErr result;
+    std::wstring location;
+    const wchar_t* asked;  // what the site's folder is asked for
+};
+
+TEST(CNavPathnameRelative, ResolvesTextsInsideASite) {
+    const std::wstring long240(240, L'a');
+    const SiteRow rows[] = {
+        {"a name", L"ftp://host", L"f.dwg", PathErr::None, L"ftp://host/f.dwg", L"f.dwg"},
+        {"below a site with a path", L"ftp://host/home/", L"d/f", PathErr::None, L"ftp://host/home/d/f", L"d/f"},
+        {"backslashes", L"ftp://host", L"d\\f", PathErr::None, L"ftp://host/d/f", L"d/f"},
+        {"from the site's root", L"ftp://host/home", L"/d/f", PathErr::None, L"ftp://host/d/f", L"ftp://host/d/f"},
+        {"the same with a backslash", L"ftp://host", L"\\d", PathErr::None, L"ftp://host/d", L"d"},
+        {"the whole location", L"ftp://host", L"ftp://host/d/f", PathErr::None, L"ftp://host/d/f", L"d/f"},
+        {"in another case", L"ftp://host", L"FTP://Host/d", PathErr::None, L"FTP://Host/d", L"d"},
+        {"a folder by its separator", L"ftp://host", L"d/", PathErr::None, L"ftp://host/d/", L"d"},
+        {"dots", L"ftp://host/home", L"a/../b/./c", PathErr::None, L"ftp://host/home/b/c", L"b/c"},
+        {"dots stop at the root", L"ftp://host/home", L"../../../b", PathErr::None, L"ftp://host/b", L"ftp://host/b"},
+        {"another site", L"ftp://host", L"ftp://host2/f", PathErr::NotFileSystem, L"", L""},
+        {"another scheme", L"ftp://host", L"http://host/f", PathErr::NotFileSystem, L"", L""},
+        {"an extension's own scheme", L"store://shelf", L"a/../b", PathErr::None, L"store://shelf/b", L"b"},
+        {"a site without a scheme", L"Shelf", L"a/b", PathErr::None, L"Shelf/a/b", L"a/b"},
+        {"and from its root", L"Shelf", L"/a", PathErr::None, L"Shelf/a", L"a"},
+        {"nothing", L"ftp://host", L"", PathErr::Empty, L"", L""},
+        {"a text that is too long", L"ftp://host", std::wstring(260, L'a'), PathErr::TooLong, L"", L""},
+        {"too long when joined", L"ftp://host/0123456789", long240, PathErr::TooLong, L"", L""},
+        {"too long without a scheme", L"Shelf/0123456789abcdef", long240, PathErr::TooLong, L"", L""},
+    };
+    for (const SiteRow& row : rows) {
+        SCOPED_TRACE(row.why);
+        Hierarchy hierarchy(NavNodeExtensionRoot, row.site);
+        for (CNavNode* const node : {&hierarchy.site, &hierarchy.item}) {
+            CNavPathname pathname;
+            EXPECT_EQ(pathname.ParseRelative(row.text.c_str(), nullptr, node, 1), row.result);
+            EXPECT_EQ(fullPath(pathname), row.location.c_str());
+            EXPECT_TRUE(pathname.GetIsExtension());
+            EXPECT_EQ(hierarchy.siteFolder.lastParsed(), row.asked);
+            if (row.result == PathErr::None) {
+                EXPECT_EQ(pathname.GetType(), CZoUiPathname::ExistingFile) << "the folder does not know it";
+                EXPECT_EQ(pathname.GetID(), nullptr);
+            }
+        }
+    }
+}
+
+TEST(CNavPathnameRelative, AsksTheSitesFolderWhatAnItemIs) {
+    Hierarchy hierarchy(NavNodeExtensionRoot);
+    hierarchy.siteFolder.add(L"d", kFolder);
+    hierarchy.siteFolder.add(L"f", SFGAO_FILESYSTEM);
+    struct Row {
+        const wchar_t* text;
+        CZoUiPathname::Type type;
+        const wchar_t* element;
+    };
+    constexpr Row rows[] = {
+        {L"d", CZoUiPathname::Directory, L"d"},     {L"d/", CZoUiPathname::Directory, L"d"},
+        {L"f", CZoUiPathname::ExistingFile, L"f"},  {L"ftp://host/", CZoUiPathname::Directory, nullptr},
+        {L"..", CZoUiPathname::Directory, nullptr},
+    };
+    const ItemList site = ItemList::adopt(hierarchy.site.CalculateQualifiedItemList());
+    for (const Row& row : rows) {
+        SCOPED_TRACE(knav::test::utf8(row.text));
+        const LONG before = AllocationSpy::live();
+        {
+            CNavPathname pathname;
+            EXPECT_EQ(pathname.ParseRelative(row.text, nullptr, &hierarchy.item, 1), PathErr::None);
+            EXPECT_EQ(pathname.GetType(), row.type);
+            const ItemList element =
+                row.element != nullptr ? ItemList::adopt(SiteFolderFake::itemOf(row.element)) : ItemList();
+            const ItemList expected = ItemList::join(site.get(), element.get());
+            ASSERT_NE(pathname.GetID(), nullptr);
+            EXPECT_EQ(ILGetSize(pathname.GetID()), ILGetSize(expected.get()));
+            EXPECT_EQ(std::memcmp(pathname.GetID(), expected.get(), ILGetSize(expected.get())), 0);
+
+            const CNavPathname copy(pathname);
+            EXPECT_EQ(copy.GetID(), pathname.GetID());
+            pathname.ParseRelative(L"unknown", nullptr, &hierarchy.item, 1);
+            EXPECT_EQ(pathname.GetID(), nullptr);
+        }
+        EXPECT_EQ(AllocationSpy::live(), before) << "the list goes with the path name";
+    }
+}
+
+TEST(CNavPathnameRelative, LeavesASiteByAnAbsolutePath) {
+    const ScopedTempFolder temp;
+    const CString file = temp.addFile(L"a.txt");
+    Hierarchy hierarchy(NavNodeExtensionRoot);
+    for (CNavNode* const node : {&hierarchy.item, &hierarchy.root}) {
+        CNavPathname pathname;
+        EXPECT_EQ(pathname.ParseRelative(file, nullptr, node, 1), PathErr::None);
+        EXPECT_FALSE(pathname.GetIsExtension());
+        EXPECT_EQ(pathname.GetType(), CZoUiPathname::ExistingFile);
+        EXPECT_EQ(fullPath(pathname), file);
+    }
+    EXPECT_EQ(hierarchy.siteFolder.lastParsed(), L"");
+}
+
+TEST(CNavPathnameRelative, DecodesLocationsInWebFolders) {
+    Hierarchy hierarchy(NavNodeWebFoldersRoot, L"http://host/my%20files");
+    CNavPathname pathname;
+    EXPECT_EQ(pathname.ParseRelative(L"http://host/my%20files/a%20b", nullptr, &hierarchy.item, 1), PathErr::None);
+    EXPECT_EQ(fullPath(pathname), L"http://host/my files/a b");
+    EXPECT_EQ(hierarchy.siteFolder.lastParsed(), L"a b");
+    EXPECT_TRUE(pathname.GetIsURL());
+
+    Hierarchy internet(NavNodeInternetRoot, L"store://shelf");
+    EXPECT_EQ(pathname.ParseRelative(L"a%20b", nullptr, &internet.site, 1), PathErr::None);
+    EXPECT_EQ(fullPath(pathname), L"store://shelf/a%20b");
+    EXPECT_TRUE(pathname.GetIsURL());
+    EXPECT_FALSE(pathname.GetIsExtension());
+}
+
+TEST(CNavPathnameRelative, LooksUpSitesAtARoot) {
+    Hierarchy hierarchy(NavNodeExtensionRoot, L"ftp://");
+    hierarchy.rootFolder.add(L"host", kFolder);
+    const LONG before = AllocationSpy::live();
+    {
+        CNavPathname pathname;
+        EXPECT_EQ(pathname.ParseRelative(L"host", nullptr, &hierarchy.root, 1), PathErr::None);
+        EXPECT_EQ(pathname.GetType(), CZoUiPathname::Directory);
+        EXPECT_EQ(fullPath(pathname), L"ftp://host");
+        EXPECT_TRUE(NavIsExtensionChildItem(pathname.GetID()));
+        EXPECT_EQ(pathname.ParseRelative(L"nowhere", nullptr, &hierarchy.root, 1), PathErr::NotFileSystem);
+        EXPECT_EQ(pathname.GetID(), nullptr);
+    }
+    EXPECT_EQ(AllocationSpy::live(), before);
+
+    CNavShell shell;
+    CNavNode folderless(shell);
+    folderless.SetType(NavNodeExtensionRoot);
+    EXPECT_EQ(CNavPathname().ParseRelative(L"host", nullptr, &folderless, 1), PathErr::NotFileSystem);
+    CNavNode orphan(shell);
+    orphan.SetType(NavNodeInternetItem);
+    EXPECT_EQ(CNavPathname().ParseRelative(L"host", nullptr, &orphan, 1), PathErr::NotFileSystem);
+}
+
+TEST(CNavPathnameRelative, SurvivesAFolderThatFaults) {
+    Hierarchy hierarchy(NavNodeExtensionRoot);
+    hierarchy.siteFolder.breakDown();
+    hierarchy.rootFolder.breakDown();
+    CNavPathname pathname;
+    EXPECT_EQ(pathname.ParseRelative(L"a", nullptr, &hierarchy.site, 1), PathErr::None);
+    EXPECT_EQ(pathname.GetType(), CZoUiPathname::ExistingFile);
+    EXPECT_EQ(pathname.ParseRelative(L"a", nullptr, &hierarchy.root, 1), PathErr::NotFileSystem);
+}
+
+TEST(CNavPathnameRelativeFuzz, NeverLeavesTheSiteByText) {
+    Scrambler scramble(33);
+    Hierarchy hierarchy(NavNodeExtensionRoot, L"ftp://host/home");
+    int inside = 0;
+    for (int round = 0; round < 40'000; ++round) {
+        const std::wstring text = scramble.text(round % 8 != 0 ? 20 : 400);
+        CNavPathname pathname;
+        const PathErr result = pathname.ParseRelative(text.c_str(), nullptr, &hierarchy.item, 1);
+        if (result != PathErr::None || !pathname.GetIsExtension()) {
+            continue;
+        }
+        ++inside;
+        const CString location = fullPath(pathname);
+        ASSERT_LT(location.GetLength(), MAX_PATH);
+        ASSERT_TRUE(location == L"ftp://host" || location.Left(11) == L"ftp://host/") << knav::test::utf8(text);
+    }
+    EXPECT_GT(inside, 10'000);
+}
+
+}  // namespace
