@@ -81,7 +81,7 @@ std::vector<BYTE> Module::bytes(UINT id, const wchar_t* type) const {
 }
 
 std::vector<std::wstring> builtLanguages() {
-    std::vector<std::wstring> languages{L""};
+    std::vector<std::wstring> languages(1);
     for (const auto& entry : std::filesystem::directory_iterator(programFolder())) {
         if (entry.is_directory() && exists(entry.path() / L"KnavRes.dll"))
             languages.push_back(entry.path().filename().wstring());
