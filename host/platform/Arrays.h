@@ -15,6 +15,12 @@ namespace zoui {
 template <class Element>
 class Array : public CObject {
 public:
+    // So that standard algorithms and test matchers take it as a container.
+    using value_type = Element;
+    using iterator = typename std::vector<Element>::iterator;
+    using const_iterator = typename std::vector<Element>::const_iterator;
+    std::size_t size() const noexcept { return m_elements.size(); }
+
     INT_PTR GetSize() const noexcept { return static_cast<INT_PTR>(m_elements.size()); }
     INT_PTR GetCount() const noexcept { return GetSize(); }
     INT_PTR GetUpperBound() const noexcept { return GetSize() - 1; }
@@ -73,10 +79,10 @@ public:
         m_elements.erase(m_elements.begin() + index, m_elements.begin() + index + count);
     }
 
-    auto begin() const noexcept { return m_elements.begin(); }
-    auto end() const noexcept { return m_elements.end(); }
-    auto begin() noexcept { return m_elements.begin(); }
-    auto end() noexcept { return m_elements.end(); }
+    const_iterator begin() const noexcept { return m_elements.begin(); }
+    const_iterator end() const noexcept { return m_elements.end(); }
+    iterator begin() noexcept { return m_elements.begin(); }
+    iterator end() noexcept { return m_elements.end(); }
 
 protected:
     Array() = default;

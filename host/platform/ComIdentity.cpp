@@ -3,6 +3,7 @@
 namespace zoui {
 
 void ComIdentity::targetEnded() noexcept {
+    m_wasAutomated = m_target->m_automated;
     m_target = nullptr;
     if (!m_inFinalRelease) {
         Release();
@@ -10,10 +11,8 @@ void ComIdentity::targetEnded() noexcept {
 }
 
 IUnknown* ComIdentity::interfaceOfTarget(REFIID iid) {
-    if (m_target != nullptr && m_target->m_automated) {
-        m_isDispatch = true;
-    }
-    if (IsEqualIID(iid, IID_IUnknown) || (m_isDispatch && IsEqualIID(iid, IID_IDispatch))) {
+    const bool automated = m_target != nullptr ? m_target->m_automated : m_wasAutomated;
+    if (IsEqualIID(iid, IID_IUnknown) || (automated && IsEqualIID(iid, IID_IDispatch))) {
         return this;
     }
     return m_target != nullptr ? m_target->GetInterfaceHook(iid) : nullptr;

@@ -28,7 +28,7 @@ private:
 
     CCmdTarget* m_target;  // null when it has ended
     LONG m_count = 1;
-    bool m_isDispatch = false;  // it was shown as IDispatch once, so it stays one
+    bool m_wasAutomated = false;  // what was an IDispatch stays one when the target has ended
     bool m_inFinalRelease = false;
 };
 

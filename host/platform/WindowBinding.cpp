@@ -21,6 +21,11 @@ const wchar_t* propertyName() noexcept {
     return MAKEINTATOM(atom);
 }
 
+// The system's subclass list is not for windows of other threads, but does not always refuse them.
+bool isOfThisThread(HWND window) noexcept {
+    return GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();
+}
+
 bool isOfThisProcess(HWND window) noexcept {
     DWORD process = 0;
     GetWindowThreadProcessId(window, &process);
@@ -57,7 +62,7 @@ WindowBinding* WindowBinding::of(HWND window) noexcept {
 }
 
 WindowBinding* WindowBinding::make(CWnd& object, HWND window, bool subclass, bool created) {
-    if (!IsWindow(window) || of(window) != nullptr) {
+    if (!IsWindow(window) || of(window) != nullptr || (subclass && !isOfThisThread(window))) {
         return nullptr;
     }
     auto binding = std::make_unique<WindowBinding>(WindowBinding{&object, window, subclass, created});

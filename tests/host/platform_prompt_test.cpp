@@ -1,0 +1,96 @@
+#include <platform/Prompt.h>
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace {
+
+// Installs a handler for the length of a test.
+class ScopedHandler {
+public:
+    explicit ScopedHandler(ZoPromptHandler handler) : m_previous(ZoSetPromptHandler(std::move(handler))) {}
+    ~ScopedHandler() { ZoSetPromptHandler(m_previous); }
+    ScopedHandler(const ScopedHandler&) = delete;
+    ScopedHandler& operator=(const ScopedHandler&) = delete;
+
+private:
+    ZoPromptHandler m_previous;
+};
+
+TEST(Prompt, HandlerAnswersAndSeesWhatWouldBeShown) {
+    ZoPrompt seen;
+    const ScopedHandler handler([&](const ZoPrompt& prompt) {
+        seen = prompt;
+        return IDRETRY;
+    });
+    EXPECT_EQ(AfxMessageBox(L"Replace it?", MB_RETRYCANCEL), IDRETRY);
+    EXPECT_EQ(seen.kind, ZoPromptKind::MessageBox);
+    EXPECT_STREQ(seen.text, L"Replace it?");
+    EXPECT_STREQ(seen.caption, L"test_host");
+    EXPECT_EQ(seen.flags, UINT{MB_RETRYCANCEL | MB_ICONQUESTION});
+
+    AfxMessageBox(L"Done", MB_OK);
+    EXPECT_EQ(seen.flags, UINT{MB_OK | MB_ICONEXCLAMATION});
+    AfxMessageBox(L"Done", MB_OK | MB_ICONINFORMATION);
+    EXPECT_EQ(seen.flags, UINT{MB_OK | MB_ICONINFORMATION});
+    ZoMessageBox(GetDesktopWindow(), L"text", L"Caption", MB_YESNO | MB_DEFBUTTON2);
+    EXPECT_STREQ(seen.caption, L"Caption");
+    EXPECT_EQ(seen.owner, GetDesktopWindow());
+    EXPECT_EQ(seen.flags, UINT{MB_YESNO | MB_DEFBUTTON2 | MB_ICONQUESTION});
+}
+
+TEST(Prompt, IsShownWhenTheHandlerPassesOrFails) {
+    int shown = 0;
+    const auto show = [&](const ZoPrompt& prompt) {
+        ++shown;
+        return prompt.text == L"text" ? IDNO : 0;
+    };
+    ZoPrompt prompt;
+    prompt.text = L"text";
+    {
+        const ScopedHandler handler(nullptr);
+        EXPECT_EQ(ZoAsk(prompt, show), IDNO);
+    }
+    {
+        const ScopedHandler handler([](const ZoPrompt&) { return std::nullopt; });
+        EXPECT_EQ(ZoAsk(prompt, show), IDNO);
+    }
+    {
+        const ScopedHandler handler([](const ZoPrompt&) -> std::optional<int> { throw std::runtime_error("broken"); });
+        EXPECT_EQ(ZoAsk(prompt, show), IDNO);
+    }
+    EXPECT_EQ(shown, 3);
+}
+
+TEST(Prompt, HandlerMayAskAndReplaceItself) {
+    int outerCalls = 0;
+    const ScopedHandler handler([&](const ZoPrompt&) -> std::optional<int> {
+        ++outerCalls;
+        ZoSetPromptHandler([](const ZoPrompt&) { return IDNO; });
+        return AfxMessageBox(L"inner");
+    });
+    EXPECT_EQ(AfxMessageBox(L"outer"), IDNO);
+    EXPECT_EQ(outerCalls, 1);
+}
+
+TEST(FormatText, ReplacesNumberedPlacesInOnePass) {
+    const struct {
+        const char* why;
+        const wchar_t* format;
+        std::vector<CString> arguments;
+        const wchar_t* expected;
+    } rows[] = {
+        {"both, in any order and repeated", L"%2 in %1, %1", {L"a", L"b"}, L"b in a, a"},
+        {"an argument with a place in it is not filled in", L"%1 %2", {L"%2", L"b"}, L"%2 b"},
+        {"a place without argument stays", L"%1 %2", {L"a"}, L"a %2"},
+        {"any other percent sign stays", L"100% %x %0 %%1 %", {L"a"}, L"100% %x %0 %a %"},
+        {"empty argument", L"<%1>", {L""}, L"<>"},
+        {"null format", nullptr, {L"a"}, L""},
+    };
+    for (const auto& row : rows) {
+        EXPECT_STREQ(ZoFormatText(row.format, row.arguments), row.expected) << row.why;
+    }
+}
+
+}  // namespace

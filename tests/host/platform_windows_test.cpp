@@ -1,0 +1,283 @@
+// Which of a window and its object may end first, and what is left of the other then.
+#include <platform/CEdit.h>
+#include <platform/CStatic.h>
+
+#include <gmock/gmock.h>
+
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using testing::ElementsAre;
+
+constexpr RECT kPlace{0, 0, 100, 50};
+
+// A plain window made without the framework.
+class RawWindow {
+public:
+    explicit RawWindow(const wchar_t* className = L"Static", HWND parent = nullptr)
+        : m_window(CreateWindowExW(0, className, L"raw", parent ? WS_CHILD : WS_POPUP, 0, 0, 10, 10, parent, nullptr,
+                                   nullptr, nullptr)) {}
+    ~RawWindow() { DestroyWindow(m_window); }
+    RawWindow(const RawWindow&) = delete;
+    RawWindow& operator=(const RawWindow&) = delete;
+    operator HWND() const { return m_window; }
+
+private:
+    HWND m_window;
+};
+
+// Runs a function for WM_APP, and counts what it hears.
+class Probe : public CWnd {
+public:
+    std::function<void()> action;
+    int ended = 0;
+    std::vector<UINT> messages;
+
+    LRESULT onAction(WPARAM, LPARAM) {
+        action();
+        return 5;
+    }
+    BOOL PreTranslateMessage(MSG*) override {
+        action();
+        return FALSE;
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        messages.push_back(message);
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    void PostNcDestroy() override { ++ended; }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(Probe, CWnd)
+ON_MESSAGE(WM_APP, &Probe::onAction)
+END_MESSAGE_MAP()
+
+BOOL createPopup(CWnd& window) {
+    return window.CreateEx(0, nullptr, L"", WS_POPUP, kPlace, nullptr, 0);
+}
+
+TEST(WindowLifetime, ObjectThatMadeItsWindowTakesItAlong) {
+    HWND handle = nullptr;
+    {
+        CWnd window;
+        ASSERT_TRUE(createPopup(window));
+        handle = window.m_hWnd;
+    }
+    EXPECT_FALSE(IsWindow(handle));
+}
+
+TEST(WindowLifetime, SubclassedAndAttachedWindowsOutliveTheirObjects) {
+    const RawWindow raw;
+    {
+        Probe probe;
+        ASSERT_TRUE(probe.SubclassWindow(raw));
+        probe.action = [] {};
+        EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 5);
+    }
+    EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 0);
+    EXPECT_EQ(CWnd::FromHandlePermanent(raw), nullptr);
+    {
+        Probe probe;
+        ASSERT_TRUE(probe.Attach(raw));
+        EXPECT_EQ(CWnd::FromHandlePermanent(raw), &probe);
+        EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 0);  // attached only: its messages are its own
+    }
+    EXPECT_TRUE(IsWindow(raw));
+}
+
+TEST(WindowLifetime, ObjectOutlivesItsWindowAndMayHaveAnother) {
+    Probe probe;
+    for (int round = 1; round <= 2; ++round) {
+        ASSERT_TRUE(createPopup(probe));
+        const HWND handle = probe.m_hWnd;
+        EXPECT_TRUE(::DestroyWindow(handle));
+        EXPECT_EQ(probe.m_hWnd, nullptr);
+        EXPECT_EQ(probe.ended, round);
+        EXPECT_EQ(CWnd::FromHandlePermanent(handle), nullptr);
+    }
+    EXPECT_FALSE(probe.DestroyWindow());
+}
+
+TEST(WindowLifetime, WindowMayBeDestroyedInItsOwnHandler) {
+    Probe probe;
+    createPopup(probe);
+    const HWND handle = probe.m_hWnd;
+    probe.action = [&] { probe.DestroyWindow(); };
+    EXPECT_EQ(SendMessageW(handle, WM_APP, 0, 0), 5);
+    EXPECT_EQ(probe.ended, 1);
+    EXPECT_EQ(probe.m_hWnd, nullptr);
+}
+
+TEST(WindowLifetime, ObjectMayBeDeletedInItsOwnHandler) {
+    const RawWindow raw;
+    auto subclassing = std::make_unique<Probe>();
+    subclassing->SubclassWindow(raw);
+    subclassing->action = [&] { subclassing.reset(); };
+    // The function is a member of the deleted object, so it runs from a copy.
+    const auto run = std::exchange(subclassing->action, nullptr);
+    subclassing->action = [&] {
+        const auto copy = run;
+        copy();
+    };
+    EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 5);
+    EXPECT_EQ(subclassing, nullptr);
+    EXPECT_TRUE(IsWindow(raw));
+    EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 0);
+}
+
+class SelfDeleting : public CWnd {
+public:
+    explicit SelfDeleting(bool& deleted, int createResult) : m_deleted(deleted), m_createResult(createResult) {}
+    int OnCreate(CREATESTRUCTW*) { return m_createResult; }
+    LRESULT onDestroy(WPARAM, LPARAM) {
+        DestroyWindow();
+        return 6;
+    }
+
+protected:
+    void PostNcDestroy() override {
+        m_deleted = true;
+        delete this;
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool& m_deleted;
+    int m_createResult;
+};
+BEGIN_MESSAGE_MAP(SelfDeleting, CWnd)
+ON_WM_CREATE()
+ON_MESSAGE(WM_APP, &SelfDeleting::onDestroy)
+END_MESSAGE_MAP()
+
+TEST(WindowLifetime, SelfDeletingObjectIsGoneWithItsWindow) {
+    bool deleted = false;
+    auto* const window = new SelfDeleting(deleted, 0);
+    ASSERT_TRUE(createPopup(*window));
+    EXPECT_EQ(window->SendMessage(WM_APP), 6);
+    EXPECT_TRUE(deleted);
+}
+
+TEST(WindowLifetime, RefusedCreationEndsASelfDeletingObjectOnce) {
+    bool deleted = false;
+    EXPECT_FALSE(createPopup(*new SelfDeleting(deleted, -1)));
+    EXPECT_TRUE(deleted);
+}
+
+TEST(WindowCreation, ObjectHearsTheFirstMessageOfASystemClass) {
+    CWnd parent;
+    createPopup(parent);
+    Probe probe;
+    probe.action = [] {};
+    ASSERT_TRUE(probe.CreateEx(0, WC_COMBOBOXW, nullptr, WS_CHILD | CBS_DROPDOWN, kPlace, &parent, 3));
+    EXPECT_EQ(probe.messages.front(), UINT{WM_NCCREATE});
+    EXPECT_EQ(probe.GetDlgCtrlID(), 3);
+    // The edit field inside the combo box is not the object's window.
+    EXPECT_EQ(CWnd::FromHandlePermanent(::GetWindow(probe, GW_CHILD)), nullptr);
+}
+
+TEST(Subclassing, IsRefusedForTakenDeadAndForeignWindows) {
+    const RawWindow raw;
+    CWnd first;
+    CWnd second;
+    ASSERT_TRUE(first.SubclassWindow(raw));
+    EXPECT_FALSE(second.SubclassWindow(raw));
+    EXPECT_EQ(CWnd::FromHandlePermanent(raw), &first);
+    EXPECT_EQ(second.m_hWnd, nullptr);
+    EXPECT_FALSE(second.SubclassWindow(nullptr));
+
+    first.UnsubclassWindow();
+    BOOL fromOtherThread = TRUE;
+    std::thread([&] { fromOtherThread = second.SubclassWindow(raw); }).join();
+    EXPECT_FALSE(fromOtherThread);
+    EXPECT_TRUE(second.SubclassWindow(raw));
+}
+
+LRESULT CALLBACK addToResult(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR added) {
+    return DefSubclassProc(window, message, wParam, lParam) + (message == WM_APP ? static_cast<LRESULT>(added) : 0);
+}
+
+TEST(Subclassing, EndsInTheMiddleOfOthers) {
+    const RawWindow raw;
+    SetWindowSubclass(raw, addToResult, 1, 10);
+    Probe probe;
+    probe.SubclassWindow(raw);
+    probe.action = [] {};
+    SetWindowSubclass(raw, addToResult, 2, 100);
+    EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 105);
+    EXPECT_EQ(probe.UnsubclassWindow(), static_cast<HWND>(raw));
+    EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 110);
+}
+
+TEST(WindowFromHandle, GivesTheObjectOrOneTemporary) {
+    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
+    HWND ended = nullptr;
+    {
+        const RawWindow raw;
+        ended = raw;
+        CWnd* const temporary = CWnd::FromHandle(raw);
+        EXPECT_EQ(temporary->m_hWnd, static_cast<HWND>(raw));
+        EXPECT_EQ(CWnd::FromHandlePermanent(raw), nullptr);
+        for (int i = 0; i < 300; ++i) {  // the temporaries of ended windows are cleared in between
+            const RawWindow other;
+            CWnd::FromHandle(other);
+        }
+        EXPECT_EQ(CWnd::FromHandle(raw), temporary);
+        CWnd object;
+        object.SubclassWindow(raw);
+        EXPECT_EQ(CWnd::FromHandle(raw), &object);
+    }
+    EXPECT_EQ(CWnd::FromHandlePermanent(ended), nullptr);
+}
+
+class Consumer : public CWnd {
+public:
+    Consumer(const char* name, std::vector<std::string>& log) : m_name(name), m_log(log) {}
+    std::function<BOOL()> answer = [] { return FALSE; };
+    BOOL PreTranslateMessage(MSG*) override {
+        m_log.push_back(m_name);
+        return answer();
+    }
+
+private:
+    std::string m_name;
+    std::vector<std::string>& m_log;
+};
+
+TEST(PreTranslate, WalksFromTheWindowUpToTheStop) {
+    std::vector<std::string> log;
+    Consumer top("top", log);
+    Consumer middle("middle", log);
+    Consumer inner("inner", log);
+    createPopup(top);
+    middle.Create(nullptr, L"", 0, kPlace, &top, 1);
+    inner.Create(nullptr, L"", 0, kPlace, &middle, 1);
+    const RawWindow withoutObject(L"Static", inner);
+    MSG message{withoutObject, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(top, &message));
+    EXPECT_THAT(log, ElementsAre("inner", "middle", "top"));
+    log.clear();
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(middle, &message));
+    EXPECT_THAT(log, ElementsAre("inner", "middle"));
+    log.clear();
+    middle.answer = [] { return TRUE; };
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(top, &message));
+    EXPECT_THAT(log, ElementsAre("inner", "middle"));
+    log.clear();
+    inner.answer = []() -> BOOL { throw std::runtime_error("broken"); };
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(top, &message));
+    EXPECT_THAT(log, ElementsAre("inner"));
+    inner.answer = [&] { return middle.DestroyWindow() ? FALSE : TRUE; };
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(top, &message));
+}
+
+}  // namespace
