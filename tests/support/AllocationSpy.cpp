@@ -29,7 +29,7 @@ public:
         return block;
     }
     STDMETHODIMP_(void) PostFree(BOOL) override {}
-    STDMETHODIMP_(SIZE_T) PreRealloc(void* block, SIZE_T size, void** newBlock, BOOL spyed) override {
+    STDMETHODIMP_(SIZE_T) PreRealloc(void* block, SIZE_T size, void** newBlock, BOOL) override {
         *newBlock = block;
         m_growsFromNothing = block == nullptr;
         m_shrinksToNothing = block != nullptr && size == 0;

@@ -1,0 +1,77 @@
+#include "demo/driver/Input.h"
+
+#include <vector>
+
+namespace {
+
+constexpr DWORD kPollMs = 20;
+
+INPUT key(WORD virtualKey, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = virtualKey;
+    input.ki.dwFlags = flags;
+    return input;
+}
+
+INPUT character(wchar_t unit, DWORD flags) {
+    INPUT input = key(0, KEYEVENTF_UNICODE | flags);
+    input.ki.wScan = unit;
+    return input;
+}
+
+INPUT button(DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    return input;
+}
+
+void send(std::vector<INPUT> inputs) {
+    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+// Presses `modifier`, does `inputs`, releases it.
+void sendWith(WORD modifier, std::vector<INPUT> inputs) {
+    if (modifier != 0) {
+        inputs.insert(inputs.begin(), key(modifier, 0));
+        inputs.push_back(key(modifier, KEYEVENTF_KEYUP));
+    }
+    send(std::move(inputs));
+}
+
+}  // namespace
+
+void knav::input::typeText(std::wstring_view text) {
+    std::vector<INPUT> inputs;
+    for (const wchar_t unit : text) {
+        inputs.push_back(character(unit, 0));
+        inputs.push_back(character(unit, KEYEVENTF_KEYUP));
+    }
+    send(std::move(inputs));
+}
+
+void knav::input::pressKey(WORD virtualKey, WORD modifier) {
+    sendWith(modifier, {key(virtualKey, 0), key(virtualKey, KEYEVENTF_KEYUP)});
+}
+
+void knav::input::click(POINT position, int times, WORD modifier) {
+    SetCursorPos(position.x, position.y);
+    std::vector<INPUT> inputs;
+    for (int i = 0; i < times; ++i) {
+        inputs.push_back(button(MOUSEEVENTF_LEFTDOWN));
+        inputs.push_back(button(MOUSEEVENTF_LEFTUP));
+    }
+    sendWith(modifier, std::move(inputs));
+}
+
+bool knav::input::waitUntil(const std::function<bool()>& ready, DWORD limitMs) {
+    const ULONGLONG start = GetTickCount64();
+    while (!ready()) {
+        if (GetTickCount64() - start > limitMs) {
+            return ready();
+        }
+        Sleep(kPollMs);
+    }
+    return true;
+}

@@ -1,0 +1,21 @@
+// Keyboard and mouse input as a person's hands make it: through the system's input queue, to whatever has the focus.
+#pragma once
+
+#include <platform/Windows.h>
+
+#include <functional>
+#include <string_view>
+
+namespace knav::input {
+
+/// Each returns when the system has taken the input, not when a window has handled it.
+void typeText(std::wstring_view text);
+/// Presses and releases `key` while `modifier` (0: none) is held.
+void pressKey(WORD key, WORD modifier = 0);
+/// Clicks the left button at a screen position, `times` times in a row.
+void click(POINT position, int times = 1, WORD modifier = 0);
+
+/// Polls until `ready` or until `limitMs` has passed; the last answer of `ready`.
+bool waitUntil(const std::function<bool()>& ready, DWORD limitMs = 10'000);
+
+}  // namespace knav::input

@@ -1,0 +1,375 @@
+// A shell folder made by a test: it shows what the test put into it, and each of its methods can fail, fault or throw.
+//
+// Header only, because it needs the library's namespace model, which not every test program has.
+#pragma once
+
+#include <platform/Windows.h>
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "shell/ComPtr.h"
+#include "shell/ItemList.h"
+#include "shell/ListWalk.h"
+
+namespace knav::test {
+
+/// The methods of a fake folder, of its enumerator and of its icon extractor.
+enum class FolderCall {
+    QueryInterface,
+    AddRef,
+    Release,
+    ParseDisplayName,
+    EnumObjects,
+    Next,
+    BindToObject,
+    CompareIDs,
+    GetAttributesOf,
+    GetUIObjectOf,
+    GetDisplayNameOf,
+    GetIconLocation,
+    Extract,
+    Count,
+};
+
+enum class Conduct { Works, Fails, Faults, Throws };
+
+/// What of a folder, and of the objects it hands out, a test tells to misbehave, and how often each was called.
+class Conducts {
+public:
+    void set(FolderCall call, Conduct conduct) { m_conduct[index(call)] = conduct; }
+    void setAll(Conduct conduct) { m_conduct.fill(conduct); }
+    int calls(FolderCall call) const { return m_calls[index(call)]; }
+
+    /// Counts a call and behaves badly if told so; S_OK when the call shall work.
+    HRESULT enter(FolderCall call) {
+        ++m_calls[index(call)];
+        switch (m_conduct[index(call)]) {
+            case Conduct::Fails:
+                return E_FAIL;
+            case Conduct::Faults:
+                *reinterpret_cast<volatile int*>(kNowhere) = 1;
+                return E_UNEXPECTED;
+            case Conduct::Throws:
+                throw 1;
+            case Conduct::Works:
+                break;
+        }
+        return S_OK;
+    }
+
+private:
+    static constexpr std::size_t index(FolderCall call) { return static_cast<std::size_t>(call); }
+    static constexpr std::uintptr_t kNowhere = 16;  // null would be reported by a checked build before it faults
+
+    std::array<Conduct, static_cast<std::size_t>(FolderCall::Count)> m_conduct{};
+    std::array<int, static_cast<std::size_t>(FolderCall::Count)> m_calls{};
+};
+
+/// Identity and counting of the fakes. A method that shall misbehave here does so before anything is counted.
+template <class Interface>
+class FakeObject : public Interface {
+public:
+    FakeObject(Conducts& conducts, std::initializer_list<const IID*> interfaces)
+        : m_shared(conducts), m_interfaces(interfaces) {}
+    FakeObject(const FakeObject&) = delete;
+    FakeObject& operator=(const FakeObject&) = delete;
+
+    HRESULT WINAPI QueryInterface(REFIID iid, void** object) override {
+        *object = nullptr;
+        if (FAILED(m_shared.enter(FolderCall::QueryInterface))) {
+            return E_FAIL;
+        }
+        for (const IID* const known : m_interfaces) {
+            if (iid == *known || iid == IID_IUnknown) {
+                ++m_references;
+                *object = static_cast<Interface*>(this);
+                return S_OK;
+            }
+        }
+        return E_NOINTERFACE;
+    }
+    ULONG WINAPI AddRef() override {
+        m_shared.enter(FolderCall::AddRef);
+        return static_cast<ULONG>(++m_references);
+    }
+    ULONG WINAPI Release() override {
+        m_shared.enter(FolderCall::Release);
+        const LONG left = --m_references;
+        if (left == 0) {
+            delete this;
+        }
+        return static_cast<ULONG>(left);
+    }
+
+    LONG references() const { return m_references; }
+
+protected:
+    virtual ~FakeObject() = default;
+    Conducts& conducts() { return m_shared; }
+
+private:
+    Conducts& m_shared;
+    std::vector<const IID*> m_interfaces;
+    LONG m_references = 1;
+};
+
+class FakeItems final : public FakeObject<IEnumIDList> {
+public:
+    FakeItems(Conducts& conducts, std::vector<std::wstring> names)
+        : FakeObject(conducts, {&IID_IEnumIDList}), m_names(std::move(names)) {}
+
+    HRESULT WINAPI Next(ULONG count, ITEMIDLIST** lists, ULONG* fetched) override;
+    HRESULT WINAPI Skip(ULONG) override { return E_NOTIMPL; }
+    HRESULT WINAPI Reset() override { return E_NOTIMPL; }
+    HRESULT WINAPI Clone(IEnumIDList**) override { return E_NOTIMPL; }
+
+private:
+    std::vector<std::wstring> m_names;
+    std::size_t m_next = 0;
+};
+
+/// The icon of a module; Extract gives the system's icon of an application when `extracted` is S_OK.
+struct FakeIcon {
+    std::wstring module;
+    int index = 0;
+    HRESULT extracted = E_FAIL;
+};
+
+class FakeExtractor final : public FakeObject<IExtractIconW> {
+public:
+    FakeExtractor(Conducts& conducts, FakeIcon icon)
+        : FakeObject(conducts, {&IID_IExtractIconW}), m_icon(std::move(icon)) {}
+
+    HRESULT WINAPI GetIconLocation(UINT, wchar_t* module, UINT room, int* iconIndex, UINT* flags) override {
+        *iconIndex = m_icon.index;
+        *flags = 0;
+        lstrcpynW(module, m_icon.module.c_str(), static_cast<int>(room));
+        return conducts().enter(FolderCall::GetIconLocation);
+    }
+    HRESULT WINAPI Extract(const wchar_t*, UINT, HICON* large, HICON* small, UINT) override {
+        if (FAILED(conducts().enter(FolderCall::Extract))) {
+            return E_FAIL;
+        }
+        if (m_icon.extracted == S_OK) {
+            *large = CopyIcon(LoadIconW(nullptr, IDI_APPLICATION));
+            *small = CopyIcon(LoadIconW(nullptr, IDI_APPLICATION));
+        }
+        return m_icon.extracted;
+    }
+
+private:
+    FakeIcon m_icon;
+};
+
+/// Items are lists with one element for each level, whose payload is the name. A parsing name is the folder's own name
+/// and the names below it, joined by "/". Whoever makes a folder holds its first reference.
+class FakeFolder final : private Conducts, public FakeObject<IShellFolder> {
+public:
+    static ComPtr<FakeFolder> make(std::wstring name) {
+        return ComPtr<FakeFolder>::adopt(new FakeFolder(std::move(name)));
+    }
+
+    /// A new list for a path of names below a folder, as for example L"site/folder".
+    static ItemList item(std::wstring_view path);
+
+    /// Adds an item; `folder`, when given, is what binding to it gives.
+    FakeFolder& add(std::wstring name, DWORD attributes, ComPtr<FakeFolder> folder = {}) {
+        m_items.push_back({std::move(name), attributes, std::move(folder)});
+        return *this;
+    }
+    using Conducts::calls;
+    using Conducts::set;
+    using Conducts::setAll;
+    /// How names are returned: STRRET_WSTR (default), STRRET_OFFSET or STRRET_CSTR.
+    void setNameKind(UINT kind) { m_nameKind = kind; }
+    /// BindToObject refuses; the folder of an item comes from GetUIObjectOf.
+    void setBindThroughUiObject(bool through) { m_bindThroughUiObject = through; }
+    /// The icon that every item, and the folder itself, extracts.
+    void setIcon(FakeIcon icon) { m_icon = std::move(icon); }
+    /// The list that GetUIObjectOf was last asked for was null.
+    bool askedForItself() const { return m_askedForItself; }
+
+    HRESULT WINAPI ParseDisplayName(HWND, IBindCtx*, wchar_t* name, ULONG*, ITEMIDLIST** list, ULONG*) override;
+    HRESULT WINAPI EnumObjects(HWND, SHCONTF flags, IEnumIDList** items) override;
+    HRESULT WINAPI BindToObject(const ITEMIDLIST* list, IBindCtx*, REFIID iid, void** object) override;
+    HRESULT WINAPI BindToStorage(const ITEMIDLIST*, IBindCtx*, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT WINAPI CompareIDs(LPARAM, const ITEMIDLIST* a, const ITEMIDLIST* b) override;
+    HRESULT WINAPI CreateViewObject(HWND, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT WINAPI GetAttributesOf(UINT count, const ITEMIDLIST** lists, SFGAOF* attributes) override;
+    HRESULT WINAPI GetUIObjectOf(HWND, UINT, const ITEMIDLIST** lists, REFIID iid, UINT*, void** object) override;
+    HRESULT WINAPI GetDisplayNameOf(const ITEMIDLIST* list, SHGDNF flags, STRRET* name) override;
+    HRESULT WINAPI SetNameOf(HWND, const ITEMIDLIST*, const wchar_t*, SHGDNF, ITEMIDLIST**) override {
+        return E_NOTIMPL;
+    }
+
+private:
+    struct Item {
+        std::wstring name;
+        DWORD attributes;
+        ComPtr<FakeFolder> folder;
+    };
+
+    explicit FakeFolder(std::wstring name)
+        : FakeObject(static_cast<Conducts&>(*this), {&IID_IShellFolder}), m_name(std::move(name)) {}
+
+    static std::vector<std::wstring> namesOf(const ITEMIDLIST* list);
+    const Item* find(const ITEMIDLIST* list) const;
+    HRESULT folderOf(const ITEMIDLIST* list, REFIID iid, void** object) const;
+
+    std::wstring m_name;
+    std::vector<Item> m_items;
+    UINT m_nameKind = STRRET_WSTR;
+    bool m_bindThroughUiObject = false;
+    bool m_askedForItself = false;
+    FakeIcon m_icon;
+};
+
+inline HRESULT FakeItems::Next(ULONG, ITEMIDLIST** lists, ULONG* fetched) {
+    const HRESULT entered = conducts().enter(FolderCall::Next);
+    const bool given = SUCCEEDED(entered) && m_next < m_names.size();
+    *lists = given ? FakeFolder::item(m_names[m_next++]).release() : nullptr;
+    if (fetched != nullptr) {
+        *fetched = given;
+    }
+    return FAILED(entered) ? entered : given ? S_OK : S_FALSE;
+}
+
+inline ItemList FakeFolder::item(std::wstring_view path) {
+    std::vector<BYTE> bytes;
+    while (!path.empty()) {
+        const std::wstring_view name = path.substr(0, path.find(L'/'));
+        const auto size = static_cast<USHORT>(sizeof(USHORT) + name.size() * sizeof(wchar_t));
+        const auto* const text = reinterpret_cast<const BYTE*>(name.data());
+        bytes.insert(bytes.end(), {static_cast<BYTE>(size & 0xFF), static_cast<BYTE>(size >> 8)});
+        bytes.insert(bytes.end(), text, text + name.size() * sizeof(wchar_t));
+        path.remove_prefix(std::min(path.size(), name.size() + 1));
+    }
+    bytes.insert(bytes.end(), {0, 0});
+    return ItemList::copyOf(reinterpret_cast<const ITEMIDLIST*>(bytes.data()));
+}
+
+inline std::vector<std::wstring> FakeFolder::namesOf(const ITEMIDLIST* list) {
+    std::vector<std::wstring> names;
+    for (const ITEMIDLIST* element = list; element != nullptr && elementSize(element) > 0;
+         element = nextElement(element)) {
+        std::wstring name((static_cast<std::size_t>(elementSize(element)) - sizeof(USHORT)) / sizeof(wchar_t), 0);
+        std::memcpy(name.data(), element->mkid.abID, name.size() * sizeof(wchar_t));
+        names.push_back(std::move(name));
+    }
+    return names;
+}
+
+inline const FakeFolder::Item* FakeFolder::find(const ITEMIDLIST* list) const {
+    const Item* found = nullptr;
+    const FakeFolder* folder = this;
+    for (const std::wstring& name : namesOf(list)) {
+        found = nullptr;
+        if (folder != nullptr) {
+            for (const Item& candidate : folder->m_items) {
+                found = candidate.name == name ? &candidate : found;
+            }
+        }
+        folder = found != nullptr ? found->folder.get() : nullptr;
+    }
+    return found;
+}
+
+inline HRESULT FakeFolder::folderOf(const ITEMIDLIST* list, REFIID iid, void** object) const {
+    const Item* const found = find(list);
+    return found != nullptr && found->folder ? found->folder->QueryInterface(iid, object) : E_INVALIDARG;
+}
+
+inline HRESULT FakeFolder::ParseDisplayName(HWND, IBindCtx*, wchar_t* name, ULONG*, ITEMIDLIST** list, ULONG*) {
+    *list = nullptr;
+    if (FAILED(enter(FolderCall::ParseDisplayName))) {
+        return E_FAIL;
+    }
+    ItemList parsed = item(name);
+    if (find(parsed.get()) == nullptr) {
+        return HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
+    }
+    *list = parsed.release();
+    return S_OK;
+}
+
+inline HRESULT FakeFolder::EnumObjects(HWND, SHCONTF, IEnumIDList** items) {
+    *items = nullptr;
+    if (FAILED(enter(FolderCall::EnumObjects))) {
+        return E_FAIL;
+    }
+    std::vector<std::wstring> names;
+    for (const Item& each : m_items) {
+        names.push_back(each.name);
+    }
+    *items = new FakeItems(*this, std::move(names));
+    return S_OK;
+}
+
+inline HRESULT FakeFolder::BindToObject(const ITEMIDLIST* list, IBindCtx*, REFIID iid, void** object) {
+    *object = nullptr;
+    const bool works = SUCCEEDED(enter(FolderCall::BindToObject)) && !m_bindThroughUiObject;
+    return works ? folderOf(list, iid, object) : E_FAIL;
+}
+
+inline HRESULT FakeFolder::CompareIDs(LPARAM, const ITEMIDLIST* a, const ITEMIDLIST* b) {
+    if (FAILED(enter(FolderCall::CompareIDs))) {
+        return E_FAIL;
+    }
+    const auto order = namesOf(a) <=> namesOf(b);
+    return MAKE_HRESULT(SEVERITY_SUCCESS, 0, static_cast<USHORT>(order < 0 ? -1 : order > 0 ? 1 : 0));
+}
+
+inline HRESULT FakeFolder::GetAttributesOf(UINT count, const ITEMIDLIST** lists, SFGAOF* attributes) {
+    if (FAILED(enter(FolderCall::GetAttributesOf))) {
+        return E_FAIL;
+    }
+    // Bits that nobody asked for are left in the answer, as the system's own folders do.
+    for (UINT index = 0; index < count; ++index) {
+        const Item* const found = find(lists[index]);
+        *attributes = found != nullptr ? found->attributes : SFGAO_FOLDER;
+    }
+    return S_OK;
+}
+
+inline HRESULT FakeFolder::GetUIObjectOf(HWND, UINT, const ITEMIDLIST** lists, REFIID iid, UINT*, void** object) {
+    *object = nullptr;
+    m_askedForItself = lists[0] == nullptr;
+    if (FAILED(enter(FolderCall::GetUIObjectOf))) {
+        return E_FAIL;
+    }
+    if (iid == IID_IExtractIconW) {
+        *object = static_cast<IExtractIconW*>(new FakeExtractor(*this, m_icon));
+        return S_OK;
+    }
+    return m_bindThroughUiObject ? folderOf(lists[0], iid, object) : E_NOINTERFACE;
+}
+
+inline HRESULT FakeFolder::GetDisplayNameOf(const ITEMIDLIST* list, SHGDNF flags, STRRET* name) {
+    if (FAILED(enter(FolderCall::GetDisplayNameOf))) {
+        return E_FAIL;
+    }
+    std::wstring text = (flags & SHGDN_FORPARSING) != 0 && (flags & SHGDN_INFOLDER) == 0 ? m_name : L"";
+    const std::vector<std::wstring> names = namesOf(list);
+    if (names.empty()) {
+        text = m_name;
+    }
+    for (const std::wstring& each : names) {
+        text += (text.empty() ? L"" : L"/") + each;
+    }
+    name->uType = m_nameKind;
+    if (m_nameKind == STRRET_WSTR) {
+        return SHStrDupW(text.c_str(), &name->pOleStr);
+    }
+    if (m_nameKind == STRRET_OFFSET) {
+        name->uOffset = sizeof(USHORT);  // only right for items with 8-bit names
+        return S_OK;
+    }
+    WideCharToMultiByte(CP_ACP, 0, text.c_str(), -1, name->cStr, sizeof name->cStr, nullptr, nullptr);
+    return S_OK;
+}
+
+}  // namespace knav::test

@@ -1,0 +1,82 @@
+// Item identifier lists in tests: making them byte by byte, comparing and showing them.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <cstring>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "shell/ItemList.h"
+#include "shell/ItemListDebug.h"
+#include "shell/ListWalk.h"
+#include "support/Printers.h"
+
+namespace knav {
+
+// Found by argument-dependent lookup.
+inline void PrintTo(const ItemList& list, std::ostream* out) {
+    *out << test::utf8(describe(list.get()));
+}
+
+}  // namespace knav
+
+namespace knav::test {
+
+/// The bytes of a list whose elements have these payloads, with its terminator.
+inline std::vector<BYTE> listBytes(std::initializer_list<std::string_view> payloads) {
+    std::vector<BYTE> bytes;
+    for (const std::string_view payload : payloads) {
+        const auto size = static_cast<USHORT>(payload.size() + sizeof(USHORT));
+        bytes.push_back(static_cast<BYTE>(size & 0xFF));
+        bytes.push_back(static_cast<BYTE>(size >> 8));
+        bytes.insert(bytes.end(), payload.begin(), payload.end());
+    }
+    bytes.insert(bytes.end(), {0, 0});
+    return bytes;
+}
+
+inline ITEMIDLIST* asList(std::vector<BYTE>& bytes) {
+    return reinterpret_cast<ITEMIDLIST*>(bytes.data());
+}
+
+/// An owned list made of payloads.
+inline ItemList makeList(std::initializer_list<std::string_view> payloads) {
+    std::vector<BYTE> bytes = listBytes(payloads);
+    return ItemList::copyOf(asList(bytes));
+}
+
+inline std::vector<BYTE> bytesOf(const ITEMIDLIST* list) {
+    const auto* const begin = reinterpret_cast<const BYTE*>(list);
+    return list == nullptr ? std::vector<BYTE>() : std::vector<BYTE>(begin, begin + measureList(list).bytes + 2);
+}
+
+/// The argument (ITEMIDLIST* or ItemList) holds the same bytes as `expected`.
+MATCHER_P(HoldsSameBytes, expected, "is " + utf8(describe(expected))) {
+    *result_listener << utf8(describe(arg));
+    return (arg == nullptr) == (expected == nullptr) && bytesOf(arg) == bytesOf(expected);
+}
+
+/// A page of memory that ends where no memory is; `put` places bytes so that they end with it.
+class PageEnd {
+public:
+    PageEnd() : m_pages(static_cast<BYTE*>(VirtualAlloc(nullptr, 2 * kPage, MEM_RESERVE, PAGE_NOACCESS))) {
+        VirtualAlloc(m_pages, kPage, MEM_COMMIT, PAGE_READWRITE);
+    }
+    PageEnd(const PageEnd&) = delete;
+    PageEnd& operator=(const PageEnd&) = delete;
+    ~PageEnd() { VirtualFree(m_pages, 0, MEM_RELEASE); }
+
+    ITEMIDLIST* put(const BYTE* bytes, std::size_t count) {
+        BYTE* const begin = m_pages + kPage - count;
+        std::memcpy(begin, bytes, count);
+        return reinterpret_cast<ITEMIDLIST*>(begin);
+    }
+
+private:
+    static constexpr std::size_t kPage = 4096;
+    BYTE* m_pages;
+};
+
+}  // namespace knav::test
