@@ -77,6 +77,8 @@ CNavDialogImp::CNavDialogImp(CNavDataArray& data, CNavFilterArray& filters, UINT
     m_fileName.SetContext(this);
     m_browser.SetListCtrl(m_listInUse);
     m_browser.SetBrowseOwner(this);
+    m_toolsButton.SetToolButton(1);
+    m_viewsButton.SetToolButton(1);
     m_toolsButton.SetMenuSource(this);
     m_viewsButton.SetMenuSource(this);
     m_okButton.SetMenuSource(this);

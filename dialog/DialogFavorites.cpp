@@ -61,7 +61,9 @@ void CNavDialogImp::OnDoAddToFavorites(int command) {
     CNavDataArray selection;
     m_browser.SendSelectionToData(selection);
     for (int i = 0; i < selection.GetCount(); ++i) {
-        addShortcut(selection.GetData(i)->GetID());
+        if (const CNavData* item = selection.GetData(i)) {
+            addShortcut(item->GetID());
+        }
     }
 }
 

@@ -66,9 +66,9 @@ void CNavDialogImp::AddDataToHistory() {
         return;
     }
     for (int i = 0; i < m_data.GetCount(); ++i) {
-        const CNavData& item = *m_data.GetData(i);
-        if (item.GetDataType() == NAV_DATA_FILE || item.GetDataType() == NAV_DATA_NETWORK) {
-            SHAddToRecentDocs(SHARD_PATHW, item.GetText());
+        const CNavData* item = m_data.GetData(i);
+        if (item && (item->GetDataType() == NAV_DATA_FILE || item->GetDataType() == NAV_DATA_NETWORK)) {
+            SHAddToRecentDocs(SHARD_PATHW, item->GetText());
         }
     }
 }

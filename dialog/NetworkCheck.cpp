@@ -14,6 +14,8 @@
 namespace knav {
 namespace {
 
+constexpr wchar_t kSeparator = L'\\';
+
 /// The network provider's own text for ERROR_EXTENDED_ERROR, else nothing.
 void takeProviderMessage(unsigned long error, std::wstring& message) {
     if (error != ERROR_EXTENDED_ERROR) {
@@ -182,7 +184,7 @@ NetworkName splitNetworkName(std::wstring_view text) {
         text.remove_suffix(1);
     }
     const std::size_t serverEnd = text.find(L'\\');
-    NetworkName name{NetworkPlace::Server, L"\\\\" + std::wstring(text.substr(0, serverEnd)), L""};
+    NetworkName name{NetworkPlace::Server, std::wstring(2, kSeparator).append(text.substr(0, serverEnd)), {}};
     if (text.empty() || serverEnd == 0) {
         return {};
     }

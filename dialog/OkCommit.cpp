@@ -117,10 +117,10 @@ void CNavDialogImp::enterTypedFolder(CNavPathname& folder) {
 
 void CNavDialogImp::parseOtherItems() {
     for (int i = 1; i < m_data.GetCount(); ++i) {
-        CNavData& item = *m_data.GetData(i);
+        CNavData* item = m_data.GetData(i);
         CNavPathname path;
-        if (path.Parse(item.GetText(), true) == PathErr::None || path.GetIsURL()) {
-            item.SetPathname(&path);
+        if (item && (path.Parse(item->GetText(), true) == PathErr::None || path.GetIsURL())) {
+            item->SetPathname(&path);
         }
     }
 }

@@ -26,7 +26,10 @@ OkHandlerErr CNavDialogImp::PreprocessData(CNavDataArray& data) {
         m_fileName.SendFileNameToData(data);
     }
     for (int i = 0; i < data.GetCount(); ++i) {
-        if (const OkHandlerErr error = finishItem(*data.GetData(i)); error != OkErrNone) {
+        // A hook may have taken items out of the array.
+        CNavData* item = data.GetData(i);
+        const OkHandlerErr error = item ? finishItem(*item) : OkErrNone;
+        if (error != OkErrNone) {
             reportNameError(error);
             return error;
         }

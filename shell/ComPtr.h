@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "shell/Guard.h"
+#include "shell/InterfaceIds.h"
 
 namespace knav {
 
