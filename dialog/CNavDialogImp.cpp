@@ -75,6 +75,7 @@ CNavDialogImp::CNavDialogImp(CNavDataArray& data, CNavFilterArray& filters, UINT
       m_navUi(std::make_unique<NavUi>(*this)) {
     EnableAutomation();
     m_fileName.SetContext(this);
+    m_places.SetHost(this);
     m_browser.SetListCtrl(m_listInUse);
     m_browser.SetBrowseOwner(this);
     m_toolsButton.SetToolButton(1);

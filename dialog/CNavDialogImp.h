@@ -31,6 +31,7 @@
 #include "controls/FileNameContext.h"
 #include "dialog/DialogLayout.h"
 #include "dialog/DialogOptions.h"
+#include "places/PlacesHost.h"
 #include "shell/ComPtr.h"
 #include "shell/ItemList.h"
 #include "view/BrowseOwner.h"
@@ -42,7 +43,8 @@ class CNavEnumString;
 class CNavDialogImp final : public CCmdTarget,
                             public CNavButtonMenuSource,
                             public knav::BrowseOwner,
-                            public knav::FileNameContext {
+                            public knav::FileNameContext,
+                            public knav::PlacesHost {
 public:
     /// Work that must wait until the handler that asked for it has returned.
     enum class OwnMessage { SyncSelection, RunOk, FollowLookIn };
@@ -158,6 +160,8 @@ public:
     void UpdatePlacesListBox();
     void SetPlacesId(int index);
     void OnSelChangePlacesList();
+    void SetCurrentPlaces(const CString& name);
+    int GetDeletedExtensionsKey(CString& key);
     int InsertUserItemInPlaces(int index, const wchar_t* name, const wchar_t* path);
     int MovePlacesItem(int from, int to);
 
@@ -184,6 +188,13 @@ public:
     void saveListState(IShellView* view) override;
     void restoreListState(IShellView* view) override;
     bool findLogin(const CString& siteName, CString& user, CString& password) override;
+
+    // knav::PlacesHost
+    bool readSharedText(const CString& name, CString& value) override;
+    void savePlaces() override;
+    void placesChanged() override;
+    bool leavesOutDisabledExtensions() const override;
+    bool isExtensionDeleted(const wchar_t* name) override;
 
     // knav::FileNameContext
     bool multiSelectAllowed() const override;
@@ -220,6 +231,8 @@ private:
     bool selectedFolderPathname(CNavPathname& folder);
     void showInLookIn(ITEMIDLIST* folder);
     void updateBackTip();
+    CString historyDirectory();
+    bool placeStandsFor(int row, ITEMIDLIST* folder);
 
     // names
     CString fileNameText();
@@ -332,5 +345,6 @@ private:
     bool m_placesListDirty = false;
     bool m_placesListCustomized = false;
     bool m_enterHeldSinceStart = true;
+    CString m_currentPlace;
     int m_appendCompletion = 1;
 };

@@ -156,7 +156,8 @@ void CNavDialogImp::UpdateUIState() {
     };
     enable(m_backButton, m_previous.size() > 1 && !m_policies.noBackButton);
     enable(m_upButton, current && current->mkid.cb != 0);
-    enable(m_newFolderButton, node && (node->IsInFileSystem() || node->IsDropTarget()));
+    const bool inHistory = m_currentPlace.CompareNoCase(L"History") == 0;
+    enable(m_newFolderButton, !inHistory && node && (node->IsInFileSystem() || node->IsDropTarget()));
     enable(m_deleteButton, selectedCount() > 0);
 }
 

@@ -254,6 +254,7 @@ void CNavDialogImp::startPlaces() {
         return;
     }
     CString order;
+    m_places.RegisterDropTarget();
     if (m_facade.GetAllDialogsData(L"PlacesOrder0", order)) {
         m_places.LoadFromOrder();
     } else {
@@ -262,6 +263,7 @@ void CNavDialogImp::startPlaces() {
     for (int i = 0; i < m_places.GetCount(); ++i) {
         SetPlacesId(i);
     }
+    UpdatePlacesListBox();
 }
 
 void CNavDialogImp::startPictures() {

@@ -1,0 +1,35 @@
+/// Everything that a host program or an add-in needs.
+#pragma once
+
+#include <knav/CNavBitmapButton.h>
+#include <knav/CNavBitmapListBox.h>
+#include <knav/CNavButtonMenuSource.h>
+#include <knav/CNavComboButton.h>
+#include <knav/CNavCommDlgBrowser.h>
+#include <knav/CNavCommDlgBuddy.h>
+#include <knav/CNavCommDlgView.h>
+#include <knav/CNavData.h>
+#include <knav/CNavDataArray.h>
+#include <knav/CNavDialog.h>
+#include <knav/CNavExtension.h>
+#include <knav/CNavExtensionArray.h>
+#include <knav/CNavFileNameComboBox.h>
+#include <knav/CNavFilter.h>
+#include <knav/CNavFilterArray.h>
+#include <knav/CNavFilterComboBox.h>
+#include <knav/CNavFolderComboBox.h>
+#include <knav/CNavHostApplication.h>
+#include <knav/CNavListBox.h>
+#include <knav/CNavListCtrl.h>
+#include <knav/CNavNode.h>
+#include <knav/CNavPathname.h>
+#include <knav/CNavShell.h>
+#include <knav/CNavToolsButton.h>
+#include <knav/CNavTree.h>
+#include <knav/FileDialogAllowReturnFolderEnabler.h>
+#include <knav/NavFolders.h>
+#include <knav/NavItemList.h>
+#include <knav/NavLinks.h>
+#include <knav/NavNames.h>
+#include <knav/NavPlaces.h>
+#include <knav/NavUrl.h>
