@@ -1,0 +1,140 @@
+#include "shell/ListWalk.h"
+#include "support/ItemLists.h"
+#include "support/ScopedTempFolder.h"
+#include "view/ViewHost.h"
+
+#include <gmock/gmock.h>
+
+#include <knav/CNavDataArray.h>
+#include <knav/CNavPathname.h>
+
+namespace {
+
+using namespace knav;
+using namespace knav::test;
+using testing::ElementsAre;
+
+class Selection : public testing::Test {
+protected:
+    void SetUp() override {
+        for (const wchar_t* name : {L"a.dwg", L"b b.dwg", L"c.dwg"}) {
+            m_folder.addFile(name);
+        }
+        m_folder.addFolder(L"sub");
+        m_host.browser.SetMultiSelectAllowed(1);
+        ASSERT_TRUE(m_host.browse(m_folder.path()));
+    }
+
+    ScopedTempFolder m_folder;
+    ViewHost m_host;
+    CNavDataArray m_data;
+};
+
+TEST_F(Selection, ThreeFiles_GiveThreeItemsInOrder) {
+    m_host.select({L"a.dwg", L"b b.dwg", L"c.dwg"});
+    ASSERT_TRUE(m_host.browser.SendSelectionToData(m_data));
+    ASSERT_EQ(m_data.GetCount(), 3);
+    const wchar_t* const names[] = {L"a.dwg", L"b b.dwg", L"c.dwg"};
+    ITEMIDLIST* const folder = m_host.browser.GetCurrentObjectID();
+    for (int i = 0; i < 3; ++i) {
+        const CNavData& item = *m_data.GetData(i);
+        EXPECT_EQ(CString(item.GetTextInFolder()), names[i]);
+        EXPECT_EQ(CString(item.GetText()).CompareNoCase(m_folder.path(names[i])), 0);
+        EXPECT_EQ(item.GetDataType(), NAV_DATA_FILE);
+        EXPECT_EQ(item.GetPathname()->GetType(), CZoUiPathname::ExistingFile);
+        EXPECT_FALSE(item.GetPathname()->isShortCut());
+        EXPECT_THAT(ItemList::parentOf(item.GetID()).get(), HoldsSameBytes(folder));
+    }
+}
+
+TEST_F(Selection, Folder_IsAnItemOfDirectoryKind) {
+    m_host.select({L"sub"});
+    ASSERT_TRUE(m_host.browser.SendSelectionToData(m_data));
+    EXPECT_EQ(m_data.GetData(0)->GetPathname()->GetType(), CZoUiPathname::Directory);
+}
+
+TEST_F(Selection, NothingSelected_EmptiesTheData) {
+    m_data.AddData();
+    EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data));
+    EXPECT_EQ(m_data.GetCount(), 0);
+}
+
+TEST_F(Selection, NothingFocused_GivesNoItemsThoughSomeAreSelected) {
+    ListView_SetItemState(m_host.list(), m_host.rowOf(L"a.dwg"), LVIS_SELECTED, LVIS_SELECTED);
+    ASSERT_EQ(ListView_GetSelectedCount(m_host.list()), 1u);
+    EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data));
+    EXPECT_EQ(m_data.GetCount(), 0);
+}
+
+TEST_F(Selection, WithoutAView_GivesNoItems) {
+    m_host.browser.DestroyViewWindow(0);
+    m_data.AddData();
+    EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data));
+    EXPECT_EQ(m_data.GetCount(), 0);
+    m_host.browser.SyncToData(m_data);
+}
+
+std::vector<std::wstring> selectedNames(const ViewHost& host) {
+    std::vector<std::wstring> names;
+    for (int row = -1; (row = ListView_GetNextItem(host.list(), row, LVNI_SELECTED)) >= 0;) {
+        wchar_t text[MAX_PATH] = L"";
+        ListView_GetItemText(host.list(), row, 0, text, MAX_PATH);
+        names.emplace_back(text);
+    }
+    std::ranges::sort(names);
+    return names;
+}
+
+TEST_F(Selection, SyncToData_SelectsExactlyTheItemsOfTheFolder) {
+    m_host.select({L"a.dwg", L"c.dwg"});
+    m_host.browser.SendSelectionToData(m_data);
+    m_data.AddData();
+    m_host.select({L"b b.dwg"});
+    m_host.browser.SyncToData(m_data);
+    EXPECT_THAT(selectedNames(m_host), ElementsAre(L"a.dwg", L"c.dwg"));
+    m_data.RemoveAllData();
+    m_host.browser.SyncToData(m_data);
+    EXPECT_THAT(selectedNames(m_host), ElementsAre());
+}
+
+TEST_F(Selection, SyncToData_TakesItemsOfTheFolderAloneToo) {
+    m_host.select({L"c.dwg"});
+    m_host.browser.SendSelectionToData(m_data);
+    CNavData& item = *m_data.GetData(0);
+    item.SetID(ItemList::copyOf(measureList(item.GetID()).last).release());
+    m_host.select({L"a.dwg"});
+    m_host.browser.SyncToData(m_data);
+    EXPECT_THAT(selectedNames(m_host), ElementsAre(L"c.dwg"));
+}
+
+TEST_F(Selection, SyncToData_LeavesOutItemsOfOtherFolders) {
+    m_host.select({L"c.dwg"});
+    m_host.browser.SendSelectionToData(m_data);
+    m_folder.addFile(L"sub\\c.dwg");
+    ASSERT_TRUE(m_host.browse(m_folder.path(L"sub")));
+    m_host.browser.SyncToData(m_data);
+    EXPECT_THAT(selectedNames(m_host), ElementsAre());
+}
+
+TEST_F(Selection, Change_IsNotifiedOnce) {
+    class Browser : public CNavCommDlgBrowser {
+    public:
+        void OnItemSelectionChange(IShellView* view) override {
+            ++changes;
+            lastView = view;
+        }
+        int changes = 0;
+        IShellView* lastView = nullptr;
+    } browser;
+    browser.SetBuddyWindow(&m_host.buddy);
+    browser.SetViewOwnerWindow(&m_host.owner, nullptr);
+    ASSERT_TRUE(browser.BrowseObject(m_host.browser.GetCurrentObjectID(), SBSP_ABSOLUTE));
+    HWND view = nullptr;
+    browser.GetCurrentShellView()->GetWindow(&view);
+    const HWND list = FindWindowExW(view, nullptr, WC_LISTVIEWW, nullptr);
+    ListView_SetItemState(list, 0, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_EQ(browser.changes, 1);
+    EXPECT_EQ(browser.lastView, browser.GetCurrentShellView());
+}
+
+}  // namespace
