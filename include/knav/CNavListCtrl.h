@@ -5,8 +5,8 @@
 
 class CNavCommDlgBrowser;
 
-/// Takes over the list inside the shell's view. A host may hand its own derived object to CNavDialog::SetFolderListCtrl.
-/// User-interface thread only.
+/// Takes over the list inside the shell's view. A host may hand its own derived object to
+/// CNavDialog::SetFolderListCtrl. User-interface thread only.
 class KNAV_API CNavListCtrl : public CZoUiListCtrl {
 public:
     CNavListCtrl() = default;
