@@ -9,7 +9,7 @@ target_compile_options(knav_build INTERFACE
   $<BUILD_INTERFACE:-Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Wimplicit-fallthrough
   -Werror -finput-charset=UTF-8 -fno-strict-aliasing>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # The two that are off report the standard library's own string code once it is inlined.
+  # Those that are off report the standard library's own string code once it is inlined.
   target_compile_options(knav_build INTERFACE
     $<BUILD_INTERFACE:-Wcast-function-type -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread>)
 endif()
