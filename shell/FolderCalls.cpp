@@ -20,6 +20,9 @@ ComPtr<IShellFolder> desktopFolder() noexcept {
 }
 
 ComPtr<IShellFolder> bindFolder(IShellFolder* parent, const ITEMIDLIST* list) noexcept {
+    if (!isWhole(list)) {
+        return nullptr;
+    }
     return ComPtr<IShellFolder>::from([=](IShellFolder** folder) {
         return parent->BindToObject(list, nullptr, IID_IShellFolder, reinterpret_cast<void**>(folder));
     });
@@ -49,10 +52,18 @@ ItemList parseName(IShellFolder* folder, const wchar_t* text, DWORD attributes, 
     return ItemList::adopt(list);
 }
 
+std::optional<STRRET> displayNameOf(IShellFolder* folder, const ITEMIDLIST* list, DWORD shgdn) noexcept {
+    STRRET name{};
+    const bool named =
+        isWhole(list) && SUCCEEDED(guarded([&] { return folder->GetDisplayNameOf(list, shgdn, &name); }));
+    return named ? std::optional(name) : std::nullopt;
+}
+
 std::optional<DWORD> attributesOf(IShellFolder* folder, const ITEMIDLIST* list, DWORD mask) noexcept {
     DWORD attributes = mask;
-    const HRESULT result = guarded([&] { return folder->GetAttributesOf(1, &list, &attributes); });
-    return SUCCEEDED(result) ? std::optional(attributes & mask) : std::nullopt;
+    const bool answered =
+        isWhole(list) && SUCCEEDED(guarded([&] { return folder->GetAttributesOf(1, &list, &attributes); }));
+    return answered ? std::optional(attributes & mask) : std::nullopt;
 }
 
 bool enumerateItems(IShellFolder* folder, HWND owner, DWORD shcontf, ComPtr<IEnumIDList>& items) noexcept {
@@ -72,6 +83,9 @@ ItemList nextItem(const ComPtr<IEnumIDList>& items) noexcept {
 }
 
 int compareIds(IShellFolder* folder, const ITEMIDLIST* a, const ITEMIDLIST* b) noexcept {
+    if (!isWhole(a) || !isWhole(b)) {
+        return -1;
+    }
     const HRESULT order = guarded([=] { return folder->CompareIDs(0, a, b); });
     return static_cast<short>(HRESULT_CODE(order));
 }

@@ -1,4 +1,5 @@
-// Calls into shell folders, each under the fault guard. A call that fails or faults leaves nothing behind.
+// Calls into shell folders, each under the fault guard. A call that fails or faults leaves nothing behind. Lists that
+// cannot be read up to their terminator are refused.
 #pragma once
 
 #include <platform/Windows.h>
@@ -7,6 +8,7 @@
 
 #include "shell/ComPtr.h"
 #include "shell/ItemList.h"
+#include "shell/ListWalk.h"
 
 namespace knav {
 
@@ -22,6 +24,9 @@ ComPtr<IShellFolder> bindFolder(IShellFolder* parent, const ITEMIDLIST* list) no
 /// An object of type `Interface` for one item of `folder`; null when the folder has none.
 template <class Interface>
 ComPtr<Interface> uiObjectOf(IShellFolder* folder, const ITEMIDLIST* list) noexcept {
+    if (!isWhole(list)) {
+        return nullptr;
+    }
     return ComPtr<Interface>::from([&](Interface** object) {
         return folder->GetUIObjectOf(nullptr, 1, &list, __uuidof(Interface), nullptr, reinterpret_cast<void**>(object));
     });
@@ -30,6 +35,9 @@ ComPtr<Interface> uiObjectOf(IShellFolder* folder, const ITEMIDLIST* list) noexc
 /// The list, relative to `folder`, that `text` names; null for empty text, text beyond the limit and text that the
 /// folder cannot parse. `attributes` (SFGAO_...) are asked for when not 0; what the folder answers goes to `found`.
 ItemList parseName(IShellFolder* folder, const wchar_t* text, DWORD attributes = 0, DWORD* found = nullptr) noexcept;
+
+/// The name that the folder gives an item, still in the folder's form.
+std::optional<STRRET> displayNameOf(IShellFolder* folder, const ITEMIDLIST* list, DWORD shgdn) noexcept;
 
 /// The attributes of an item among those of `mask`.
 std::optional<DWORD> attributesOf(IShellFolder* folder, const ITEMIDLIST* list, DWORD mask) noexcept;

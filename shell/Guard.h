@@ -27,9 +27,9 @@ GuardOutcome runGuarded(void (*body)(void*), void* context) noexcept;
 /// results are stored through pointers to scoped owners outside it.
 template <class Body>
 bool guardedRun(Body&& body) noexcept {
-    using Stored = std::remove_reference_t<Body>;
-    const auto call = [](void* context) { static_cast<void>((*static_cast<Stored*>(context))()); };
-    return runGuarded(call, const_cast<void*>(static_cast<const void*>(&body))) == GuardOutcome::Completed;
+    auto* const pointer = &body;
+    const auto call = [](void* context) { static_cast<void>((**static_cast<decltype(&pointer)>(context))()); };
+    return runGuarded(call, const_cast<void*>(static_cast<const void*>(&pointer))) == GuardOutcome::Completed;
 }
 
 /// Runs `body`, which returns an HRESULT, and passes its answer on; E_OUTOFMEMORY or E_UNEXPECTED when it did not

@@ -36,8 +36,13 @@ ListMeasure measureList(const ITEMIDLIST* list) noexcept {
             found->last = element;
             element = advance(element, size);
         }
+        found->terminated = true;
     });
     return measure;
+}
+
+bool isWhole(const ITEMIDLIST* list) noexcept {
+    return list == nullptr || measureList(list).terminated;
 }
 
 int elementSize(const ITEMIDLIST* list) noexcept {

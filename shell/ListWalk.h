@@ -12,10 +12,15 @@ struct ListMeasure {
     int count = 0;                     ///< elements
     std::size_t bytes = 0;             ///< of all elements, without the terminator
     const ITEMIDLIST* last = nullptr;  ///< the last element; null when there is none
+    bool terminated = false;           ///< the walk ended at a terminator, not at memory that cannot be read
 };
 
 /// Walks the whole list under one guard. Memory that cannot be read ends the list as a terminator would.
 ListMeasure measureList(const ITEMIDLIST* list) noexcept;
+
+/// `list` is null or can be read up to its terminator. The system's folders do not expect anything else: a fault in
+/// them may leave their locks taken and their memory lost, so what they are given is looked at before.
+bool isWhole(const ITEMIDLIST* list) noexcept;
 
 /// The bytes of the first element, its count included; 0 when there is none or it cannot be read.
 int elementSize(const ITEMIDLIST* list) noexcept;

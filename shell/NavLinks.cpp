@@ -3,14 +3,15 @@
 #include "shell/ComPtr.h"
 #include "shell/Guard.h"
 #include "shell/ItemList.h"
+#include "shell/ListWalk.h"
 
 namespace {
 
 // The shortcut in the file that the list names; null when it is none.
 knav::ComPtr<IShellLinkW> loadLink(ITEMIDLIST* list) {
     wchar_t path[MAX_PATH];
-    const bool hasPath =
-        list != nullptr && knav::guardedTrue([&] { return SHGetPathFromIDListW(list, path); }) && path[0] != 0;
+    const bool hasPath = list != nullptr && knav::isWhole(list) &&
+                         knav::guardedTrue([&] { return SHGetPathFromIDListW(list, path); }) && path[0] != 0;
     if (!hasPath) {
         return nullptr;
     }

@@ -38,9 +38,8 @@ int compareExtensionItems(ITEMIDLIST* a, ITEMIDLIST* b) {
 
 // The name that the folder gives the item; false when it gives none.
 bool folderNameOf(IShellFolder* folder, DWORD shgdn, ITEMIDLIST* list, CString& name) {
-    STRRET strret{};
-    const HRESULT result = knav::guarded([&] { return folder->GetDisplayNameOf(list, shgdn, &strret); });
-    return SUCCEEDED(result) && NavConvertToString(list, strret, name);
+    auto strret = knav::displayNameOf(folder, list, shgdn);
+    return strret && NavConvertToString(list, *strret, name);
 }
 
 // The root item of an extension: its own text, or else what its root folder calls itself.

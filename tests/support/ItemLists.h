@@ -11,6 +11,7 @@
 #include "shell/ItemList.h"
 #include "shell/ItemListDebug.h"
 #include "shell/ListWalk.h"
+#include "support/AllocationSpy.h"
 #include "support/Printers.h"
 
 namespace knav {
@@ -56,6 +57,15 @@ inline std::vector<BYTE> bytesOf(const ITEMIDLIST* list) {
 MATCHER_P(HoldsSameBytes, expected, "is " + utf8(describe(expected))) {
     *result_listener << utf8(describe(arg));
     return (arg == nullptr) == (expected == nullptr) && bytesOf(arg) == bytesOf(expected);
+}
+
+/// Runs `body` twice, since the system fills caches the first time, and expects that the second run leaves nothing.
+template <class Body>
+void expectNoTaskMemoryLeft(Body&& body) {
+    body();
+    const LONG before = AllocationSpy::live();
+    body();
+    EXPECT_EQ(AllocationSpy::live(), before);
 }
 
 /// A page of memory that ends where no memory is; `put` places bytes so that they end with it.

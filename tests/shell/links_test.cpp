@@ -1,0 +1,69 @@
+#include <knav/NavLinks.h>
+
+#include <gtest/gtest.h>
+
+#include "shell/ComPtr.h"
+#include "support/ItemLists.h"
+#include "support/ScopedTempFolder.h"
+
+namespace {
+
+using namespace knav;
+using namespace knav::test;
+
+ItemList parsed(const wchar_t* path) {
+    ITEMIDLIST* list = nullptr;
+    return SUCCEEDED(SHParseDisplayName(path, nullptr, &list, 0, nullptr)) ? ItemList::adopt(list) : ItemList();
+}
+
+class Links : public testing::Test {
+protected:
+    ItemList makeLink(const wchar_t* name, const CString& target) {
+        const CString path = m_temp.path(name);
+        const auto link = createInProcess<IShellLinkW>(CLSID_ShellLink);
+        const auto file = link.as<IPersistFile>();
+        EXPECT_TRUE(SUCCEEDED(link->SetPath(target)) && SUCCEEDED(file->Save(path, TRUE)));
+        return parsed(path);
+    }
+
+    ScopedTempFolder m_temp;
+    CString m_folder = m_temp.addFolder(L"target \u00e4");
+    CString m_file = m_temp.addFile(L"target.dwg");
+};
+
+TEST_F(Links, ShortcutLeadsToItsTarget) {
+    for (const CString& path : {m_folder, m_file}) {
+        const ItemList target = parsed(path);
+        const ItemList link = makeLink(L"short \u4e16.lnk", path);
+        ASSERT_TRUE(link && target);
+        const auto resolved = ItemList::adopt(NavResolveLink(link.get(), 0));
+        const auto recorded = ItemList::adopt(NavGetLinkIDList(link.get()));
+        ASSERT_TRUE(resolved && recorded);
+        EXPECT_TRUE(ILIsEqual(resolved.get(), target.get()));
+        EXPECT_TRUE(ILIsEqual(recorded.get(), target.get()));
+    }
+}
+
+TEST_F(Links, WhatIsNoShortcutLeadsNowhere) {
+    EXPECT_EQ(NavResolveLink(nullptr, 0), nullptr);
+    EXPECT_EQ(NavGetLinkIDList(nullptr), nullptr);
+    const CString fake = m_temp.addFile(L"fake.lnk", "this is no shortcut");
+    for (const CString& path : {m_folder, m_file, fake, CString(L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}")}) {
+        const ItemList list = parsed(path);
+        ASSERT_TRUE(list);
+        EXPECT_EQ(NavResolveLink(list.get(), 0), nullptr) << utf8(path.view());
+        EXPECT_EQ(NavGetLinkIDList(list.get()), nullptr) << utf8(path.view());
+    }
+}
+
+TEST_F(Links, NothingIsLeftInTaskMemory) {
+    const ItemList link = makeLink(L"s.lnk", m_file);
+    const ItemList file = parsed(m_file);
+    expectNoTaskMemoryLeft([&] {
+        ItemList::adopt(NavResolveLink(link.get(), 0)).reset();
+        ItemList::adopt(NavGetLinkIDList(link.get())).reset();
+        NavResolveLink(file.get(), 0);
+    });
+}
+
+}  // namespace
