@@ -36,8 +36,7 @@ LRESULT CZoUiTabMainDialog::askTabs(UINT message, WPARAM wParam, LPARAM lParam) 
 }
 
 int CZoUiTabMainDialog::AddPage(CZoUiTabPage& page, const wchar_t* title) {
-    dropPages();
-    if (!page.Create(page.GetTemplateId(), this)) {
+    if (page.m_hWnd == nullptr && !page.Create(page.GetTemplateId(), this)) {
         return -1;
     }
     const auto index = static_cast<int>(m_pages.size());
@@ -58,11 +57,11 @@ int CZoUiTabMainDialog::AddPage(CZoUiTabPage& page, const wchar_t* title) {
     return index;
 }
 
-// Pages of an earlier run of this dialog have lost their windows.
-void CZoUiTabMainDialog::dropPages() {
-    if (std::erase_if(m_pages, [](const CZoUiTabPage* page) { return page->m_hWnd == nullptr; }) != 0) {
-        m_active = -1;
-    }
+// The pages' windows went with this one.
+void CZoUiTabMainDialog::PostNcDestroy() {
+    m_pages.clear();
+    m_active = -1;
+    CZoUiDialog::PostNcDestroy();
 }
 
 void CZoUiTabMainDialog::LayOutPages() {

@@ -13,8 +13,9 @@ class ZOUI_API CZoUiTabMainDialog : public CZoUiDialog {
 public:
     CZoUiTabMainDialog(UINT templateId, UINT tabControlId, CWnd* parent = nullptr, HINSTANCE module = nullptr);
 
-    /// Adds a page behind the others; call it in OnInitDialog. The first one comes to the front. The page is not owned
-    /// and outlives the window. The page's index, or -1 when its window cannot be made.
+    /// Adds a page behind the others; call it in OnInitDialog. The first one comes to the front. The page is made from
+    /// its template unless it has its window already, as a child of this dialog. It is not owned and outlives the
+    /// window. The page's index, or -1 when its window cannot be made.
     int AddPage(CZoUiTabPage& page, const wchar_t* title);
 
     /// Index of the page in front; -1 without pages.
@@ -30,11 +31,11 @@ protected:
     /// Asks every page with OnLeave first; a page that refuses comes to the front, and the dialog stays open.
     void OnOK() override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    void PostNcDestroy() override;
 
 private:
     LRESULT askTabs(UINT message, WPARAM wParam, LPARAM lParam) const;
     void show(int index);
-    void dropPages();
 
     UINT m_tabControlId;
     std::vector<CZoUiTabPage*> m_pages;

@@ -1,0 +1,169 @@
+#include <zoui/ZoTaskDialog.h>
+
+#include <gtest/gtest.h>
+
+#include "support/DialogDriver.h"
+#include "support/Printers.h"
+#include "support/ScriptedPrompts.h"
+
+using knav::test::DialogDriver;
+using knav::test::ScriptedPrompts;
+
+namespace {
+
+constexpr wchar_t kFile[] = L"/RyTaskDialogs;component/TaskDialogs.xaml";
+using Pairs = std::vector<ZoTaskDialog::Pair>;
+
+bool loadStandard(ZoTaskDialog& dialog, const wchar_t* name, const Pairs& pairs) {
+    return dialog.LoadFromFile(kFile, name, pairs.data(), static_cast<int>(pairs.size()));
+}
+
+bool loadText(ZoTaskDialog& dialog, std::string_view body, const wchar_t* name, const Pairs& pairs = {}) {
+    const std::string xml = "<TaskDialogs xmlns='urn:kelvara:task-dialogs'>" + std::string(body) + "</TaskDialogs>";
+    return dialog.LoadFromText(xml, name, pairs.data(), static_cast<int>(pairs.size()));
+}
+
+// What reaches the user, as the prompt handler sees it.
+struct Shown {
+    CString title;
+    CString instruction;
+    CString content;
+    TASKDIALOG_COMMON_BUTTON_FLAGS buttons{};
+    int defaultButton = 0;
+};
+
+Shown show(ZoTaskDialog& dialog, int reply, int* answer = nullptr) {
+    Shown shown;
+    const ZoPromptHandler previous = ZoSetPromptHandler([&](const ZoPrompt& prompt) -> std::optional<int> {
+        const TASKDIALOGCONFIG& config = *prompt.taskDialog->config;
+        EXPECT_EQ(prompt.text, config.pszMainInstruction);
+        EXPECT_EQ(prompt.caption, config.pszWindowTitle);
+        shown = {prompt.caption, prompt.text, config.pszContent, config.dwCommonButtons, config.nDefaultButton};
+        return reply;
+    });
+    const int button = dialog.ShowDialog(nullptr);
+    if (answer != nullptr) {
+        *answer = button;
+    }
+    ZoSetPromptHandler(previous);
+    return shown;
+}
+
+TEST(TaskDialog, StandardDialogsAreFilledIn) {
+    struct Row {
+        const wchar_t* name;
+        Pairs pairs;
+        const wchar_t* title;
+        const wchar_t* inText;
+    };
+    const Row rows[] = {
+        {L"Standard.FileNotFound", {{L"FeatureName", L"Open"}, {L"FileName", L"a {b}.dwg"}}, L"Open", L"a {b}.dwg"},
+        {L"Standard.InvalidName.TooLong", {{L"ObjectName", L"path"}, {L"FieldName", L"Name"}}, L"Name", L"path"},
+        {L"Standard.Object.UnsupportCharacters",
+         {{L"ObjectName", L"Save"}, {L"FieldName", L"Name"}, {L"UnsupportedCharacters", L"* ? {FieldName}"}},
+         L"Save",
+         L"* ? {FieldName}"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(knav::test::utf8(row.name));
+        ZoTaskDialog dialog;
+        ASSERT_TRUE(loadStandard(dialog, row.name, row.pairs));
+        const Shown shown = show(dialog, IDOK);
+        EXPECT_EQ(shown.title, row.title);
+        EXPECT_GE((shown.instruction + shown.content).Find(row.inText), 0)
+            << "values stand as they are: " << knav::test::utf8(shown.content.view());
+        EXPECT_EQ(shown.buttons, TDCBF_OK_BUTTON);
+    }
+}
+
+TEST(TaskDialog, PromptNamesTheDialogAndItsArguments) {
+    ScriptedPrompts prompts;
+    prompts.answer(IDOK);
+    ZoTaskDialog dialog;
+    ASSERT_TRUE(loadStandard(dialog, L"Standard.FileNotFound", {{L"FileName", L"x"}, {L"Unused", L"y"}}));
+    EXPECT_EQ(dialog.ShowDialog(nullptr), IDOK);
+    ASSERT_EQ(prompts.seen().size(), 1u);
+    EXPECT_EQ(prompts.seen()[0].name, L"Standard.FileNotFound");
+    EXPECT_EQ(prompts.seen()[0].arguments,
+              (std::vector<std::pair<CString, CString>>{{L"FileName", L"x"}, {L"Unused", L"y"}}));
+}
+
+TEST(TaskDialog, MissingFileOrDialogIsNotLoadedAndShowsNothing) {
+    const ScriptedPrompts noPrompts;
+    ZoTaskDialog dialog;
+    ASSERT_TRUE(loadStandard(dialog, L"Standard.FileNotFound", {}));
+    EXPECT_FALSE(loadStandard(dialog, L"Standard.None", {}));
+    EXPECT_EQ(dialog.ShowDialog(nullptr), IDCANCEL) << "the one loaded before is gone";
+    EXPECT_FALSE(loadStandard(dialog, L"", {}));
+    EXPECT_FALSE(loadStandard(dialog, nullptr, {}));
+    EXPECT_FALSE(dialog.LoadFromFile(L"/RyTaskDialogs;component/None.xaml", L"Standard.FileNotFound", nullptr, 0));
+    EXPECT_FALSE(dialog.LoadFromFile(nullptr, L"Standard.FileNotFound", nullptr, 0));
+}
+
+TEST(TaskDialog, AttributesAndPartsAreTaken) {
+    ZoTaskDialog dialog;
+    ASSERT_TRUE(loadText(dialog,
+                         "<TaskDialog Name='Other'><MainInstruction>no</MainInstruction></TaskDialog>"
+                         "<TaskDialog Name='A' Title='{T}' Icon='Error' Buttons='Yes No' DefaultButton='No'>"
+                         "<!-- remark --><MainInstruction>Replace\n   {F} &amp; go {open</MainInstruction>"
+                         "<Content><![CDATA[a < b]]>{none}</Content></TaskDialog>",
+                         L"A", {{L"T", L"Title"}, {L"F", L"it"}}));
+    int answer = 0;
+    const Shown shown = show(dialog, IDNO, &answer);
+    EXPECT_EQ(answer, IDNO);
+    EXPECT_EQ(shown.title, L"Title");
+    EXPECT_EQ(shown.instruction, L"Replace it & go {open");
+    EXPECT_EQ(shown.content, L"a < b");
+    EXPECT_EQ(shown.buttons, TDCBF_YES_BUTTON | TDCBF_NO_BUTTON);
+    EXPECT_EQ(shown.defaultButton, IDNO);
+}
+
+TEST(TaskDialog, DamagedTextIsRefusedAsAWhole) {
+    constexpr const char* good = "<TaskDialog Name='A'><MainInstruction>x</MainInstruction></TaskDialog>";
+    struct Row {
+        const char* why;
+        std::string body;
+    };
+    const Row rows[] = {
+        {"not closed", std::string(good) + "<TaskDialog Name='B'>"},
+        {"damage behind the dialog", std::string(good) + "<TaskDialog Name='B'><MainInstruction>&</TaskDialog>"},
+        {"unknown element", std::string(good) + "<Button/>"},
+        {"unknown part", "<TaskDialog Name='A'><MainInstruction>x</MainInstruction><Foot>y</Foot></TaskDialog>"},
+        {"unknown attribute", "<TaskDialog Name='A' Colour='1'><MainInstruction>x</MainInstruction></TaskDialog>"},
+        {"unknown icon", "<TaskDialog Name='A' Icon='Smile'><MainInstruction>x</MainInstruction></TaskDialog>"},
+        {"unknown button", "<TaskDialog Name='A' Buttons='Ok Maybe'><MainInstruction>x</MainInstruction></TaskDialog>"},
+        {"no button", "<TaskDialog Name='A' Buttons=' '><MainInstruction>x</MainInstruction></TaskDialog>"},
+        {"no name", "<TaskDialog><MainInstruction>x</MainInstruction></TaskDialog>"},
+        {"no instruction", "<TaskDialog Name='A'><Content>x</Content></TaskDialog>"},
+        {"text between the parts", "<TaskDialog Name='A'>x<MainInstruction>x</MainInstruction></TaskDialog>"},
+        {"part in a part", "<TaskDialog Name='A'><MainInstruction><b>x</b></MainInstruction></TaskDialog>"},
+        {"nothing", ""},
+    };
+    ZoTaskDialog dialog;
+    ASSERT_TRUE(loadText(dialog, good, L"A"));
+    for (const Row& row : rows) {
+        EXPECT_FALSE(loadText(dialog, row.body, L"A")) << row.why;
+    }
+    const std::string_view wholes[] = {
+        "",
+        "text",
+        "<TaskDialogs/>",
+        "<TaskDialogs><TaskDialog Name='A'/></TaskDialogs>",
+        "<!DOCTYPE t [<!ENTITY e 'x'>]><TaskDialogs xmlns='urn:kelvara:task-dialogs'>"
+        "<TaskDialog Name='A'><MainInstruction>&e;</MainInstruction></TaskDialog></TaskDialogs>",
+        std::string_view("\xFF\xFE<\0", 4)};
+    for (const std::string_view whole : wholes) {
+        EXPECT_FALSE(dialog.LoadFromText(whole, L"A", nullptr, 0)) << whole;
+    }
+}
+
+TEST(TaskDialog, WithoutAHandlerTheRealDialogAsks) {
+    ZoTaskDialog dialog;
+    ASSERT_TRUE(loadText(
+        dialog, "<TaskDialog Name='A' Buttons='Yes No'><MainInstruction>x</MainInstruction></TaskDialog>", L"A"));
+    DialogDriver driver;
+    driver.click(IDNO);
+    EXPECT_EQ(driver.run([&] { return dialog.ShowDialog(nullptr); }), IDNO);
+}
+
+}  // namespace
