@@ -4,6 +4,7 @@
 #include "data/FilterText.h"
 #include "data/NamePattern.h"
 
+#include <algorithm>
 #include <map>
 
 namespace {
