@@ -1,0 +1,94 @@
+#include <gmock/gmock.h>
+
+#include "PlacesFixture.h"
+
+namespace knav::test {
+namespace {
+
+using testing::ElementsAre;
+
+class PlacesMouse : public PlacesTest {
+protected:
+    PlacesMouse() { m_list.OnAutoLoad(); }
+
+    LPARAM inRow(int index, int fromTop = 10) {
+        RECT row{};
+        m_list.GetItemRect(index, &row);
+        return MAKELPARAM(row.left + 20, row.top + fromTop);
+    }
+    int rowHeight() { return m_list.GetItemHeight(0); }
+
+    /// Presses at the first place, moves over the others, and lets go at the last.
+    void drag(std::initializer_list<LPARAM> way) {
+        for (const LPARAM at : way)
+            m_list.PostMessage(WM_MOUSEMOVE, MK_LBUTTON, at);
+        m_list.PostMessage(WM_LBUTTONUP, 0, std::data(way)[way.size() - 1]);
+        m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, *way.begin());
+    }
+};
+
+TEST_F(PlacesMouse, click_choosesTheRowEvenTwice) {
+    drag({inRow(2)});
+    EXPECT_EQ(2, m_list.GetCurSel());
+    drag({inRow(2)});
+    EXPECT_EQ(2, m_window.chosen);
+}
+
+TEST_F(PlacesMouse, clickBesideTheRows_choosesNothing) {
+    m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 455));
+    EXPECT_EQ(-1, m_list.GetCurSel());
+    EXPECT_EQ(0, m_window.chosen);
+}
+
+TEST_F(PlacesMouse, tremblingHand_isStillAClick) {
+    drag({inRow(0, 10), inRow(0, 13)});
+    EXPECT_EQ(1, m_window.chosen);
+}
+
+TEST_F(PlacesMouse, drag_movesTheRowToTheIndicator) {
+    drag({inRow(0), inRow(1), inRow(2, rowHeight() - 4)});
+    EXPECT_THAT(m_window.names(), ElementsAre(L"Personal", L"Favorites", L"History", L"Desktop"));
+    EXPECT_EQ(1, m_window.changed);
+    EXPECT_EQ(0, m_window.chosen) << "a drag does not browse";
+}
+
+TEST_F(PlacesMouse, dragUpwards_movesTheRowUp) {
+    drag({inRow(3), inRow(1, 4)});
+    EXPECT_THAT(m_window.names(), ElementsAre(L"History", L"Desktop", L"Personal", L"Favorites"));
+}
+
+TEST_F(PlacesMouse, dragGivenUp_changesNothing) {
+    m_list.PostMessage(WM_MOUSEMOVE, MK_LBUTTON, inRow(2));
+    m_list.PostMessage(WM_KEYDOWN, VK_ESCAPE, 0);
+    m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, inRow(0));
+    EXPECT_THAT(m_window.names(), ElementsAre(L"History", L"Personal", L"Favorites", L"Desktop"));
+    EXPECT_EQ(0, m_window.changed);
+    EXPECT_EQ(0, m_window.chosen);
+    EXPECT_EQ(nullptr, GetCapture());
+}
+
+TEST_F(PlacesMouse, captureLost_endsTheDrag) {
+    m_list.PostMessage(WM_CANCELMODE);
+    m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, inRow(0));
+    EXPECT_EQ(0, m_window.chosen);
+}
+
+TEST_F(PlacesMouse, pointer_marksTheRowUnderIt) {
+    m_list.SendMessage(WM_MOUSEMOVE, 0, inRow(1));
+    EXPECT_EQ(1, m_list.GetItemPointedAt());
+    m_list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(20, 455));
+    EXPECT_EQ(-1, m_list.GetItemPointedAt());
+    m_list.SendMessage(WM_MOUSEMOVE, 0, inRow(2));
+    m_list.SendMessage(WM_MOUSELEAVE);
+    EXPECT_EQ(-1, m_list.GetItemPointedAt());
+}
+
+TEST_F(PlacesMouse, arrowKey_choosesTheNextRow) {
+    drag({inRow(0)});
+    m_list.SendMessage(WM_KEYDOWN, VK_DOWN);
+    EXPECT_EQ(1, m_list.GetCurSel());
+    EXPECT_EQ(2, m_window.chosen);
+}
+
+}  // namespace
+}  // namespace knav::test
