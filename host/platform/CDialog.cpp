@@ -2,6 +2,7 @@
 
 #include <platform/Resources.h>
 
+#include "platform/CommonControls.h"
 #include "platform/ModalOwner.h"
 #include "platform/WindowBinding.h"
 
@@ -13,15 +14,6 @@ ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 END_MESSAGE_MAP()
 
 namespace {
-
-void registerCommonControls() noexcept {
-    static const BOOL registered = [] {
-        const INITCOMMONCONTROLSEX classes{
-            sizeof classes, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_COOL_CLASSES | ICC_LINK_CLASS};
-        return InitCommonControlsEx(&classes);
-    }();
-    static_cast<void>(registered);
-}
 
 bool isInput(UINT message) noexcept {
     return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
@@ -81,7 +73,7 @@ const DLGTEMPLATE* CDialog::findTemplate() noexcept {
 }
 
 bool CDialog::createWindow(const DLGTEMPLATE* dialogTemplate, HWND owner) {
-    registerCommonControls();
+    zoui::registerCommonControls();
     const zoui::CreationHook binding(*this);
     return CreateDialogIndirectParamW(m_module != nullptr ? m_module : AfxGetInstanceHandle(), dialogTemplate, owner,
                                       dialogProcedure, 0) != nullptr;

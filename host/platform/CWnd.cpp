@@ -7,6 +7,7 @@
 #include <platform/Prompt.h>
 #include <platform/Resources.h>
 
+#include "platform/CommonControls.h"
 #include "platform/WindowBinding.h"
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
@@ -132,6 +133,7 @@ BOOL CWnd::CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text
     if (creation.lpszClass == nullptr) {
         creation.lpszClass = registerPlainClass();
     }
+    zoui::registerCommonControls();
     // When the window refuses its creation, the object may have deleted itself by the time this returns.
     const zoui::CreationHook binding(*this);
     return CreateWindowExW(creation.dwExStyle, creation.lpszClass, creation.lpszName,
