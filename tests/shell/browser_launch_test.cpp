@@ -2,35 +2,18 @@
 
 #include <gtest/gtest.h>
 #include <knav/NavUrl.h>
-#include <ry/RyRegKey.h>
 
 #include "support/Printers.h"
-#include "support/ScopedTempFolder.h"
+#include "support/ScratchHive.h"
 
 namespace {
 
 using namespace knav;
+using knav::test::ScratchHive;
 
-constexpr wchar_t kScratch[] = L"Software\\KnavTests-Classes";
-
-// The classes root of this process is an empty key of its own.
 class BrowserLaunch : public testing::Test {
 protected:
-    void SetUp() override {
-        ryRegDeleteTree(HKEY_CURRENT_USER, kScratch);
-        ASSERT_TRUE(m_scratch.create(HKEY_CURRENT_USER, kScratch));
-        ASSERT_EQ(RegOverridePredefKey(HKEY_CLASSES_ROOT, m_scratch.get()), ERROR_SUCCESS);
-    }
-    void TearDown() override {
-        RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
-        ryRegDeleteTree(HKEY_CURRENT_USER, kScratch);
-    }
-
-    static void setDefault(const wchar_t* path, const CString& value) {
-        RyRegKey key;
-        ASSERT_TRUE(key.create(HKEY_CLASSES_ROOT, path));
-        ASSERT_EQ(ryRegSetValue(key.get(), nullptr, value), ERROR_SUCCESS);
-    }
+    void setDefault(const wchar_t* key, const CString& value) { m_classes.set(key, nullptr, value); }
 
     // The command line that would be started; empty when none would.
     static CString started(const wchar_t* url) {
@@ -42,7 +25,7 @@ protected:
         return line;
     }
 
-    RyRegKey m_scratch;
+    ScratchHive m_classes{HKEY_CLASSES_ROOT};
 };
 
 TEST_F(BrowserLaunch, CommandOfTheDocumentClassStartsWithoutItsPlaceholder) {

@@ -1,0 +1,316 @@
+#include "shell/ExtensionItems.h"
+
+#include <gtest/gtest.h>
+#include <knav/NavFolders.h>
+#include <knav/NavNames.h>
+#include <platform/GdiOwners.h>
+
+#include "support/ItemLists.h"
+#include "support/ScratchHive.h"
+#include "support/TestExtension.h"
+
+namespace {
+
+using namespace knav;
+using namespace knav::test;
+
+// A list of raw text elements, as an extension's root and items below it look.
+ItemList textList(std::initializer_list<std::wstring_view> texts) {
+    ItemList list = makeList({});
+    for (const std::wstring_view text : texts) {
+        const std::string_view bytes(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(wchar_t));
+        list = ItemList::join(list.get(), makeList({bytes}).get());
+    }
+    return list;
+}
+
+constexpr std::wstring_view operator""_z(const wchar_t* text, std::size_t length) {
+    return {text, length + 1};  // with its terminator
+}
+
+TEST(ExtensionRoot, IsOneElementWithThePrefixAndTheName) {
+    CNavExtension extension;
+    extension.SetName(L"A");
+    EXPECT_EQ(extension.CreateID(), 1);
+    EXPECT_EQ(NavGetItemElementSize(extension.GetID()), 26);
+    EXPECT_THAT(extension.GetID(), HoldsSameBytes(textList({L"Extension-A"_z}).get()));
+    EXPECT_TRUE(NavIsExtensionRootItem(extension.GetID()));
+    extension.SetName(CString(L'x', 40'000));
+    EXPECT_EQ(extension.CreateID(), 0) << "does not fit into an element";
+    EXPECT_EQ(extension.GetID(), nullptr);
+}
+
+TEST(ExtensionItem, KindFollowsFromPrefixAndElements) {
+    struct Row {
+        const char* why;
+        ItemList list;
+        ExtensionItem kind;
+        CString name;
+    };
+    const Row rows[] = {
+        {"null", ItemList(), ExtensionItem::None, L""},
+        {"desktop", makeList({}), ExtensionItem::None, L""},
+        {"shell item", makeList({"some bytes that are long enough for a prefix"}), ExtensionItem::None, L""},
+        {"root", textList({L"Extension-Foo"_z}), ExtensionItem::Root, L"Foo"},
+        {"root without an end of its text", textList({L"Extension-Foo"}), ExtensionItem::Root, L"Foo"},
+        {"root without a name", textList({L"Extension-"_z}), ExtensionItem::Root, L""},
+        {"text behind the end is not the name", textList({L"Extension-Foo\0bar"_z}), ExtensionItem::Root, L"Foo"},
+        {"prefix too short", textList({L"Extension"_z}), ExtensionItem::None, L""},
+        {"prefix in other letters", textList({L"extension-Foo"_z}), ExtensionItem::None, L""},
+        {"child", textList({L"Extension-Foo"_z, L"site"}), ExtensionItem::Child, L"Foo"},
+        {"deeper child", textList({L"Extension-Foo"_z, L"site", L"x"}), ExtensionItem::Child, L"Foo"},
+        {"root element that is not the first", textList({L"site", L"Extension-Foo"_z}), ExtensionItem::None, L""},
+    };
+    for (const Row& row : rows) {
+        ITEMIDLIST* const list = row.list.get();
+        EXPECT_EQ(NavIsExtensionRootItem(list) != 0, row.kind == ExtensionItem::Root) << row.why;
+        EXPECT_EQ(NavIsExtensionChildItem(list) != 0, row.kind == ExtensionItem::Child) << row.why;
+        EXPECT_EQ(NavIsExtensionItem(list) != 0, row.kind != ExtensionItem::None) << row.why;
+        CString name = L"old";
+        NavGetExtensionNameFromItem(list, name);
+        EXPECT_EQ(name, row.name) << row.why;
+    }
+}
+
+TEST(ExtensionItem, CutByTheEndOfMemoryIsReadOnlyAsFarAsItGoes) {
+    const RegisteredForTest registered;
+    const std::vector<BYTE> whole = bytesOf(textList({L"Extension-Foo"_z, L"site"}).get());
+    const std::size_t root = 2 + 2 * 14;
+    PageEnd page;
+    for (std::size_t cut = 0; cut <= whole.size(); ++cut) {
+        ITEMIDLIST* const list = page.put(whole.data(), cut);
+        EXPECT_EQ(NavIsExtensionItem(list) != 0, cut >= 2 + 20) << cut;
+        EXPECT_EQ(NavIsExtensionChildItem(list) != 0, cut >= root + 2) << cut;
+        CString name;
+        NavGetExtensionNameFromItem(list, name);
+        EXPECT_EQ(name.IsEmpty(), cut < root) << cut;
+        EXPECT_EQ(NavFindExtensionForItem(list), nullptr);
+    }
+}
+
+class Extensions : public testing::Test {
+protected:
+    Extensions() {
+        m_root->add(L"site", SFGAO_FOLDER, m_site);
+        m_site->add(L"plan", 0);
+    }
+
+    RegisteredForTest m_registered;
+    ComPtr<FakeFolder> m_site = FakeFolder::make(L"site");
+    ComPtr<FakeFolder> m_root = FakeFolder::make(L"root");
+};
+
+TEST_F(Extensions, AreFoundByNameAndByItemIgnoringCase) {
+    CNavExtension& foo = m_registered.add(L"foo", m_root);
+    CNavExtension& bar = m_registered.add(L"Bar", m_root);
+    m_registered.add(L"FOO", m_root);
+    EXPECT_EQ(NavFindExtensionByName(L"BAR"), &bar);
+    EXPECT_EQ(NavFindExtensionByName(L"Foo"), &foo) << "the first registered";
+    EXPECT_EQ(NavFindExtensionByName(L"fo"), nullptr);
+    EXPECT_EQ(NavFindExtensionByName(L""), nullptr);
+    EXPECT_EQ(NavFindExtensionByName(nullptr), nullptr);
+    EXPECT_EQ(NavFindExtensionForItem(textList({L"Extension-FOO"_z}).get()), &foo);
+    EXPECT_EQ(NavFindExtensionForItem(textList({L"Extension-bar"_z, L"site"}).get()), &bar);
+    EXPECT_EQ(NavFindExtensionForItem(textList({L"Extension-Other"_z}).get()), nullptr);
+    EXPECT_EQ(NavFindExtensionForItem(makeList({"shell item"}).get()), nullptr);
+}
+
+TEST_F(Extensions, FolderComesFromTheirRootAndNotFromTheParent) {
+    CNavExtension& extension = m_registered.add(L"Foo", m_root);
+    const LONG references = m_root->references();
+    const ItemList site = ItemList::join(extension.GetID(), FakeFolder::item(L"site").get());
+    const auto parent = FakeFolder::make(L"parent");
+    {
+        const auto root = ComPtr<IShellFolder>::adopt(NavGetFolderFromItem(parent.get(), extension.GetID()));
+        EXPECT_EQ(root.get(), m_root.get());
+        EXPECT_EQ(m_root->references(), references + 1);
+        const auto below = ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(site.get()));
+        EXPECT_EQ(below.get(), m_site.get());
+    }
+    EXPECT_EQ(m_root->references(), references);
+    EXPECT_EQ(parent->calls(FolderCall::BindToObject), 0);
+    EXPECT_EQ(NavGetFolderFromItem(parent.get(), textList({L"Extension-None"_z}).get()), nullptr);
+    EXPECT_EQ(NavGetFolderFromItem(parent.get(), textList({L"Extension-None"_z, L"site"}).get()), nullptr);
+    EXPECT_EQ(NavGetFolderFromExtensionItem(extension.GetID()), nullptr) << "the root is no child";
+    const ItemList missing = ItemList::join(extension.GetID(), FakeFolder::item(L"missing").get());
+    EXPECT_EQ(NavGetFolderFromExtensionItem(missing.get()), nullptr);
+}
+
+TEST(Folder, IsTakenFromTheUiObjectWhenBindingFails) {
+    const auto child = FakeFolder::make(L"child");
+    const auto parent = FakeFolder::make(L"parent");
+    parent->add(L"child", SFGAO_FOLDER, child);
+    const ItemList item = FakeFolder::item(L"child");
+    const auto bound = ComPtr<IShellFolder>::adopt(NavGetFolderFromItem(parent.get(), item.get()));
+    EXPECT_EQ(bound.get(), child.get());
+    EXPECT_EQ(parent->calls(FolderCall::GetUIObjectOf), 0);
+    parent->setBindThroughUiObject(true);
+    const auto second = ComPtr<IShellFolder>::adopt(NavGetFolderFromItem(parent.get(), item.get()));
+    EXPECT_EQ(second.get(), child.get());
+}
+
+TEST_F(Extensions, CompareByNamesOfTheirOwn) {
+    CNavExtension& a = m_registered.add(L"alpha", m_root);
+    CNavExtension& b = m_registered.add(L"Beta", m_root);
+    CNavExtension& unloaded = m_registered.add(L"unloaded");
+    const auto child = [](const CNavExtension& extension, std::wstring_view path) {
+        return ItemList::join(extension.GetID(), FakeFolder::item(path).get());
+    };
+    const ItemList upper = textList({L"Extension-ALPHA"_z});
+    const ItemList unknown = textList({L"Extension-zzz"_z});
+    const ItemList shellItem = FakeFolder::item(L"site");
+    struct Row {
+        const char* why;
+        ItemList left, right;
+        int order;
+    };
+    const Row rows[] = {
+        {"roots by name", ItemList::copyOf(a.GetID()), ItemList::copyOf(b.GetID()), -1},
+        {"roots by name, reversed", ItemList::copyOf(b.GetID()), ItemList::copyOf(a.GetID()), 1},
+        {"roots ignoring case", ItemList::copyOf(a.GetID()), ItemList::copyOf(upper.get()), 0},
+        {"children by parsing name", child(a, L"site"), child(a, L"site/plan"), -1},
+        {"children ignoring case", child(a, L"site"), child(a, L"SITE"), 0},
+        {"children of two extensions in the first one's folder", child(a, L"site"), child(b, L"site"), 0},
+        {"unloaded extension on the left", child(unloaded, L"site"), child(a, L"site"), -1},
+        {"unloaded extension on the right", child(a, L"site"), child(unloaded, L"site"), -1},
+        {"shell item on the left", ItemList::copyOf(shellItem.get()), child(a, L"site"), -1},
+        {"child of no extension", ItemList::join(unknown.get(), shellItem.get()), child(a, L"site"), -1},
+    };
+    const auto folder = FakeFolder::make(L"desktop");
+    for (const Row& row : rows) {
+        const int order = NavCompareFolderItems(folder.get(), row.left.get(), row.right.get());
+        EXPECT_EQ((order > 0) - (order < 0), row.order) << row.why;
+    }
+    EXPECT_EQ(folder->calls(FolderCall::CompareIDs), 0);
+    NavCompareFolderItems(folder.get(), a.GetID(), unknown.get());
+    EXPECT_EQ(folder->calls(FolderCall::CompareIDs), 1) << "a root that no extension matches is an ordinary item";
+}
+
+TEST_F(Extensions, RootIsNamedByItsTextOrElseByItself) {
+    CNavExtension& extension = m_registered.add(L"Foo", m_root);
+    const LONG references = m_root->references();
+    CString name;
+    EXPECT_TRUE(NavGetItemDisplayName(SHGDN_NORMAL, nullptr, extension.GetID(), name));
+    EXPECT_EQ(name, L"root");
+    EXPECT_EQ(m_root->references(), references);
+    extension.SetRootFolderDisplayName(L"Foo sites");
+    EXPECT_TRUE(NavGetItemNameInFolder(nullptr, extension.GetID(), name));
+    EXPECT_EQ(name, L"Foo sites");
+    EXPECT_FALSE(NavGetItemDisplayName(SHGDN_NORMAL, nullptr, textList({L"Extension-None"_z}).get(), name));
+    EXPECT_TRUE(name.IsEmpty());
+}
+
+TEST_F(Extensions, NamesInsideAreParsedBehindTheirScheme) {
+    CNavExtension& extension = m_registered.add(L"Foo", m_root);
+    const ItemList expected = ItemList::join(extension.GetID(), FakeFolder::item(L"site/plan").get());
+    for (const wchar_t* const path : {L"site/plan", L"foo://site/plan"}) {
+        EXPECT_THAT(ItemList::adopt(NavBuildExtensionItemList(&extension, path)).get(), HoldsSameBytes(expected.get()));
+        EXPECT_EQ(extension.GetItemListFromName(path), nullptr) << "names cannot be parsed";
+        extension.SetAttributes(3);
+        EXPECT_THAT(ItemList::adopt(extension.GetItemListFromName(path)).get(), HoldsSameBytes(expected.get()));
+        extension.SetAttributes(2);
+    }
+    EXPECT_EQ(NavBuildExtensionItemList(&extension, L"missing"), nullptr);
+    EXPECT_EQ(NavBuildExtensionItemList(&extension, L"foo://"), nullptr);
+    EXPECT_EQ(NavBuildExtensionItemList(&extension, nullptr), nullptr);
+    EXPECT_EQ(NavBuildExtensionItemList(nullptr, L"site"), nullptr);
+    EXPECT_EQ(NavBuildExtensionItemList(&m_registered.add(L"unloaded"), L"site"), nullptr);
+}
+
+TEST_F(Extensions, OwnTheirFolderAndTheirItem) {
+    const LONG references = m_root->references();
+    expectNoTaskMemoryLeft([&] {
+        CNavExtension extension;
+        extension.SetRootFolder(m_root.get());
+        extension.SetRootFolder(m_root.get());
+        extension.SetID(makeList({"a"}).release());
+        extension.SetID(makeList({"b"}).release());
+        EXPECT_EQ(m_root->references(), references + 1);
+    });
+    EXPECT_EQ(m_root->references(), references);
+}
+
+// Registers a class in this process that hands out one folder.
+class FolderClass final : public FakeObject<IClassFactory> {
+public:
+    FolderClass(Conducts& conducts, IShellFolder* folder)
+        : FakeObject(conducts, {&IID_IClassFactory}), m_folder(folder) {}
+    ~FolderClass() override = default;
+    HRESULT WINAPI CreateInstance(IUnknown*, REFIID iid, void** object) override {
+        return m_folder->QueryInterface(iid, object);
+    }
+    HRESULT WINAPI LockServer(BOOL) override { return S_OK; }
+
+private:
+    IShellFolder* m_folder;
+};
+
+TEST_F(Extensions, RootFolderIsCreatedOnceAndOnDemand) {
+    constexpr CLSID clsid = {0x6b9d1f0a, 0x1111, 0x4222, {0x93, 0x33, 1, 2, 3, 4, 5, 6}};
+    Conducts conducts;
+    const auto factory = ComPtr<FolderClass>::adopt(new FolderClass(conducts, m_root.get()));
+    DWORD cookie = 0;
+    ASSERT_EQ(CoRegisterClassObject(clsid, factory.get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie), S_OK);
+    CNavExtension& extension = m_registered.add(L"Foo");
+    EXPECT_EQ(extension.FetchRootFolder(), nullptr) << "no class is known";
+    extension.SetRootFolderCLSID(clsid);
+    const auto first = ComPtr<IShellFolder>::adopt(extension.FetchRootFolder());
+    CoRevokeClassObject(cookie);
+    const auto second = ComPtr<IShellFolder>::adopt(extension.FetchRootFolder());
+    EXPECT_EQ(first.get(), m_root.get());
+    EXPECT_EQ(second.get(), m_root.get());
+    EXPECT_EQ(extension.GetRootFolder(), m_root.get());
+}
+
+TEST_F(Extensions, PictureIsHandedOutAsACopy) {
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof info.bmiHeader, 3, 2, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    CNavExtension& extension = m_registered.add(L"Foo");
+    EXPECT_EQ(extension.GetBitmapCopy(), nullptr);
+    void* pixels = nullptr;
+    extension.SetBitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
+    std::memset(pixels, 0x5A, 3 * 2 * 4);
+    const zoui::UniqueBitmap copy(extension.GetBitmapCopy());
+    DIBSECTION section{};
+    ASSERT_EQ(GetObjectW(copy.get(), sizeof section, &section), static_cast<int>(sizeof section));
+    EXPECT_EQ(section.dsBm.bmWidth, 3);
+    EXPECT_EQ(section.dsBm.bmHeight, 2);
+    EXPECT_EQ(section.dsBm.bmBitsPixel, 32);
+    EXPECT_NE(section.dsBm.bmBits, pixels);
+    EXPECT_EQ(std::memcmp(section.dsBm.bmBits, pixels, 3 * 2 * 4), 0);
+}
+
+constexpr wchar_t kDisableKey[] = L"Software\\Kelvara\\Dialogs\\AllNavDialogs";
+
+TEST_F(Extensions, AreSwitchedOffOnTheMachine) {
+    ScratchHive machine(HKEY_LOCAL_MACHINE);
+    const CNavExtension& foo = m_registered.add(L"Foo");
+    const CNavExtension& ftp = m_registered.add(L"ftpSITES");
+    EXPECT_FALSE(foo.IsFTP());
+    EXPECT_TRUE(ftp.IsFTP());
+    struct Row {
+        const char* why;
+        const wchar_t* value;
+        DWORD data;
+        int fooOff, ftpOff, allOff;
+    };
+    constexpr Row rows[] = {
+        {"no value", nullptr, 0, 0, 0, 0},
+        {"its own switch", L"FooExtensionOff", 1, 1, 0, 0},
+        {"only bit 0 counts", L"FooExtensionOff", 2, 0, 0, 0},
+        {"the switch of the FTP sites", L"ftpSITESExtensionOff", 3, 0, 1, 0},
+        {"all", L"AllExtraExtensionsOff", 1, 1, 0, 1},
+        {"all, only bit 0 counts", L"AllExtraExtensionsOff", 6, 0, 0, 0},
+    };
+    for (const Row& row : rows) {
+        machine.remove(kDisableKey);
+        if (row.value != nullptr) {
+            machine.set(kDisableKey, row.value, row.data);
+        }
+        EXPECT_EQ(foo.IsDisabled(), row.fooOff) << row.why;
+        EXPECT_EQ(ftp.IsDisabled(), row.ftpOff) << row.why;
+        EXPECT_EQ(CNavExtension::AllDisabled(), row.allOff) << row.why;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,425 @@
+#include <knav/CNavNode.h>
+
+#include <gtest/gtest.h>
+#include <knav/CNavShell.h>
+
+#include <memory>
+
+#include "support/ItemLists.h"
+#include "support/ObjectCounts.h"
+#include "support/TestExtension.h"
+
+namespace {
+
+using namespace knav;
+using namespace knav::test;
+
+class NavNode : public testing::Test {
+protected:
+    // A node over a fake folder; items of the folder are relative to it.
+    std::unique_ptr<CNavNode> nodeOver(ComPtr<FakeFolder> folder, NavNodeType type = NavNodeShell) {
+        auto node = std::make_unique<CNavNode>(m_shell);
+        node->SetFolder(folder.release());
+        node->SetID(makeList({"parent"}).release());
+        node->SetType(type);
+        return node;
+    }
+
+    static std::vector<CString> childNames(const CNavNode& node) {
+        std::vector<CString> names;
+        for (const CNavNode* child = node.GetChild(); child != nullptr; child = child->GetNext()) {
+            CString name;
+            child->GetNameInFolder(name);
+            names.push_back(name);
+        }
+        return names;
+    }
+
+    CNavShell m_shell;
+};
+
+// a
+// +- b
+// |  +- c
+// +- d
+class LinkedNodes : public NavNode {
+protected:
+    LinkedNodes() {
+        m_b = m_a.AddChild(nullptr);
+        m_d = m_b->AddNode(nullptr);
+        m_c = m_a.AddChild(nullptr);
+    }
+
+    CNavNode m_a{m_shell};
+    CNavNode* m_b;
+    CNavNode* m_c;
+    CNavNode* m_d;
+};
+
+TEST_F(LinkedNodes, ChildrenGoToTheDeepestFirstChildAndSiblingsToTheEnd) {
+    EXPECT_EQ(m_b->GetParent(), &m_a);
+    EXPECT_EQ(m_c->GetParent(), m_b);
+    EXPECT_EQ(m_b->GetNext(), m_d);
+    EXPECT_EQ(m_d->GetPrev(), m_b);
+    EXPECT_EQ(m_d->GetParent(), &m_a);
+    EXPECT_EQ(m_d->GetFirst(), m_b);
+    EXPECT_EQ(m_b->GetLast(), m_d);
+    EXPECT_EQ(m_a.GetLastChild(), m_c) << "down along first children, not along siblings";
+    EXPECT_EQ(m_d->GetLastChild(), m_d);
+}
+
+TEST_F(LinkedNodes, EnumerationIsPreOrder) {
+    EXPECT_EQ(CNavNode::EnumerateNextNode(&m_a), m_b);
+    EXPECT_EQ(CNavNode::EnumerateNextNode(m_b), m_c);
+    EXPECT_EQ(CNavNode::EnumerateNextNode(m_c), m_d);
+    EXPECT_EQ(CNavNode::EnumerateNextNode(m_d), nullptr);
+    EXPECT_EQ(CNavNode::EnumerateNextNode(nullptr), nullptr);
+}
+
+TEST_F(LinkedNodes, SiteIsTheNearestNodeOfItsKind) {
+    struct Row {
+        const char* why;
+        NavNodeType top, middle, bottom;
+        CNavNode* site;
+    };
+    const Row rows[] = {
+        {"ordinary items have none", NavNodeInternetSite, NavNodeShell, NavNodeShell, nullptr},
+        {"a site is its own", NavNodeShell, NavNodeShell, NavNodeInternetSite, m_c},
+        {"an item below a site", NavNodeInternetRoot, NavNodeInternetSite, NavNodeInternetItem, m_b},
+        {"an item deeper below a site", NavNodeExtensionSite, NavNodeExtensionItem, NavNodeExtensionItem, &m_a},
+        {"a root has none", NavNodeShell, NavNodeShell, NavNodeWebFoldersRoot, nullptr},
+        {"an item without a site", NavNodeShell, NavNodeShell, NavNodeWebFolderItem, nullptr},
+    };
+    for (const Row& row : rows) {
+        m_a.SetType(row.top);
+        m_b->SetType(row.middle);
+        m_c->SetType(row.bottom);
+        EXPECT_EQ(m_c->GetSiteNode(), row.site) << row.why;
+    }
+}
+
+struct Flag {
+    const char* name;
+    DWORD shell;
+    int (CNavNode::*get)() const;
+};
+
+constexpr Flag kFlags[] = {
+    {"CanCopy", 0x1, &CNavNode::CanCopy},
+    {"CanDelete", 0x20, &CNavNode::CanDelete},
+    {"CanLink", 0x4, &CNavNode::CanLink},
+    {"CanMove", 0x2, &CNavNode::CanMove},
+    {"CanRename", 0x10, &CNavNode::CanRename},
+    {"HasSubFolder", 0x80000000, &CNavNode::HasSubFolder},
+    {"HasPropSheet", 0x40, &CNavNode::HasPropSheet},
+    {"IsDropTarget", 0x100, &CNavNode::IsDropTarget},
+    {"IsFileSystemAncestor", 0x10000000, &CNavNode::IsFileSystemAncestor},
+    {"IsFolder", 0x20000000, &CNavNode::IsFolder},
+    {"IsGhosted", 0x8000, &CNavNode::IsGhosted},
+    {"IsInFileSystem", 0x40000000, &CNavNode::IsInFileSystem},
+    {"IsLink", 0x10000, &CNavNode::IsLink},
+    {"IsOnRemovableMedia", 0x2000000, &CNavNode::IsOnRemovableMedia},
+    {"IsShared", 0x20000, &CNavNode::IsShared},
+};
+
+TEST_F(NavNode, EachShellAttributeSetsItsFlagOnly) {
+    const auto folder = FakeFolder::make(L"root");
+    const auto nameOf = [](const Flag& flag) { return std::wstring(flag.name, flag.name + std::strlen(flag.name)); };
+    for (const Flag& flag : kFlags) {
+        folder->add(nameOf(flag), flag.shell);
+    }
+    const auto parent = nodeOver(folder);
+    for (const Flag& asked : kFlags) {
+        CNavNode child(m_shell);
+        child.SetParent(parent.get());
+        child.SetID(FakeFolder::item(nameOf(asked)).release());
+        ASSERT_TRUE(child.GetAttributes());
+        for (const Flag& flag : kFlags) {
+            EXPECT_EQ((child.*flag.get)() != 0, &flag == &asked) << asked.name << " sets " << flag.name;
+        }
+    }
+}
+
+TEST_F(NavNode, FailedAttributeQueryLeavesTheFlags) {
+    const auto folder = FakeFolder::make(L"root");
+    folder->add(L"item", SFGAO_FOLDER);
+    const auto parent = nodeOver(folder);
+    CNavNode child(m_shell);
+    child.SetParent(parent.get());
+    child.SetID(FakeFolder::item(L"item").release());
+    ASSERT_TRUE(child.GetAttributes());
+    folder->set(FolderCall::GetAttributesOf, Conduct::Faults);
+    EXPECT_FALSE(child.GetAttributes());
+    EXPECT_TRUE(child.IsFolder());
+    CNavNode alone(m_shell);
+    EXPECT_FALSE(alone.GetAttributes()) << "without a folder there is nobody to ask";
+}
+
+TEST_F(NavNode, ExtensionRootIsAFolderWithoutAPath) {
+    const auto folder = FakeFolder::make(L"root");
+    folder->add(L"item", SFGAO_CANRENAME | SFGAO_FILESYSTEM | SFGAO_CANCOPY);
+    const auto parent = nodeOver(folder);
+    CNavNode root(m_shell);
+    root.SetParent(parent.get());
+    root.SetID(FakeFolder::item(L"item").release());
+    root.SetType(NavNodeExtensionRoot);
+    ASSERT_TRUE(root.GetAttributes());
+    EXPECT_TRUE(root.CanCopy());
+    EXPECT_FALSE(root.CanRename());
+    EXPECT_FALSE(root.IsInFileSystem());
+    EXPECT_TRUE(root.IsFileSystemAncestor());
+    EXPECT_TRUE(root.IsFolder());
+}
+
+TEST_F(NavNode, ExpandingShowsWhatHasAPathAndEverythingOfAnExtension) {
+    constexpr DWORD folderFlags = SFGAO_FOLDER | SFGAO_FILESYSTEM;
+    const auto folder = FakeFolder::make(L"root");
+    folder->add(L"on disk", folderFlags, FakeFolder::make(L"1"))
+        .add(L"above a disk", SFGAO_FOLDER | SFGAO_FILESYSANCESTOR, FakeFolder::make(L"2"))
+        .add(L"virtual", SFGAO_FOLDER, FakeFolder::make(L"3"))
+        .add(L"not to be bound", folderFlags)
+        .add(L"file", SFGAO_FILESYSTEM)
+        .add(L"virtual file", 0);
+    struct Row {
+        const char* why;
+        NavNodeType type;
+        int foldersOnly;
+        std::vector<CString> shown;
+        NavNodeType childType;
+    };
+    const Row rows[] = {
+        {"folders of the shell", NavNodeShell, 1, {L"on disk", L"above a disk"}, NavNodeShell},
+        {"items of the shell", NavNodeShell, 0, {L"on disk", L"above a disk", L"file"}, NavNodeShell},
+        {"sites of an extension",
+         NavNodeExtensionRoot,
+         1,
+         {L"on disk", L"above a disk", L"virtual"},
+         NavNodeExtensionSite},
+        {"items of an extension",
+         NavNodeExtensionSite,
+         0,
+         {L"on disk", L"above a disk", L"virtual", L"file", L"virtual file"},
+         NavNodeExtensionItem},
+        {"internet sites", NavNodeInternetRoot, 1, {L"on disk", L"above a disk"}, NavNodeInternetSite},
+        {"internet items", NavNodeInternetSite, 1, {L"on disk", L"above a disk"}, NavNodeInternetItem},
+        {"sites of the Web Folders",
+         NavNodeWebFoldersRoot,
+         1,
+         {L"on disk", L"above a disk", L"virtual"},
+         NavNodeWebFolderSite},
+        {"deeper Web Folders",
+         NavNodeWebFolderItem,
+         1,
+         {L"on disk", L"above a disk", L"virtual"},
+         NavNodeWebFolderItem},
+    };
+    for (const Row& row : rows) {
+        const auto node = nodeOver(folder, row.type);
+        node->SetExtensionName(L"Foo");
+        ASSERT_TRUE(node->ExpandFolder(nullptr, row.foldersOnly, SHCONTF_FOLDERS)) << row.why;
+        EXPECT_EQ(childNames(*node), row.shown) << row.why;
+        for (const CNavNode* child = node->GetChild(); child != nullptr; child = child->GetNext()) {
+            EXPECT_EQ(child->GetType(), row.childType) << row.why;
+            EXPECT_STREQ(child->GetExtensionName(), L"Foo") << row.why;
+            EXPECT_EQ(child->GetFolder() != nullptr, child->IsFolder() != 0) << row.why;
+            EXPECT_EQ(child->GetParent(), node.get()) << row.why;
+        }
+    }
+    folder->set(FolderCall::EnumObjects, Conduct::Fails);
+    EXPECT_FALSE(nodeOver(folder)->ExpandFolder(nullptr, 1, SHCONTF_FOLDERS));
+}
+
+TEST_F(NavNode, ChainHasANodeForEachElement) {
+    const auto leaf = FakeFolder::make(L"leaf");
+    const auto middle = FakeFolder::make(L"middle");
+    const auto root = FakeFolder::make(L"root");
+    leaf->add(L"file", 0);
+    middle->add(L"leaf", SFGAO_FOLDER, leaf).add(L"broken", SFGAO_FOLDER);
+    root->add(L"middle", SFGAO_FOLDER, middle);
+    const auto node = nodeOver(root, NavNodeExtensionRoot);
+    node->SetExtensionName(L"Foo");
+
+    CNavNode* first = nullptr;
+    CNavNode* const last = node->ExpandNode(FakeFolder::item(L"middle/leaf/file").get(), &first);
+    ASSERT_NE(last, nullptr);
+    EXPECT_EQ(first, node->GetChild());
+    EXPECT_EQ(first->GetType(), NavNodeExtensionSite);
+    EXPECT_EQ(last->GetType(), NavNodeExtensionItem);
+    EXPECT_STREQ(last->GetExtensionName(), L"Foo");
+    EXPECT_EQ(last->GetParent()->GetFolder(), leaf.get());
+    EXPECT_EQ(last->GetFolder(), nullptr);
+    EXPECT_EQ(last->GetSiteNode(), first);
+
+    EXPECT_EQ(node->ExpandNode(FakeFolder::item(L"middle/broken").get(), nullptr), nullptr) << "cannot be bound";
+    EXPECT_EQ(node->ExpandNode(FakeFolder::item(L"middle/leaf/file/below").get(), nullptr), nullptr) << "no folder";
+    first = nullptr;
+    EXPECT_EQ(node->ExpandNode(nullptr, &first), nullptr);
+    EXPECT_EQ(node->ExpandNode(makeList({}).get(), &first), nullptr);
+    EXPECT_EQ(first, nullptr);
+}
+
+TEST_F(NavNode, FindingAddsOnlyBelowAMatch) {
+    const auto inner = FakeFolder::make(L"inner");
+    const auto outer = FakeFolder::make(L"outer");
+    const auto root = FakeFolder::make(L"root");
+    inner->add(L"leaf", SFGAO_FILESYSTEM);
+    outer->add(L"inner", SFGAO_FOLDER | SFGAO_FILESYSTEM, inner);
+    root->add(L"other", SFGAO_FOLDER | SFGAO_FILESYSTEM, FakeFolder::make(L"other"))
+        .add(L"outer", SFGAO_FOLDER | SFGAO_FILESYSTEM, outer);
+    const auto node = nodeOver(root);
+    ASSERT_TRUE(node->ExpandFolder(nullptr, 1, SHCONTF_FOLDERS));
+    CNavNode* const children = node->GetChild();
+    const ItemList path = FakeFolder::item(L"outer/inner/leaf");
+
+    CNavNode* first = nullptr;
+    EXPECT_EQ(children->FindItemList(FakeFolder::item(L"outer").get()), children->GetNext());
+    EXPECT_EQ(children->FindItemList(path.get()), nullptr);
+    EXPECT_EQ(children->FindOrAddItemList(FakeFolder::item(L"missing/inner").get(), 1, &first), nullptr);
+    EXPECT_EQ(children->FindItemList(nullptr), nullptr);
+    EXPECT_EQ(first, nullptr);
+
+    CNavNode* const leaf = children->FindOrAddItemList(path.get(), 1, &first);
+    ASSERT_NE(leaf, nullptr);
+    EXPECT_EQ(first, children->GetNext()->GetChild()) << "the match was there already";
+    EXPECT_EQ(leaf->GetParent(), first);
+    EXPECT_EQ(children->FindItemList(path.get()), leaf);
+    first = nullptr;
+    EXPECT_EQ(children->FindOrAddItemList(path.get(), 1, &first), leaf);
+    EXPECT_EQ(first, nullptr) << "nothing was made the second time";
+}
+
+TEST_F(NavNode, QualifiedListIsThePathFromTheRoot) {
+    const auto node = nodeOver(FakeFolder::make(L"root"));
+    CNavNode* const child = node->AddChild(nullptr);
+    child->SetID(makeList({"child"}).release());
+    EXPECT_THAT(ItemList::adopt(child->CalculateQualifiedItemList()).get(),
+                HoldsSameBytes(makeList({"parent", "child"}).get()));
+    CNavNode* const qualified = child->AddChild(nullptr);
+    qualified->SetID(makeList({"x", "y"}).release());
+    EXPECT_THAT(ItemList::adopt(qualified->CalculateQualifiedItemList()).get(),
+                HoldsSameBytes(makeList({"x", "y"}).get()));
+}
+
+TEST_F(NavNode, NameOfAnExtensionRootIsThatOfItsFolder) {
+    RegisteredForTest registered;
+    CNavExtension& extension = registered.add(L"Foo");
+    extension.SetRootFolderDisplayName(L"Foo sites");
+    const auto root = nodeOver(FakeFolder::make(L"what the folder says"), NavNodeExtensionRoot);
+    CString name;
+    EXPECT_TRUE(root->GetNameInFolder(name));
+    EXPECT_EQ(name, L"what the folder says");
+    EXPECT_EQ(root->FindName(L"WHAT the folder says"), root.get());
+    EXPECT_EQ(root->FindName(L"what"), nullptr);
+    const auto deferred = nodeOver({}, NavNodeExtensionRoot);
+    EXPECT_FALSE(deferred->GetNameInFolder(name));
+    deferred->SetExtensionName(L"foo");
+    EXPECT_TRUE(deferred->GetNameInFolder(name));
+    EXPECT_EQ(name, L"Foo sites");
+}
+
+TEST_F(NavNode, FtpIsAskedOfTheRegisteredExtension) {
+    CNavNode node(m_shell);
+    node.SetExtensionName(L"ftpsites");
+    EXPECT_FALSE(node.IsFTP()) << "no such extension";
+    RegisteredForTest registered;
+    CNavExtension& ftp = registered.add(L"FTPSites");
+    registered.add(L"Other");
+    EXPECT_TRUE(node.IsFTP());
+    EXPECT_TRUE(node.IsFTPRoot());
+    EXPECT_EQ(node.GetExtension(), &ftp);
+    node.SetExtensionName(L"Other");
+    EXPECT_FALSE(node.IsFTP());
+    node.SetExtensionName(nullptr);
+    EXPECT_EQ(node.GetExtension(), nullptr);
+}
+
+TEST_F(NavNode, IconComesFromTheExtractorOrFromTheModuleItNames) {
+    wchar_t shellModule[MAX_PATH];
+    GetModuleFileNameW(GetModuleHandleW(L"shell32.dll"), shellModule, MAX_PATH);
+    struct Row {
+        const char* why;
+        FakeIcon icon;
+        bool found;
+    };
+    const Row rows[] = {
+        {"extracted", {L"", 0, S_OK}, true},
+        {"left to the caller", {shellModule, 1, S_FALSE}, true},
+        {"extraction failed", {shellModule, 1, E_FAIL}, true},
+        {"no such icon", {shellModule, 31'000, E_FAIL}, false},
+        {"no such module", {L"C:\\missing.dll", 1, E_FAIL}, false},
+        {"no module", {L"", 0, E_FAIL}, false},
+    };
+    const auto folder = FakeFolder::make(L"root");
+    const auto parent = nodeOver(folder);
+    const auto takeIcons = [&] {
+        for (const Row& row : rows) {
+            folder->setIcon(row.icon);
+            CNavNode child(m_shell);
+            child.SetParent(parent.get());
+            child.SetID(FakeFolder::item(L"item").release());
+            child.SetType(NavNodeExtensionSite);
+            child.SetIcon();
+            child.SetIcon();
+            EXPECT_EQ(child.GetIcon() != nullptr, row.found) << row.why;
+            EXPECT_FALSE(folder->askedForItself()) << row.why;
+        }
+    };
+    takeIcons();
+    const ObjectCounts before = ObjectCounts::now();
+    takeIcons();
+    EXPECT_EQ(ObjectCounts::now(), before);
+    const auto root = nodeOver(folder, NavNodeExtensionRoot);
+    root->SetIcon();
+    EXPECT_TRUE(folder->askedForItself());
+}
+
+TEST_F(NavNode, IconOfAnOrdinaryItemIsTheShells) {
+    CNavNode node(m_shell);
+    ITEMIDLIST* list = nullptr;
+    ASSERT_EQ(SHGetSpecialFolderLocation(nullptr, CSIDL_DRIVES, &list), S_OK);
+    node.SetID(list);
+    node.SetIcon();
+    EXPECT_NE(node.GetIcon(), nullptr);
+    RegisteredForTest registered;
+    registered.add(L"FTPSites");
+    CNavNode item(m_shell);
+    item.SetType(NavNodeExtensionItem);
+    item.SetExtensionName(L"FTPSites");
+    item.SetIcon();
+    EXPECT_NE(item.GetIcon(), nullptr) << "the closed folder";
+}
+
+TEST_F(NavNode, InitializeForgetsWithoutFreeing) {
+    const auto folder = FakeFolder::make(L"root");
+    CNavNode node(m_shell);
+    const ItemList id = makeList({"x"});
+    node.SetID(id.get());
+    node.SetFolder(folder.get());
+    node.SetType(NavNodeInternetItem);
+    node.SetIndent(3);
+    node.SetDisplayNode(&node);
+    node.SetExtensionName(L"Foo");
+    node.Initialize();
+    EXPECT_EQ(node.GetID(), nullptr);
+    EXPECT_EQ(node.GetFolder(), nullptr);
+    EXPECT_EQ(node.GetType(), NavNodeShell);
+    EXPECT_EQ(node.GetIndent(), 0);
+    EXPECT_EQ(node.GetDisplayNode(), nullptr);
+    EXPECT_STREQ(node.GetExtensionName(), L"Foo");
+}
+
+TEST_F(NavNode, DestructionFreesEverythingBelowAndBehind) {
+    const auto folder = FakeFolder::make(L"root");
+    expectNoTaskMemoryLeft([&] {
+        const auto node = nodeOver(folder);
+        for (int index = 0; index < 20'000; ++index) {
+            CNavNode* const child = new CNavNode(m_shell);
+            child->SetNext(node->GetChild());
+            child->SetID(makeList({"x"}).release());
+            node->SetChild(child);
+        }
+    });
+    EXPECT_EQ(folder->references(), 1);
+}
+
+}  // namespace

@@ -1,0 +1,284 @@
+#include <knav/CNavTree.h>
+
+#include <gtest/gtest.h>
+#include <knav/CNavExtensionPolicy.h>
+#include <knav/NavFolders.h>
+#include <knav/NavNames.h>
+#include <platform/CWnd.h>
+
+#include "shell/ComPtr.h"
+#include "support/ItemLists.h"
+#include "support/ObjectCounts.h"
+#include "support/ScopedTempFolder.h"
+#include "support/ScratchHive.h"
+#include "support/TestExtension.h"
+
+namespace {
+
+using namespace knav;
+using namespace knav::test;
+
+ItemList parsed(const wchar_t* path) {
+    ITEMIDLIST* list = nullptr;
+    return SUCCEEDED(SHParseDisplayName(path, nullptr, &list, 0, nullptr)) ? ItemList::adopt(list) : ItemList();
+}
+
+int countNodes(const CNavTree& tree) {
+    int count = 0;
+    for (CNavNode* node = tree.GetRootNode(); node != nullptr; node = CNavNode::EnumerateNextNode(node)) {
+        ++count;
+    }
+    return count;
+}
+
+CNavNode* find(const CNavTree& tree, const ItemList& list) {
+    CNavNode* const first = tree.GetRootNode()->GetChild();
+    return first != nullptr ? first->FindItemList(list.get()) : nullptr;
+}
+
+// The folders with a path that a folder enumerates, by their parsing names: what the tree should show of it.
+std::vector<CString> systemFolders(int csidl) {
+    std::vector<CString> names;
+    const auto list = ItemList::adopt(NavGetSpecialFolderItem(nullptr, csidl));
+    const auto folder = ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(list.get()));
+    const auto items = ComPtr<IEnumIDList>::from(
+        [&](IEnumIDList** result) { return folder->EnumObjects(nullptr, SHCONTF_FOLDERS, result); });
+    ITEMIDLIST* item = nullptr;
+    while (items->Next(1, &item, nullptr) == S_OK) {
+        const ItemList owned = ItemList::adopt(item);
+        const ITEMIDLIST* asked = item;
+        SFGAOF attributes = SFGAO_FOLDER | SFGAO_FILESYSTEM | SFGAO_FILESYSANCESTOR;
+        folder->GetAttributesOf(1, &asked, &attributes);
+        if ((attributes & SFGAO_FOLDER) != 0 && (attributes & (SFGAO_FILESYSTEM | SFGAO_FILESYSANCESTOR)) != 0) {
+            CString name;
+            NavGetItemNameForParsing(folder.get(), item, name);
+            names.push_back(name);
+        }
+    }
+    return names;
+}
+
+std::vector<CString> childNames(const CNavNode& node) {
+    std::vector<CString> names;
+    for (const CNavNode* child = node.GetChild(); child != nullptr; child = child->GetNext()) {
+        CString name;
+        child->GetNameForParsing(name);
+        names.push_back(name);
+    }
+    return names;
+}
+
+class NavTree : public testing::Test {
+protected:
+    CString makeLink(const wchar_t* name, const CString& target) {
+        const CString path = m_temp.path(name);
+        const auto link = createInProcess<IShellLinkW>(CLSID_ShellLink);
+        const auto file = link.as<IPersistFile>();
+        EXPECT_TRUE(SUCCEEDED(link->SetPath(target)) && SUCCEEDED(file->Save(path, TRUE)));
+        return path;
+    }
+
+    RegisteredForTest m_registered;
+    ScopedTempFolder m_temp;
+    CString m_deep = m_temp.addFolder(L"one\\two\\three \u00c4");
+    CString m_other = m_temp.addFolder(L"other");
+    CNavTree m_tree;
+};
+
+TEST_F(NavTree, StandardHierarchyHasTheDesktopsFoldersAndTheDrives) {
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, nullptr));
+    const CNavNode* const root = m_tree.GetRootNode();
+    ASSERT_NE(root, nullptr);
+    EXPECT_TRUE(NavIsDesktop(root->GetID()));
+    EXPECT_EQ(childNames(*root), systemFolders(CSIDL_DESKTOP));
+    const CNavNode* const drives = find(m_tree, ItemList::adopt(NavGetDrivesFolderItem(nullptr)));
+    ASSERT_NE(drives, nullptr);
+    EXPECT_EQ(childNames(*drives), systemFolders(CSIDL_DRIVES));
+    EXPECT_NE(find(m_tree, parsed(L"C:\\")), nullptr);
+    for (const CNavNode* node = root->GetChild(); node != nullptr; node = node->GetNext()) {
+        EXPECT_NE(node->GetFolder(), nullptr);
+        EXPECT_NE(node->GetIcon(), nullptr);
+    }
+}
+
+TEST_F(NavTree, OnlyTheLastLocationKeepsItsChain) {
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, nullptr));
+    const int standard = countNodes(m_tree);
+    const ItemList deep = parsed(m_deep);
+    const ItemList other = parsed(m_other);
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, deep.get()));
+    const CNavNode* const node = find(m_tree, deep);
+    ASSERT_NE(node, nullptr);
+    CString name;
+    EXPECT_TRUE(node->GetNameForParsing(name));
+    EXPECT_EQ(name, m_deep);
+    EXPECT_TRUE(ILIsEqual(ItemList::adopt(node->CalculateQualifiedItemList()).get(), deep.get()));
+    EXPECT_NE(node->GetFolder(), nullptr);
+
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, other.get()));
+    EXPECT_EQ(find(m_tree, deep), nullptr);
+    EXPECT_NE(find(m_tree, other), nullptr);
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, parsed(L"C:\\").get()));
+    EXPECT_EQ(countNodes(m_tree), standard) << "a drive is there already";
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, makeList({}).get()));
+    EXPECT_EQ(countNodes(m_tree), standard);
+}
+
+TEST_F(NavTree, ShortcutToAFolderLeadsToItsTarget) {
+    const ItemList link = parsed(makeLink(L"short.lnk", m_other));
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, link.get()));
+    EXPECT_NE(find(m_tree, parsed(m_other)), nullptr);
+    EXPECT_EQ(find(m_tree, link), nullptr);
+    const CNavNode* const node = m_tree.BuildSimpleHierarchy(nullptr, link.get());
+    ASSERT_NE(node, nullptr);
+    EXPECT_TRUE(ILIsEqual(ItemList::adopt(node->CalculateQualifiedItemList()).get(), parsed(m_other).get()));
+}
+
+TEST_F(NavTree, SimpleHierarchyIsOneChain) {
+    const ItemList deep = parsed(m_deep);
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, deep.get()));
+    const CNavNode* const node = m_tree.BuildSimpleHierarchy(nullptr, deep.get());
+    ASSERT_NE(node, nullptr);
+    EXPECT_EQ(countNodes(m_tree), 1 + measureList(deep.get()).count);
+    EXPECT_EQ(m_tree.GetRootNode()->GetLastChild(), node);
+    EXPECT_EQ(m_tree.BuildSimpleHierarchy(nullptr, makeList({}).get()), m_tree.GetRootNode());
+    EXPECT_EQ(countNodes(m_tree), 1);
+    EXPECT_EQ(m_tree.BuildSimpleHierarchy(nullptr, nullptr), nullptr);
+    EXPECT_EQ(m_tree.GetRootNode(), nullptr);
+}
+
+TEST_F(NavTree, ExpandingNeedsARoot) {
+    EXPECT_TRUE(m_tree.ExpandToItem(nullptr, parsed(m_deep).get()));
+    EXPECT_EQ(m_tree.GetRootNode(), nullptr);
+    m_tree.Dump();
+}
+
+class PolicyWindow : public CWnd, public CNavExtensionPolicy {
+public:
+    explicit PolicyWindow(int leavesOut) : m_leavesOut(leavesOut) {}
+    int LeavesOutDisabledExtensions() const override { return m_leavesOut; }
+
+private:
+    int m_leavesOut;
+};
+
+TEST_F(NavTree, ExtensionsFollowTheDesktopsFoldersUnlessHidden) {
+    const auto folder = FakeFolder::make(L"root");
+    m_registered.add(L"FTPSites", folder);
+    m_registered.add(L"Foo", folder);
+    m_registered.add(L"ftpsites", folder);
+    const std::size_t ordinary = systemFolders(CSIDL_DESKTOP).size();
+    struct Row {
+        int hideFtp, hideExtensions;
+        std::vector<CString> shown;
+    };
+    const Row rows[] = {
+        {0, 0, {L"FTPSites", L"Foo", L"ftpsites"}},
+        {1, 0, {L"Foo"}},
+        {0, 1, {L"FTPSites", L"ftpsites"}},
+        {1, 1, {}},
+    };
+    for (const Row& row : rows) {
+        CNavTree tree;
+        ASSERT_TRUE(tree.BuildStandardHierarchy(nullptr, nullptr, row.hideFtp, row.hideExtensions, nullptr));
+        std::vector<CString> shown;
+        std::size_t index = 0;
+        for (const CNavNode* node = tree.GetRootNode()->GetChild(); node != nullptr; node = node->GetNext()) {
+            if (index++ >= ordinary) {
+                EXPECT_EQ(node->GetType(), NavNodeExtensionRoot);
+                EXPECT_EQ(node->GetFolder(), folder.get());
+                EXPECT_EQ(node->GetParent(), tree.GetRootNode());
+                shown.push_back(node->GetExtensionName());
+            }
+        }
+        EXPECT_EQ(shown, row.shown) << row.hideFtp << row.hideExtensions;
+    }
+}
+
+TEST_F(NavTree, DeferredExtensionIsShownWithoutItsFolder) {
+    m_registered.add(L"cannot be loaded");
+    m_registered.add(L"FTPSites").SetDelayInit(1);
+    m_registered.add(L"later").SetDelayInit(2);
+    CNavNode desktop(m_tree);
+    EXPECT_EQ(m_tree.AddExtensionsToDesktop(nullptr, &desktop), 2);
+    const CNavNode* const ftp = desktop.GetChild();
+    ASSERT_NE(ftp, nullptr);
+    EXPECT_STREQ(ftp->GetExtensionName(), L"FTPSites");
+    EXPECT_EQ(ftp->GetFolder(), nullptr);
+    EXPECT_STREQ(ftp->GetNext()->GetExtensionName(), L"later");
+    EXPECT_THAT(ftp->GetID(), HoldsSameBytes(registeredExtensions().GetData(1)->GetID()));
+    EXPECT_EQ(m_tree.AddExtensionsToDesktop(nullptr, nullptr), 0);
+}
+
+TEST_F(NavTree, DisabledExtensionIsLeftOutWhenTheDialogSaysSo) {
+    const auto folder = FakeFolder::make(L"root");
+    m_registered.add(L"Foo", folder);
+    ScratchHive machine(HKEY_LOCAL_MACHINE);
+    machine.set(L"Software\\Kelvara\\Dialogs\\AllNavDialogs", L"FooExtensionOff", 1);
+    PolicyWindow leavesOut(1);
+    PolicyWindow keeps(0);
+    CWnd other;
+    CNavNode desktop(m_tree);
+    EXPECT_EQ(m_tree.AddExtensionsToDesktop(&leavesOut, &desktop), 0);
+    EXPECT_EQ(m_tree.AddExtensionsToDesktop(&keeps, &desktop), 1);
+    EXPECT_EQ(m_tree.AddExtensionsToDesktop(&other, &desktop), 1);
+    EXPECT_EQ(m_tree.AddExtensionsToDesktop(nullptr, &desktop), 1);
+}
+
+TEST_F(NavTree, LocationInsideAnExtensionGetsItsChain) {
+    const auto site = FakeFolder::make(L"site");
+    const auto root = FakeFolder::make(L"root");
+    site->add(L"folder", SFGAO_FOLDER, FakeFolder::make(L"folder"));
+    root->add(L"site", SFGAO_FOLDER, site);
+    const CNavExtension& extension = m_registered.add(L"Foo", root);
+    const ItemList location = ItemList::join(extension.GetID(), FakeFolder::item(L"site/folder").get());
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, location.get()));
+    CNavNode* const node = find(m_tree, location);
+    ASSERT_NE(node, nullptr);
+    EXPECT_EQ(node->GetType(), NavNodeExtensionItem);
+    EXPECT_EQ(node->GetSiteNode()->GetFolder(), site.get());
+    EXPECT_THAT(ItemList::adopt(node->CalculateQualifiedItemList()).get(), HoldsSameBytes(location.get()));
+}
+
+TEST_F(NavTree, DeletingTakesTheFollowingSiblingsAndTheChainAlong) {
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, parsed(m_deep).get()));
+    CNavNode* const drives = find(m_tree, ItemList::adopt(NavGetDrivesFolderItem(nullptr)));
+    m_tree.DeleteNode(drives->GetChild());
+    EXPECT_EQ(drives->GetChild(), nullptr);
+    // The chain went with its drive and is not deleted a second time.
+    ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, parsed(m_deep).get()));
+    m_tree.DeleteNode(nullptr);
+    m_tree.DeleteNode(m_tree.GetRootNode());
+    EXPECT_EQ(m_tree.GetRootNode(), nullptr);
+}
+
+TEST_F(NavTree, NodesAreAddedByHandToo) {
+    CNavNode* const root = m_tree.AddChild(nullptr);
+    EXPECT_EQ(m_tree.GetRootNode(), root);
+    CNavNode* const child = m_tree.AddChild(nullptr);
+    EXPECT_EQ(child->GetParent(), root);
+    CNavNode* const sibling = m_tree.AddNode(nullptr);
+    EXPECT_EQ(m_tree.GetRootNode(), root);
+    EXPECT_EQ(root->GetNext(), sibling);
+}
+
+TEST_F(NavTree, NothingIsLeftBehind) {
+    const auto folder = FakeFolder::make(L"root");
+    m_registered.add(L"Foo", folder);
+    const LONG references = folder->references();
+    const ItemList deep = parsed(m_deep);
+    const ItemList other = parsed(m_other);
+    const auto use = [&] {
+        CNavTree tree;
+        tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, deep.get());
+        tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, other.get());
+        tree.BuildSimpleHierarchy(nullptr, deep.get());
+    };
+    use();
+    const ObjectCounts before = ObjectCounts::now();
+    use();
+    EXPECT_EQ(ObjectCounts::now(), before);
+    EXPECT_EQ(folder->references(), references);
+}
+
+}  // namespace
