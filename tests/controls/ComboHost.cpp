@@ -3,7 +3,7 @@
 namespace knav::test {
 
 ComboHost::ComboHost() {
-    window.Create(nullptr, L"host", WS_OVERLAPPEDWINDOW, {0, 0, 400, 400}, nullptr, 0);
+    window.CreateEx(0, nullptr, L"host", WS_OVERLAPPEDWINDOW, {0, 0, 400, 400}, nullptr, 0);
 }
 
 BOOL ComboHost::Window::OnCommand(WPARAM wParam, LPARAM lParam) {

@@ -43,7 +43,7 @@ bool RecordingOwner::findLogin(const CString& siteName, CString& user, CString& 
 }
 
 ViewHost::ViewHost() {
-    owner.Create(nullptr, L"owner", WS_OVERLAPPEDWINDOW, {0, 0, 640, 480}, nullptr, 0);
+    owner.CreateEx(0, nullptr, L"owner", WS_OVERLAPPEDWINDOW, {0, 0, 640, 480}, nullptr, 0);
     buddy.Create(WC_STATICW, L"", WS_CHILD, {10, 20, 410, 320}, &owner, 13001);
     browser.SetViewWindow(&viewWindow);
     browser.SetListCtrl(&listCtrl);
