@@ -68,7 +68,7 @@ int CNavDialogImp::validateDrive(const CString& name) {
         return 1;
     }
     knav::showMessage(problem, *drive);
-    selectFileNameText();
+    refuseFileName();
     return 0;
 }
 

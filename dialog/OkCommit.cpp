@@ -49,7 +49,7 @@ int CNavDialogImp::commitParsed(CNavData& item, CNavPathname& path, CNavNode* no
             return 0;
         case CZoUiPathname::Invalid:
             knav::showMessage(IDS_KNAV_INVALID_PATH, item.GetText());
-            selectFileNameText();
+            refuseFileName();
             return 0;
         default:
             return 0;

@@ -84,7 +84,7 @@ int CNavDialogImp::OnFileNameOK() {
         return 0;
     }
     if (asksBeforeReplacing && !m_facade.VerifyURLSave()) {
-        selectFileNameText();
+        refuseFileName();
         return 0;
     }
     if (!CommitFileNameEdit()) {
@@ -96,7 +96,7 @@ int CNavDialogImp::OnFileNameOK() {
         return 0;
     }
     if (isRemoteType(first->GetDataType()) && !m_options.foldersOnly && !m_facade.OnUrlOK()) {
-        selectFileNameText();
+        refuseFileName();
         return 0;
     }
     first = m_data.GetData(0);
