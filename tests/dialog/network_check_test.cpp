@@ -1,0 +1,152 @@
+#include "dialog/NetworkCheck.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <mutex>
+
+#include "support/Printers.h"
+
+namespace knav {
+namespace {
+
+struct SplitRow {
+    const char* why;
+    const wchar_t* text;
+    NetworkPlace place;
+    const wchar_t* server;
+    const wchar_t* share;
+};
+
+constexpr SplitRow kSplitRows[] = {
+    {"a server", L"\\\\srv", NetworkPlace::Server, L"\\\\srv", L""},
+    {"a server with a separator at its end", L"\\\\srv\\", NetworkPlace::Server, L"\\\\srv", L""},
+    {"a share", L"\\\\srv\\plans", NetworkPlace::Share, L"\\\\srv", L"plans"},
+    {"a share with separators at its end", L"\\\\srv\\plans\\\\", NetworkPlace::Share, L"\\\\srv", L"plans"},
+    {"a path", L"\\\\srv\\plans\\a\\b.dwg", NetworkPlace::Path, L"\\\\srv", L"plans"},
+    {"nothing behind the backslashes", L"\\\\", NetworkPlace::None, L"", L""},
+    {"three backslashes", L"\\\\\\srv", NetworkPlace::None, L"", L""},
+    {"a local path", L"C:\\plans", NetworkPlace::None, L"", L""},
+    {"nothing", L"", NetworkPlace::None, L"", L""},
+};
+
+TEST(NetworkCheck, SplitNetworkName_TellsServerShareAndPath) {
+    for (const SplitRow& row : kSplitRows) {
+        SCOPED_TRACE(row.why);
+        const NetworkName name = splitNetworkName(row.text);
+        EXPECT_EQ(name.place, row.place);
+        EXPECT_EQ(name.server, row.server);
+        EXPECT_EQ(name.share, row.share);
+    }
+}
+
+/// A network with one answer for everything, which notes what was asked.
+class FakeNetwork : public NetworkProbe {
+public:
+    explicit FakeNetwork(unsigned long error, std::wstring message = {})
+        : m_error(error), m_message(std::move(message)) {}
+
+    unsigned long server(const std::wstring& server, std::wstring& message) override {
+        return note(L"server " + server, message);
+    }
+    unsigned long share(const std::wstring& server, const std::wstring& share, std::wstring& message) override {
+        return note(L"share " + server + L" " + share, message);
+    }
+    unsigned long path(const std::wstring& path, std::wstring& message) override {
+        return note(L"path " + path, message);
+    }
+    std::wstring asked() const { return m_asked; }
+
+private:
+    unsigned long note(std::wstring question, std::wstring& message) {
+        m_asked = std::move(question);
+        message = m_message;
+        return m_error;
+    }
+
+    const unsigned long m_error;
+    const std::wstring m_message;
+    std::wstring m_asked;
+};
+
+TEST(NetworkCheck, ReachableLocation_IsAskedForByItsKind) {
+    const std::pair<const wchar_t*, const wchar_t*> rows[] = {
+        {L"\\\\srv", L"server \\\\srv"},
+        {L" \\\\srv\\plans ", L"share \\\\srv plans"},
+        {L"\\\\srv\\plans\\a.dwg", L"path \\\\srv\\plans\\a.dwg"},
+    };
+    for (const auto& [name, question] : rows) {
+        FakeNetwork network(NO_ERROR);
+        EXPECT_TRUE(checkNetworkLocation(network, name).reachable) << test::utf8(name);
+        EXPECT_EQ(network.asked(), question);
+    }
+}
+
+TEST(NetworkCheck, RefusedLocation_TellsInvalidNamesFromUnreachableOnes) {
+    struct Row {
+        const char* why;
+        unsigned long error;
+        bool invalidName;
+    };
+    constexpr Row rows[] = {
+        {"no such name", ERROR_BAD_NET_NAME, true},     {"a name that cannot be", ERROR_INVALID_NAME, true},
+        {"no such server", ERROR_BAD_NETPATH, false},   {"no permission", ERROR_ACCESS_DENIED, false},
+        {"no network at all", ERROR_NO_NETWORK, false},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.why);
+        FakeNetwork network(row.error, L"in the network's words");
+        const NetworkAnswer answer = checkNetworkLocation(network, L"\\\\knav-no-such-server\\plans");
+        EXPECT_FALSE(answer.reachable);
+        EXPECT_EQ(answer.code == kNetworkNameInvalid, row.invalidName);
+        EXPECT_EQ(answer.message, L"in the network's words");
+    }
+}
+
+TEST(NetworkCheck, TextThatIsNoNetworkName_IsInvalidWithoutAsking) {
+    FakeNetwork network(NO_ERROR);
+    const NetworkAnswer answer = checkNetworkLocation(network, L"\\\\\\srv");
+    EXPECT_FALSE(answer.reachable);
+    EXPECT_EQ(answer.code, kNetworkNameInvalid);
+    EXPECT_EQ(network.asked(), L"");
+}
+
+/// Answers only when it is let go.
+class HangingNetwork : public FakeNetwork {
+public:
+    HangingNetwork() : FakeNetwork(NO_ERROR), m_letGo(CreateEventW(nullptr, TRUE, FALSE, nullptr)) {}
+    unsigned long server(const std::wstring& name, std::wstring& message) override {
+        WaitForSingleObject(m_letGo, INFINITE);
+        const unsigned long error = FakeNetwork::server(name, message);
+        m_answered = true;
+        return error;
+    }
+    void letGo() { SetEvent(m_letGo); }
+    bool answered() const { return m_answered; }
+
+private:
+    const HANDLE m_letGo;
+    std::atomic<bool> m_answered = false;
+};
+
+TEST(NetworkCheck, NetworkThatDoesNotAnswer_IsGivenUpInTime) {
+    static HangingNetwork network;  // the abandoned check still runs on it
+    const ULONGLONG start = GetTickCount64();
+    const NetworkAnswer answer = checkNetworkLocation(network, L"\\\\srv", 100);
+    const ULONGLONG took = GetTickCount64() - start;
+    EXPECT_FALSE(answer.reachable);
+    EXPECT_NE(answer.code, kNetworkNameInvalid);
+    EXPECT_GE(took, 90u);
+    EXPECT_LT(took, 2000u);
+
+    // The answer that comes too late has somewhere to go.
+    network.letGo();
+    for (int i = 0; i < 200 && !network.answered(); ++i) {
+        Sleep(10);
+    }
+    EXPECT_TRUE(network.answered());
+    Sleep(20);
+}
+
+}  // namespace
+}  // namespace knav
