@@ -64,7 +64,7 @@ ZOUI_UNPACK(WM_SETCURSOR, windowOf(static_cast<LPARAM>(c.wParam)), UINT(LOWORD(c
 ZOUI_UNPACK(WM_SETFOCUS, windowOf(static_cast<LPARAM>(c.wParam)))
 ZOUI_UNPACK(WM_SETTINGCHANGE, UINT(c.wParam), reinterpret_cast<const wchar_t*>(c.lParam))
 ZOUI_UNPACK(WM_SHOWWINDOW, BOOL(c.wParam), UINT(c.lParam))
-ZOUI_UNPACK(WM_SIZE, UINT(c.wParam), int(point.x), int(point.y))
+ZOUI_UNPACK(WM_SIZE, UINT(c.wParam), int(LOWORD(c.lParam)), int(HIWORD(c.lParam)))
 ZOUI_UNPACK(WM_SYSCOLORCHANGE)
 ZOUI_UNPACK(WM_SYSCOMMAND, UINT(c.wParam), c.lParam)
 ZOUI_UNPACK(WM_THEMECHANGED)

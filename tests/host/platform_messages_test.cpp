@@ -1,4 +1,6 @@
 // How messages and commands find their handlers: message maps, routing, reflection to the child.
+#include <platform/CButton.h>
+#include <platform/CComboBox.h>
 #include <platform/CEdit.h>
 #include <platform/CListBox.h>
 #include <platform/GdiOwners.h>
@@ -243,6 +245,63 @@ TEST(Reflection, OwnerDrawReachesTheListsOwnFunctions) {
     DRAWITEMSTRUCT item{ODT_LISTBOX, 6, 3, ODA_DRAWENTIRE, 0, list.m_hWnd, nullptr, kPlace, 0};
     EXPECT_EQ(parent.SendMessage(WM_DRAWITEM, 6, reinterpret_cast<LPARAM>(&item)), TRUE);
     EXPECT_THAT(list.log, ElementsAre("delete 10", "draw 3"));
+}
+
+class DrawnButton : public CButton {
+public:
+    UINT m_state = 0;
+    void DrawItem(DRAWITEMSTRUCT* item) override { m_state = item->itemState; }
+};
+
+class DrawnCombo : public CComboBox {
+public:
+    UINT m_drawn = 0;
+    void DrawItem(DRAWITEMSTRUCT* item) override { m_drawn = item->itemID; }
+    void MeasureItem(MEASUREITEMSTRUCT* item) override { item->itemHeight = 31; }
+};
+
+TEST(Reflection, OwnerDrawReachesButtonsAndComboBoxesToo) {
+    Parent parent;
+    DrawnButton button;
+    DrawnCombo combo;
+    button.Create(L"draw", BS_OWNERDRAW, kPlace, &parent, 7);
+    combo.Create(CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE, kPlace, &parent, 8);
+    DRAWITEMSTRUCT item{ODT_BUTTON, 7, 0, ODA_DRAWENTIRE, ODS_SELECTED, button.m_hWnd, nullptr, kPlace, 0};
+    EXPECT_EQ(parent.SendMessage(WM_DRAWITEM, 7, reinterpret_cast<LPARAM>(&item)), TRUE);
+    EXPECT_EQ(button.m_state, UINT{ODS_SELECTED});
+    item = {ODT_COMBOBOX, 8, 4, ODA_DRAWENTIRE, 0, combo.m_hWnd, nullptr, kPlace, 0};
+    EXPECT_EQ(parent.SendMessage(WM_DRAWITEM, 8, reinterpret_cast<LPARAM>(&item)), TRUE);
+    EXPECT_EQ(combo.m_drawn, 4u);
+    combo.AddString(L"tall");
+    EXPECT_EQ(combo.GetItemHeight(0), 31);
+}
+
+TEST(Reflection, MenuItemsAreNotTakenForControls) {
+    Parent parent;
+    DrawnCombo combo;
+    combo.Create(CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED, kPlace, &parent, 8);
+    MEASUREITEMSTRUCT item{ODT_MENU, 8, 8, 1, 2, 0};
+    parent.SendMessage(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item));
+    EXPECT_EQ(item.itemHeight, 2u);
+}
+
+TEST(Descendants, AllHearABroadcastAndNobodyElse) {
+    Parent parent;
+    Parent other;
+    CWnd child;
+    child.Create(nullptr, L"", 0, kPlace, &parent, 1);
+    CEdit grandchild;
+    grandchild.Create(0, kPlace, &child, 1);
+    CEdit stranger;
+    stranger.Create(0, kPlace, &other, 1);
+    parent.SendMessageToDescendants(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"heard"));
+    CString text;
+    grandchild.GetWindowText(text);
+    EXPECT_STREQ(text, L"heard");
+    stranger.GetWindowText(text);
+    EXPECT_STREQ(text, L"");
+    parent.GetWindowText(text);
+    EXPECT_STREQ(text, L"parent");
 }
 
 class Nested : public CWnd {
