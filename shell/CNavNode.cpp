@@ -31,6 +31,7 @@ void CNavNode::Initialize() {
     m_folder = nullptr;
     m_id = nullptr;
     m_icon = nullptr;
+    m_isIconDue = false;
     m_indent = 0;
     m_displayNode = nullptr;
     m_attributes = {};

@@ -18,8 +18,8 @@ bool pathOf(ITEMIDLIST* list, wchar_t (&path)[MAX_PATH]) {
 // The shortcut in the file that the list names; null when it is none.
 knav::ComPtr<IShellLinkW> loadLink(ITEMIDLIST* list) {
     wchar_t path[MAX_PATH];
-    if (!pathOf(list, path)) {
-        return nullptr;
+    if (!pathOf(list, path) || (GetFileAttributesW(path) & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        return nullptr;  // a folder, or a file that is missing: no need to make a link object for it
     }
     auto link = knav::createInProcess<IShellLinkW>(CLSID_ShellLink);
     const auto file = link.as<IPersistFile>();

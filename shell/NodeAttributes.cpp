@@ -48,12 +48,12 @@ zoui::UniqueIcon iconByType(const CNavNode& node) {
 
 }  // namespace
 
-bool CNavNode::readAttributes() {
+int CNavNode::GetAttributes() {
     IShellFolder* const parentFolder = GetParentFolder();
     IShellFolder* const folder = parentFolder != nullptr ? parentFolder : m_folder;
     const auto attributes = folder != nullptr ? knav::attributesOf(folder, m_id, kAttributeMask) : std::nullopt;
     if (!attributes) {
-        return false;
+        return 0;
     }
     setFrom(m_attributes, *attributes);
     if (m_type == NavNodeExtensionRoot) {  // the shell knows nothing of it: it is a folder and has no path
@@ -62,25 +62,28 @@ bool CNavNode::readAttributes() {
         m_attributes.isFileSystemAncestor = 1;
         m_attributes.isFolder = 1;
     }
-    return true;
-}
-
-int CNavNode::GetAttributes() {
-    if (!readAttributes()) {
-        return 0;
-    }
-    SetIcon();
+    m_isIconDue = true;
     return 1;
 }
 
 void CNavNode::SetIcon() {
-    zoui::UniqueIcon(std::exchange(m_icon, nullptr)).reset();
-    m_icon = knav::atApiEdge<HICON>(nullptr, [this] {
-        zoui::UniqueIcon icon = iconByType(*this);
-        if (!icon) {
-            const bool isRoot = m_type == NavNodeExtensionRoot;
-            icon = knav::extractedIcon(isRoot ? m_folder : GetParentFolder(), isRoot ? nullptr : m_id);
-        }
-        return icon.release();
-    });
+    m_isIconDue = true;
+    GetIcon();
+}
+
+HICON CNavNode::GetIcon() const {
+    if (std::exchange(m_isIconDue, false)) {
+        zoui::UniqueIcon(std::exchange(m_icon, nullptr)).reset();
+        m_icon = knav::atApiEdge<HICON>(nullptr, [this] { return takeIcon(); });
+    }
+    return m_icon;
+}
+
+HICON CNavNode::takeIcon() const {
+    zoui::UniqueIcon icon = iconByType(*this);
+    if (!icon) {
+        const bool isRoot = m_type == NavNodeExtensionRoot;
+        icon = knav::extractedIcon(isRoot ? m_folder : GetParentFolder(), isRoot ? nullptr : m_id);
+    }
+    return icon.release();
 }

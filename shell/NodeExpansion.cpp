@@ -82,13 +82,10 @@ CNavNode* CNavNode::appendEnumerated(ITEMIDLIST* item, bool alwaysShown, bool fo
     const auto joined = knav::ItemList::join(m_id, item);
     node->m_type = NavIsWebFoldersItem(joined.get()) ? NavNodeWebFoldersRoot : childType(m_type);
     node->SetExtensionName(m_extensionName);
-    const bool hasAttributes = node->readAttributes();
+    node->GetAttributes();
     const bool qualifies = (alwaysShown || isShown(*this, *node)) && (!foldersOnly || node->IsFolder());
     if (!qualifies || !node->bindAsFolder()) {
         return nullptr;
-    }
-    if (hasAttributes) {  // only now: most of the time of an item goes into its icon
-        node->SetIcon();
     }
     knav::appendChild(*this, *node);
     return node.release();

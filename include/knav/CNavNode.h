@@ -31,8 +31,9 @@ public:
     /// The item list relative to the parent's folder; owned by the node.
     ITEMIDLIST* GetID() const { return m_id; }
     void SetID(ITEMIDLIST* id) { m_id = id; }
-    /// The small icon, owned by the node; null when there is none.
-    HICON GetIcon() const { return m_icon; }
+    /// The small icon, owned by the node; null when there is none. The one that GetAttributes() calls for is taken from
+    /// the shell when it is first asked for, since that takes longer than all the rest of a node.
+    HICON GetIcon() const;
     /// Indentation level in the Look-in combo.
     int GetIndent() const { return m_indent; }
     void SetIndent(int indent) { m_indent = indent; }
@@ -99,9 +100,9 @@ public:
     /// A new qualified list of the node, which the caller frees.
     ITEMIDLIST* CalculateQualifiedItemList() const;
 
-    /// Asks the shell for the attributes and takes the icon. Zero, with the attributes as they were, when it fails.
+    /// Asks the shell for the attributes and has the icon taken anew. Zero, with everything as it was, when it fails.
     int GetAttributes();
-    /// Takes the small icon anew.
+    /// Takes the small icon anew, at once.
     void SetIcon();
 
     /// Makes `node`, or a new node for null, the only child of the deepest first child, or the last sibling. Returns
@@ -127,7 +128,7 @@ public:
     void Dump(int level) const;
 
 private:
-    bool readAttributes();
+    HICON takeIcon() const;
     int nameInParent(DWORD shgdn, CString& name) const;
     CNavNode* appendEnumerated(ITEMIDLIST* item, bool alwaysShown, bool foldersOnly);
     CNavNode* appendElement(ITEMIDLIST* element);
@@ -135,7 +136,7 @@ private:
 
     IShellFolder* m_folder;
     ITEMIDLIST* m_id;
-    HICON m_icon;
+    mutable HICON m_icon;
     int m_indent;
     CString m_extensionName;
     CNavNode* m_displayNode;
@@ -146,4 +147,5 @@ private:
     CNavNode* m_parent;
     CNavNode* m_prev;
     CNavShell& m_shell;
+    mutable bool m_isIconDue;
 };

@@ -373,6 +373,27 @@ TEST_F(NavNode, IconComesFromTheExtractorOrFromTheModuleItNames) {
     EXPECT_TRUE(folder->askedForItself());
 }
 
+TEST_F(NavNode, IconIsTakenWhenItIsAskedForAndOnlyOnce) {
+    const auto folder = FakeFolder::make(L"root");
+    folder->setIcon({L"", 0, S_OK});
+    folder->add(L"item", SFGAO_FOLDER);
+    const auto parent = nodeOver(folder);
+    CNavNode child(m_shell);
+    child.SetParent(parent.get());
+    child.SetID(FakeFolder::item(L"item").release());
+    child.SetType(NavNodeExtensionSite);
+    EXPECT_EQ(child.GetIcon(), nullptr) << "nothing has called for one";
+    ASSERT_TRUE(child.GetAttributes());
+    EXPECT_EQ(folder->calls(FolderCall::GetUIObjectOf), 0);
+    const HICON icon = child.GetIcon();
+    EXPECT_NE(icon, nullptr);
+    EXPECT_EQ(child.GetIcon(), icon);
+    EXPECT_EQ(folder->calls(FolderCall::GetUIObjectOf), 1);
+    ASSERT_TRUE(child.GetAttributes());
+    EXPECT_NE(child.GetIcon(), nullptr);
+    EXPECT_EQ(folder->calls(FolderCall::GetUIObjectOf), 2);
+}
+
 TEST_F(NavNode, IconOfAnOrdinaryItemIsTheShells) {
     CNavNode node(m_shell);
     ITEMIDLIST* list = nullptr;
