@@ -1,6 +1,7 @@
 #include <knav/CNavPathname.h>
 
 #include <algorithm>
+#include <cstring>
 #include <cwchar>
 
 #include <intshcut.h>
@@ -9,10 +10,19 @@
 #include "shell/ComPtr.h"
 #include "shell/ExtensionItems.h"
 #include "shell/FolderCalls.h"
+#include "shell/ListWalk.h"
 #include "shell/SiteLocation.h"
 #include "shell/SpecialItems.h"
 
 namespace {
+
+// `item` as its folder knows it: callers give it with or without `parent`, the list of the folder, in front.
+const ITEMIDLIST* itemInFolder(const ITEMIDLIST* item, const ITEMIDLIST* parent) {
+    const std::size_t skipped = knav::measureList(parent).bytes;
+    const bool hasParent =
+        skipped > 0 && knav::measureList(item).bytes > skipped && std::memcmp(item, parent, skipped) == 0;
+    return hasParent ? reinterpret_cast<const ITEMIDLIST*>(reinterpret_cast<const BYTE*>(item) + skipped) : item;
+}
 
 // Whether an item has `attribute`, one of the `asked` ones; no without a folder.
 bool hasAttribute(IShellFolder* folder, const ITEMIDLIST* item, DWORD asked, DWORD attribute) {
@@ -67,9 +77,10 @@ PathErr CNavPathname::Parse(const wchar_t* text, bool allowWildcards) {
 
 PathErr CNavPathname::Parse(ITEMIDLIST* item, IShellFolder* folder, ITEMIDLIST* parent, CString& displayName) {
     return knav::atApiEdge(PathErr::NotFileSystem, [&] {
+        const ITEMIDLIST* const child = itemInFolder(item, parent);
         if (NavIsExtensionItem(item)) {
             m_isExtension = true;
-            return takeItem(item, folder, displayName);
+            return takeItem(child, folder, displayName);
         }
         if (NavIsExtensionRootItem(parent)) {
             m_isExtension = true;
@@ -79,10 +90,10 @@ PathErr CNavPathname::Parse(ITEMIDLIST* item, IShellFolder* folder, ITEMIDLIST* 
         }
         if (NavIsInternetSiteItem(item) || NavIsWebFoldersItem(item)) {
             m_isUrl = true;
-            return takeItem(item, folder, displayName);
+            return takeItem(child, folder, displayName);
         }
         const PathErr result = Parse(displayName, false);
-        if (result == PathErr::None && hasAttribute(folder, item, SFGAO_LINK, SFGAO_LINK)) {
+        if (result == PathErr::None && hasAttribute(folder, child, SFGAO_LINK, SFGAO_LINK)) {
             m_isShortCut = true;
         }
         return result;
@@ -90,7 +101,7 @@ PathErr CNavPathname::Parse(ITEMIDLIST* item, IShellFolder* folder, ITEMIDLIST* 
 }
 
 // Takes an item that is no path: its name is the location, and its folder says what it is.
-PathErr CNavPathname::takeItem(ITEMIDLIST* item, IShellFolder* folder, const CString& displayName) {
+PathErr CNavPathname::takeItem(const ITEMIDLIST* item, IShellFolder* folder, const CString& displayName) {
     m_location = displayName;
     const bool isFolder = hasAttribute(folder, item, SFGAO_FOLDER | SFGAO_FILESYSTEM, SFGAO_FOLDER);
     m_type = isFolder ? Directory : ExistingFile;

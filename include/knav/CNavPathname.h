@@ -33,9 +33,10 @@ public:
     /// is PathErr::NotFileSystem, which is 4. Anything else is parsed by the base class.
     PathErr Parse(const wchar_t* text, bool allowWildcards) override;
 
-    /// Parses an item that a view or a tree shows. `item` is relative to `folder`, `parent` is the item list of that
-    /// folder; each may be null. `displayName` is the item's parsing name. Items of extensions and internet sites are
-    /// taken as they are; all others are parsed as text, and recognised as shortcuts where `folder` says so.
+    /// Parses an item that a view or a tree shows. `item` is relative to `folder`, or starts with `parent`, the item
+    /// list of that folder; each may be null. `displayName` is the item's parsing name. Items of extensions and
+    /// internet sites are taken as they are; all others are parsed as text, and recognised as shortcuts where `folder`
+    /// says so.
     virtual PathErr Parse(ITEMIDLIST* item, IShellFolder* folder, ITEMIDLIST* parent, CString& displayName);
 
     /// Parses what was typed while `node` was the current folder (null: none). The flags are set anew.
@@ -111,7 +112,7 @@ private:
     void setLocation(const CString& location);
     void ownID(ITEMIDLIST* id);
     void dropOwnedID();
-    PathErr takeItem(ITEMIDLIST* item, IShellFolder* folder, const CString& displayName);
+    PathErr takeItem(const ITEMIDLIST* item, IShellFolder* folder, const CString& displayName);
     PathErr parseAbsolute(const wchar_t* text, const CNavPathname* base, bool allowWildcards);
     PathErr parseInSite(const wchar_t* text, const CNavPathname* base, CNavNode& site, bool allowWildcards);
     void findInSite(CNavNode& site, ITEMIDLIST* siteList, const wchar_t* name);

@@ -271,10 +271,12 @@ TEST(CNavPathname, TakesItemsOfExtensionsAsTheyAre) {
     const Row rows[] = {
         {"the root", storeRoot(), {}, CZoUiPathname::ExistingFile},
         {"a child item that its folder does not know", inStore(L"shelf"), {}, CZoUiPathname::ExistingFile},
+        {"a child item that its folder knows", inStore(L"drawer"), storeRoot(), CZoUiPathname::Directory},
         {"a site, known by its parent", ItemList::adopt(SiteFolderFake::itemOf(L"shelf")), storeRoot(),
          CZoUiPathname::Directory},
     };
     SiteFolderFake folder(L"");
+    folder.add(L"drawer", SFGAO_FOLDER);
     for (const Row& row : rows) {
         SCOPED_TRACE(row.why);
         CNavPathname pathname;
@@ -300,6 +302,11 @@ TEST(CNavPathname, ParsesOtherItemsByTheirName) {
     EXPECT_EQ(withFolder.Parse(item.get(), &folder, nullptr, file), PathErr::None);
     EXPECT_EQ(withFolder.GetType(), CZoUiPathname::ExistingFile);
     EXPECT_TRUE(withFolder.isShortCut());
+
+    const ItemList parent = ItemList::adopt(SiteFolderFake::itemOf(L"folder"));
+    CNavPathname qualified;
+    qualified.Parse(ItemList::join(parent.get(), item.get()).get(), &folder, parent.get(), file);
+    EXPECT_TRUE(qualified.isShortCut()) << "the folder knows the item by its own element";
 
     CNavPathname withoutFolder;
     EXPECT_EQ(withoutFolder.Parse(item.get(), nullptr, nullptr, file), PathErr::None);
