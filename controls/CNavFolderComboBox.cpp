@@ -23,12 +23,12 @@ CString desktopDirectory() {
     return list && SHGetPathFromIDListW(list.get(), path.data()) ? CString(path.data()) : CString();
 }
 
-// A place in an extension is a folder whatever the desktop folder, which knows nothing of it, would say.
+// A place in an extension is a folder, and known as one by the root of the extension alone.
 void parseNode(CNavPathname& pathname, const CNavNode& node, ITEMIDLIST* list, CString& name) {
     if (node.IsExtensionType()) {
         pathname.Parse(nullptr, nullptr, knav::ItemList::firstOf(list).get(), name);
     } else {
-        pathname.Parse(list, knav::desktopFolder().get(), nullptr, name);
+        pathname.Parse(list, node.GetParentFolder(), knav::ItemList::parentOf(list).get(), name);
     }
 }
 

@@ -42,6 +42,13 @@ bool RecordingOwner::findLogin(const CString& siteName, CString& user, CString& 
     return true;
 }
 
+LRESULT ViewHost::Owner::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NEXTDLGCTL && lParam != FALSE) {
+        nextControl = reinterpret_cast<HWND>(wParam);
+    }
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
 ViewHost::ViewHost() {
     owner.CreateEx(0, nullptr, L"owner", WS_OVERLAPPEDWINDOW, {0, 0, 640, 480}, nullptr, 0);
     buddy.Create(WC_STATICW, L"", WS_CHILD, {10, 20, 410, 320}, &owner, 13001);

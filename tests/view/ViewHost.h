@@ -49,7 +49,14 @@ public:
     /// Full path of the folder shown.
     CString shownPath() const;
 
-    CWnd owner;
+    /// Notes where the view asks it to move the focus, as a dialog would.
+    class Owner : public CWnd {
+    public:
+        HWND nextControl = nullptr;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    } owner;
     CNavCommDlgBuddy buddy;
     CNavCommDlgView viewWindow;
     CNavListCtrl listCtrl;

@@ -214,6 +214,7 @@ TEST_F(Browse, TabKeyInTheView_GoesToTheControlBehindThePlaceholder) {
     ::SetFocus(m_host.list());
     MSG tab{m_host.list(), WM_KEYDOWN, VK_TAB, 0, 0, {}};
     EXPECT_TRUE(CWnd::WalkPreTranslateTree(m_host.owner, &tab));
+    EXPECT_EQ(m_host.owner.nextControl, after.m_hWnd);
     MSG other{m_host.list(), WM_KEYDOWN, VK_F5, 0, 0, {}};
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(m_host.owner, &other));
 }

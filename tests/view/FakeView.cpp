@@ -1,0 +1,262 @@
+#include "view/FakeView.h"
+
+#include <cstring>
+#include <stdexcept>
+
+namespace knav::test {
+namespace {
+
+template <class... Interfaces>
+class Counted : public Interfaces... {
+public:
+    explicit Counted(ViewScript& script) : m_script(script) { ++script.liveObjects; }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --m_references;
+        if (left == 0) {
+            delete this;
+        }
+        return left;
+    }
+
+protected:
+    virtual ~Counted() { --m_script.liveObjects; }
+    HRESULT give(IUnknown* object, void** result) {
+        *result = object;
+        if (object == nullptr) {
+            return E_NOINTERFACE;
+        }
+        object->AddRef();
+        return S_OK;
+    }
+    ViewScript& m_script;
+
+private:
+    ULONG m_references = 1;
+};
+
+class FakeData final : public Counted<IDataObject> {
+public:
+    using Counted::Counted;
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+        return give(iid == IID_IDataObject || iid == IID_IUnknown ? this : nullptr, object);
+    }
+    HRESULT STDMETHODCALLTYPE GetData(FORMATETC* format, STGMEDIUM* medium) override {
+        if (const HRESULT result = m_script.enter(ViewCall::GetData); FAILED(result)) {
+            return result;
+        }
+        wchar_t name[80] = L"";
+        GetClipboardFormatNameW(format->cfFormat, name, 80);
+        if (std::wstring_view(name) != CFSTR_SHELLIDLIST || format->lindex != -1 || format->tymed != TYMED_HGLOBAL) {
+            return DV_E_FORMATETC;
+        }
+        const auto bytes = array();
+        medium->tymed = TYMED_HGLOBAL;
+        medium->hGlobal = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
+        std::memcpy(GlobalLock(medium->hGlobal), bytes.data(), bytes.size());
+        GlobalUnlock(medium->hGlobal);
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC*, STGMEDIUM*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetCanonicalFormatEtc(FORMATETC*, FORMATETC*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetData(FORMATETC*, STGMEDIUM*, BOOL) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD, IEnumFORMATETC**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE DAdvise(FORMATETC*, DWORD, IAdviseSink*, DWORD*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE DUnadvise(DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE EnumDAdvise(IEnumSTATDATA**) override { return E_NOTIMPL; }
+
+private:
+    std::vector<BYTE> array() const {
+        const std::size_t count = m_script.selection.size();
+        std::vector<BYTE> bytes(sizeof(UINT) * (count + 2));
+        const auto put = [&bytes](std::size_t index, std::size_t value) {
+            const auto number = static_cast<UINT>(value);
+            std::memcpy(bytes.data() + sizeof(UINT) * index, &number, sizeof(number));
+        };
+        put(0, count);
+        put(1, bytes.size());
+        bytes.insert(bytes.end(), {0, 0});
+        for (std::size_t i = 0; i < count; ++i) {
+            put(i + 2, bytes.size());
+            const std::wstring& name = m_script.selection[i];
+            const std::size_t size = sizeof(USHORT) + sizeof(wchar_t) * (name.size() + 1);
+            bytes.push_back(static_cast<BYTE>(size));
+            bytes.push_back(0);
+            const auto* const text = reinterpret_cast<const BYTE*>(name.c_str());
+            bytes.insert(bytes.end(), text, text + size - sizeof(USHORT));
+            bytes.insert(bytes.end(), {0, 0});
+        }
+        return bytes;
+    }
+};
+
+class FakeView final : public Counted<IShellView2, IFolderView> {
+public:
+    using Counted::Counted;
+    ULONG STDMETHODCALLTYPE AddRef() override { return Counted::AddRef(); }
+    ULONG STDMETHODCALLTYPE Release() override { return Counted::Release(); }
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+        if (const HRESULT result = m_script.enter(ViewCall::QueryInterface); FAILED(result)) {
+            return result;
+        }
+        if (iid == IID_IFolderView) {
+            return give(m_script.offersFolderView ? static_cast<IFolderView*>(this) : nullptr, object);
+        }
+        const bool known =
+            iid == IID_IUnknown || iid == IID_IShellView || (iid == IID_IShellView2 && m_script.offersView2);
+        return give(known ? static_cast<IShellView2*>(this) : nullptr, object);
+    }
+
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override {
+        const HRESULT result = m_script.enter(ViewCall::GetWindow);
+        *window = m_window;
+        return result;
+    }
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*) override { return S_FALSE; }
+    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE UIActivate(UINT) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE Refresh() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE CreateViewWindow(IShellView* previous, LPCFOLDERSETTINGS settings, IShellBrowser* browser,
+                                               RECT* place, HWND* window) override {
+        const HRESULT result = m_script.enter(ViewCall::CreateViewWindow);
+        return SUCCEEDED(result) ? create(previous, *settings, browser, *place, window) : result;
+    }
+    HRESULT STDMETHODCALLTYPE DestroyViewWindow() override {
+        DestroyWindow(m_window);
+        return m_script.enter(ViewCall::DestroyViewWindow);
+    }
+    HRESULT STDMETHODCALLTYPE GetCurrentInfo(LPFOLDERSETTINGS settings) override {
+        *settings = m_script.settings;
+        return m_script.enter(ViewCall::GetCurrentInfo);
+    }
+    HRESULT STDMETHODCALLTYPE AddPropertySheetPages(DWORD, LPFNSVADDPROPSHEETPAGE, LPARAM) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE SaveViewState() override { return m_script.enter(ViewCall::SaveViewState); }
+    HRESULT STDMETHODCALLTYPE SelectItem(PCUITEMID_CHILD item, SVSIF flags) override {
+        m_script.selected.emplace_back(item, flags);
+        return m_script.enter(ViewCall::SelectItem);
+    }
+    HRESULT STDMETHODCALLTYPE GetItemObject(UINT, REFIID, void** object) override {
+        if (const HRESULT result = m_script.enter(ViewCall::GetItemObject); FAILED(result)) {
+            return result;
+        }
+        *object = new FakeData(m_script);
+        return S_OK;
+    }
+
+    HRESULT STDMETHODCALLTYPE GetView(SHELLVIEWID*, ULONG) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE CreateViewWindow2(LPSV2CVW2_PARAMS params) override {
+        if (const HRESULT result = m_script.enter(ViewCall::CreateViewWindow2); FAILED(result)) {
+            return result;
+        }
+        m_script.paramsSize = params->cbSize;
+        m_script.viewId = *params->pvid;
+        return create(params->psvPrev, *params->pfs, params->psbOwner, *params->prcView, &params->hwndView);
+    }
+    HRESULT STDMETHODCALLTYPE HandleRename(PCUITEMID_CHILD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SelectAndPositionItem(PCUITEMID_CHILD, UINT, POINT*) override { return E_NOTIMPL; }
+
+    HRESULT STDMETHODCALLTYPE GetCurrentViewMode(UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetCurrentViewMode(UINT) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetFolder(REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Item(int, PITEMID_CHILD*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE ItemCount(UINT, int*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Items(UINT, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetSelectionMarkedItem(int*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetFocusedItem(int* item) override {
+        *item = m_script.focusedItem;
+        return m_script.enter(ViewCall::GetFocusedItem);
+    }
+    HRESULT STDMETHODCALLTYPE GetItemPosition(PCUITEMID_CHILD, POINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetSpacing(POINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetDefaultSpacing(POINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetAutoArrange() override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SelectItem(int, DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SelectAndPositionItems(UINT, PCUITEMID_CHILD_ARRAY, POINT*, DWORD) override {
+        return E_NOTIMPL;
+    }
+
+private:
+    HRESULT create(IShellView* previous, const FOLDERSETTINGS& settings, IShellBrowser* browser, const RECT& place,
+                   HWND* window) {
+        m_script.previous = previous;
+        m_script.settings = settings;
+        m_script.place = place;
+        HWND parent = nullptr;
+        browser->GetWindow(&parent);
+        m_window =
+            CreateWindowExW(0, WC_STATICW, L"", WS_CHILD | WS_VISIBLE, place.left, place.top, place.right - place.left,
+                            place.bottom - place.top, parent, nullptr, nullptr, nullptr);
+        *window = m_window;
+        return S_OK;
+    }
+
+    HWND m_window = nullptr;
+};
+
+class ViewFolder final : public Counted<IShellFolder> {
+public:
+    using Counted::Counted;
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+        return give(iid == IID_IShellFolder || iid == IID_IUnknown ? this : nullptr, object);
+    }
+    HRESULT STDMETHODCALLTYPE ParseDisplayName(HWND, IBindCtx*, LPWSTR, ULONG*, PIDLIST_RELATIVE*, ULONG*) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE EnumObjects(HWND, SHCONTF, IEnumIDList**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE BindToObject(PCUIDLIST_RELATIVE, IBindCtx*, REFIID iid, void** object) override {
+        return QueryInterface(iid, object);
+    }
+    HRESULT STDMETHODCALLTYPE BindToStorage(PCUIDLIST_RELATIVE, IBindCtx*, REFIID, void**) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE CompareIDs(LPARAM, PCUIDLIST_RELATIVE, PCUIDLIST_RELATIVE) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE CreateViewObject(HWND, REFIID, void** object) override {
+        const HRESULT result = m_script.enter(ViewCall::CreateViewObject);
+        if (SUCCEEDED(result)) {
+            *object = static_cast<IShellView2*>(new FakeView(m_script));
+        }
+        return result;
+    }
+    HRESULT STDMETHODCALLTYPE GetAttributesOf(UINT, PCUITEMID_CHILD_ARRAY, SFGAOF* attributes) override {
+        *attributes = 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetUIObjectOf(HWND, UINT, PCUITEMID_CHILD_ARRAY, REFIID, UINT*, void**) override {
+        return E_NOTIMPL;
+    }
+    // The element's payload is its name.
+    HRESULT STDMETHODCALLTYPE GetDisplayNameOf(PCUITEMID_CHILD item, SHGDNF, STRRET* name) override {
+        name->uType = STRRET_WSTR;
+        return SHStrDupW(reinterpret_cast<const wchar_t*>(item->mkid.abID), &name->pOleStr);
+    }
+    HRESULT STDMETHODCALLTYPE SetNameOf(HWND, PCUITEMID_CHILD, LPCWSTR, SHGDNF, PITEMID_CHILD*) override {
+        return E_NOTIMPL;
+    }
+};
+
+}  // namespace
+
+HRESULT ViewScript::enter(ViewCall call) {
+    ++calls[call];
+    switch (of(call)) {
+        case Conduct::Fails:
+            return E_FAIL;
+        case Conduct::Faults:
+            RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr);
+            return E_FAIL;
+        case Conduct::Throws:
+            throw std::runtime_error("view");
+        default:
+            return S_OK;
+    }
+}
+
+ComPtr<IShellFolder> makeViewFolder(ViewScript& script) {
+    return ComPtr<IShellFolder>::adopt(new ViewFolder(script));
+}
+
+}  // namespace knav::test

@@ -1,0 +1,181 @@
+#include "shell/ExtensionItems.h"
+#include "shell/RegisteredExtensions.h"
+#include "support/ItemLists.h"
+#include "support/ScopedTempFolder.h"
+#include "view/FakeView.h"
+#include "view/ViewHost.h"
+
+#include <gmock/gmock.h>
+
+#include <knav/CNavDataArray.h>
+
+namespace {
+
+using namespace knav;
+using namespace knav::test;
+using testing::ElementsAre;
+
+// A host that can show an ordinary folder and the root of an extension whose view is a test's.
+class BrokenView : public testing::Test {
+protected:
+    BrokenView() {
+        m_temp.addFile(L"a.dwg");
+        auto* const extension = registeredExtensions().AddData();
+        extension->SetName(L"Store");
+        extension->CreateID();
+        extension->SetRootFolder(makeViewFolder(m_script).get());
+        m_root = ItemList::copyOf(extension->GetID());
+    }
+    ~BrokenView() override { registeredExtensions().RemoveAllData(); }
+
+    bool browseStore() { return m_host.browser.BrowseObject(m_root.get(), SBSP_ABSOLUTE) != 0; }
+
+    static ItemList named(const wchar_t* name) {
+        std::string payload(reinterpret_cast<const char*>(name), sizeof(wchar_t) * (wcslen(name) + 1));
+        return makeList({payload});
+    }
+
+    static constexpr std::array kBad{Conduct::Fails, Conduct::Faults, Conduct::Throws};
+
+    ScopedTempFolder m_temp;
+    ViewScript m_script;
+    ViewHost m_host;
+    ItemList m_root;
+    CNavDataArray m_data;
+};
+
+TEST_F(BrokenView, ViewIsMadeWithTheSettingsOfTheBrowser) {
+    ASSERT_TRUE(m_host.browse(m_temp.path()));
+    IShellView* const previous = m_host.browser.GetCurrentShellView();
+    m_host.browser.SetListCtrl(nullptr);
+    m_host.browser.StoreViewMode(4);
+    ASSERT_TRUE(browseStore());
+    EXPECT_EQ(m_script.paramsSize, 56u);
+    EXPECT_EQ(m_script.previous, previous);
+    EXPECT_EQ(m_script.settings.ViewMode, 4u);
+    EXPECT_TRUE(m_script.settings.fFlags & FWF_SINGLESEL);
+    const GUID details{0x137E7700, 0x3573, 0x11CF, {0xAE, 0x69, 8, 0, 0x2B, 0x2E, 0x12, 0x62}};
+    EXPECT_TRUE(IsEqualGUID(m_script.viewId, details));
+    const RECT place{10, 20, 410, 320};
+    EXPECT_TRUE(EqualRect(&m_script.place, &place));
+    EXPECT_EQ(m_script.calls[ViewCall::CreateViewWindow], 0);
+}
+
+TEST_F(BrokenView, ViewOfTheFirstKind_IsMadeTheOldWay) {
+    m_script.offersView2 = false;
+    ASSERT_TRUE(browseStore());
+    EXPECT_EQ(m_script.calls[ViewCall::CreateViewWindow], 1);
+    EXPECT_EQ(m_script.calls[ViewCall::CreateViewWindow2], 0);
+    m_host.buddy.MoveWindow(0, 0, 100, 50);
+    HWND window = nullptr;
+    m_host.browser.GetCurrentShellView()->GetWindow(&window);
+    RECT place{};
+    GetClientRect(window, &place);
+    EXPECT_EQ(place.right, 100) << "a view of another class keeps to the placeholder too";
+}
+
+TEST_F(BrokenView, ViewThatCannotBeMade_LeavesThePreviousOneInPlace) {
+    ASSERT_TRUE(m_host.browse(m_temp.path()));
+    IShellView* const view = m_host.browser.GetCurrentShellView();
+    IShellFolder* const folder = m_host.browser.GetCurrentFolder();
+    for (const bool view2 : {true, false}) {
+        m_script.offersView2 = view2;
+        const auto creating = view2 ? ViewCall::CreateViewWindow2 : ViewCall::CreateViewWindow;
+        for (const ViewCall call : {ViewCall::CreateViewObject, creating}) {
+            for (const Conduct conduct : kBad) {
+                m_script.conduct = {{call, conduct}};
+                EXPECT_FALSE(browseStore());
+                EXPECT_EQ(m_host.browser.GetCurrentShellView(), view);
+                EXPECT_EQ(m_host.browser.GetCurrentFolder(), folder);
+                EXPECT_EQ(m_host.shownPath().CompareNoCase(m_temp.path()), 0);
+                EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
+                EXPECT_FALSE(m_host.browseOwner.browsing);
+            }
+        }
+    }
+    EXPECT_EQ(m_script.liveObjects, 1) << "the folder alone";
+}
+
+TEST_F(BrokenView, QueryInterfaceThatMisbehaves_MeansThatThereIsNoSuchInterface) {
+    for (const Conduct conduct : kBad) {
+        m_script.conduct = {{ViewCall::QueryInterface, conduct}};
+        m_script.calls.clear();
+        EXPECT_TRUE(browseStore());
+        EXPECT_EQ(m_script.calls[ViewCall::CreateViewWindow], 1);
+    }
+}
+
+TEST_F(BrokenView, ViewThatMisbehavesLater_CanBeLeft) {
+    for (const ViewCall call : {ViewCall::GetWindow, ViewCall::GetCurrentInfo, ViewCall::SaveViewState,
+                                ViewCall::DestroyViewWindow, ViewCall::QueryInterface, ViewCall::SelectItem}) {
+        for (const Conduct conduct : kBad) {
+            m_script.conduct.clear();
+            ASSERT_TRUE(browseStore());
+            m_script.conduct = {{call, conduct}};
+            m_data.RemoveAllData();
+            m_data.AddData()->SetID(ItemList::copyOf(m_root.get()).release());
+            m_host.browser.SyncToData(m_data);
+            ASSERT_TRUE(m_host.browse(m_temp.path()));
+            EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
+            EXPECT_EQ(m_script.liveObjects, 1) << "the view is gone, the folder stays";
+        }
+    }
+}
+
+TEST_F(BrokenView, SelectionThatCannotBeRead_GivesNoItems) {
+    m_script.selection = {L"a"};
+    ASSERT_TRUE(browseStore());
+    for (const ViewCall call : {ViewCall::GetFocusedItem, ViewCall::GetItemObject, ViewCall::GetData}) {
+        for (const Conduct conduct : kBad) {
+            m_script.conduct = {{call, conduct}};
+            m_data.AddData();
+            EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data));
+            EXPECT_EQ(m_data.GetCount(), 0);
+        }
+    }
+    m_script.conduct.clear();
+    m_script.focusedItem = -1;
+    EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data)) << "success without an item is none either";
+    m_script.offersFolderView = false;
+    EXPECT_TRUE(m_host.browser.SendSelectionToData(m_data)) << "a view that cannot be asked for the focus";
+}
+
+TEST_F(BrokenView, SelectionInAnExtension_KeepsItsOrderTextsAndLogin) {
+    m_script.selection = {L" b ", L"a"};
+    const auto site = ItemList::join(m_root.get(), named(L"site").get());
+    ASSERT_TRUE(m_host.browser.BrowseObject(site.get(), SBSP_ABSOLUTE));
+    ASSERT_TRUE(m_host.browser.SendSelectionToData(m_data));
+    ASSERT_EQ(m_data.GetCount(), 2);
+    const CNavData& first = *m_data.GetData(0);
+    EXPECT_STREQ(first.GetTextInFolder(), L"b");
+    EXPECT_STREQ(first.GetText(), L"b ");
+    EXPECT_EQ(first.GetDataType(), NAV_DATA_EXTENSION);
+    EXPECT_STREQ(first.GetUserName(), L"anna");
+    EXPECT_STREQ(first.GetPassword(), L"secret");
+    EXPECT_EQ(m_host.browseOwner.askedSite, L"site");
+    EXPECT_THAT(first.GetID(), HoldsSameBytes(ItemList::join(site.get(), named(L" b ").get()).get()));
+    EXPECT_STREQ(m_data.GetData(1)->GetTextInFolder(), L"a");
+
+    CString user;
+    CString password;
+    EXPECT_TRUE(m_host.browser.GetCurrentLogin(user, password));
+    ASSERT_TRUE(browseStore());
+    EXPECT_FALSE(m_host.browser.GetCurrentLogin(user, password)) << "the root of all sites is none";
+    EXPECT_TRUE(user.IsEmpty());
+}
+
+TEST_F(BrokenView, SyncToData_DeselectsAllThenSelectsEach) {
+    ASSERT_TRUE(browseStore());
+    m_data.AddData()->SetID(named(L"a").release());
+    m_data.AddData();
+    m_data.AddData()->SetID(named(L"b").release());
+    m_host.browser.SyncToData(m_data);
+    ASSERT_EQ(m_script.selected.size(), 3u);
+    EXPECT_EQ(m_script.selected[0], std::pair(static_cast<const ITEMIDLIST*>(nullptr), UINT(SVSI_DESELECTOTHERS)));
+    EXPECT_EQ(m_script.selected[1],
+              std::pair(static_cast<const ITEMIDLIST*>(m_data.GetData(0)->GetID()), UINT(SVSI_SELECT)));
+    EXPECT_EQ(m_script.selected[2],
+              std::pair(static_cast<const ITEMIDLIST*>(m_data.GetData(2)->GetID()), UINT(SVSI_SELECT)));
+}
+
+}  // namespace
