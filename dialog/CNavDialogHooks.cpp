@@ -115,7 +115,7 @@ void CNavDialog::OnURLDownloadSuccess(CString&) {
 }
 
 void CNavDialog::OnDoLocate() {
-    m_imp->LocateFile();
+    LocateFile();
 }
 
 void CNavDialog::OnDoFind() {

@@ -95,20 +95,34 @@ IUnknown* CNavDialogImp::GetInterfaceHook(REFIID iid) {
 }
 
 INT_PTR CNavDialogImp::runModal() {
-    m_data.RemoveAllData();
-    m_enterHeldSinceStart = true;
+    resetRun();
     wchar_t directory[MAX_PATH + 1];
     const DWORD length = GetCurrentDirectoryW(MAX_PATH + 1, directory);
     const INT_PTR result = m_facade.CZoUiDialog::DoModal();
     if (result != IDOK && length > 0 && length <= MAX_PATH) {
         SetCurrentDirectoryW(directory);
     }
-    m_ole.reset();
     return result;
 }
 
+/// The dialog may run more than once; each run starts afresh.
+void CNavDialogImp::resetRun() {
+    m_data.RemoveAllData();
+    m_browser.SetCurrentObjectID(nullptr);
+    m_options.readOnlySpecified = 0;
+    m_enterHeldSinceStart = true;
+    m_closing = false;
+    m_fileNameEditDirty = false;
+    m_nameCameFromSelection = false;
+    m_placesListDirty = false;
+    m_currentPlace.Empty();
+}
+
+/// OLE ends with this object, after the folders and views that it holds.
 void CNavDialogImp::initializeOle() {
-    m_ole.emplace();
+    if (!m_ole) {
+        m_ole.emplace();
+    }
 }
 
 void CNavDialogImp::DoDataExchange(CDataExchange* exchange) {
@@ -207,12 +221,17 @@ void CNavDialogImp::postToSelf(OwnMessage message) {
 
 void CNavDialogImp::OnOwnMessage(OwnMessage message) {
     m_postedMessages &= ~(1u << static_cast<unsigned>(message));
+    if (m_inOk) {
+        m_selectionMissed = m_selectionMissed || message == OwnMessage::SyncSelection;
+        return;
+    }
     switch (message) {
         case OwnMessage::SyncSelection:
             m_facade.OnFolderItemChange();
             m_facade.UpdateUIState();
             break;
         case OwnMessage::RunOk:
+            m_options.readOnlySpecified = 0;
             m_facade.OnOK();
             break;
         case OwnMessage::FollowLookIn:

@@ -54,6 +54,7 @@ public:
     ~CNavDialogImp() override;
     INT_PTR runModal();
     void initializeOle();
+    void resetRun();
 
     // --- options (DialogOptionRules.cpp) -------------------------------------------------------------------------
     knav::DialogOptions& options() { return m_options; }
@@ -96,7 +97,7 @@ public:
     // --- folders (DialogFolders.cpp) -----------------------------------------------------------------------------
     int NavigateToFolder(const wchar_t* folder);
     bool NavigateToItemList(ITEMIDLIST* folder);
-    void NavigateToDir(const CNavPathname& folder);
+    bool NavigateToDir(const CNavPathname& folder);
     void NavigateToWildCard(const CNavPathname& pattern);
     void SyncListToComboBox();
     void SetFolderComboCurSel(int index);
@@ -216,7 +217,9 @@ private:
     void startExtensions();
     CString initialFolderText();
     void startFileTypes();
+    void startFilter();
     void startButtons();
+    void showSomeFolder();
     void startLookIn();
     void showInitialFolder(const CString& folder);
     void showInitialList(ITEMIDLIST* list);
@@ -249,10 +252,11 @@ private:
     void resolveShortcut(CNavData& item, CString& text);
     void classifyItem(CNavData& item, const CString& text);
     void reportNameError(OkHandlerErr error);
-    CNavNode* nodeForNames();
+    void rememberName();
+    void processOk();
     std::optional<CString> folderTextForNames(CNavNode* node, CString& prefix, bool& unnamed);
     int commitParsed(CNavData& item, CNavPathname& path, CNavNode* node);
-    int commitUnparsed(CNavData& item, const CString& text, CNavPathname& folder, CNavNode* node);
+    int commitUnparsed(CNavData& item, const CString& text, CNavPathname& path);
     int acceptFile(CNavData& item, CNavPathname& path, CNavNode* node);
     void enterTypedFolder(CNavPathname& folder);
     void canonicalizeSiteItem(CNavData& item);
@@ -337,8 +341,10 @@ private:
     knav::ComPtr<CNavEnumString> m_completions;
 
     unsigned m_postedMessages = 0;  // a bit for each OwnMessage on its way
-    bool m_browsing = false;
-    bool m_inShellViewRegen = false;
+    bool m_inOk = false;
+    bool m_closing = false;
+    bool m_selectionMissed = false;
+    bool m_inShellViewRegen = false;  // a browse is under way
     bool m_fileNameEditDirty = false;
     bool m_writingFileName = false;
     bool m_nameCameFromSelection = false;

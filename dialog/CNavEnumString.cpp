@@ -24,15 +24,17 @@ CNavEnumString::CNavEnumString(IUnknown* source, std::wstring directory, Pattern
 }
 
 void CNavEnumString::setDirectory(std::wstring directory) {
-    m_directory = std::move(directory);
-    if (!m_directory.ends_with(L'\\')) {
-        m_directory += L'\\';
+    if (!directory.ends_with(L'\\')) {
+        directory += L'\\';
     }
+    const std::scoped_lock lock(m_mutex);
+    m_directory = std::move(directory);
 }
 
 void CNavEnumString::setPatterns(Patterns patterns) {
+    std::ranges::transform(patterns, patterns.begin(), lowered);
+    const std::scoped_lock lock(m_mutex);
     m_patterns = std::move(patterns);
-    std::ranges::transform(m_patterns, m_patterns.begin(), lowered);
 }
 
 HRESULT CNavEnumString::QueryInterface(REFIID iid, void** object) {
@@ -84,7 +86,7 @@ HRESULT CNavEnumString::fetchAccepted(LPOLESTR& text) {
     while (true) {
         ULONG fetched = 0;
         const HRESULT result = knav::guarded([&] { return m_source->Next(1, &text, &fetched); });
-        if (result != S_OK || m_patterns.empty() || accepts(text)) {
+        if (result != S_OK || accepts(text)) {
             return result;
         }
         CoTaskMemFree(text);
@@ -93,15 +95,22 @@ HRESULT CNavEnumString::fetchAccepted(LPOLESTR& text) {
 
 /// A text that names nothing that is there any more is passed on: the file system will say so when it is used.
 bool CNavEnumString::accepts(const wchar_t* text) const {
-    const std::wstring full = m_directory + text;
+    std::wstring full;
+    Patterns patterns;
+    {
+        const std::scoped_lock lock(m_mutex);
+        full = m_directory + text;
+        patterns = m_patterns;
+    }
     RyFileStatus status;
-    if (!RyUt::GetFileStatus(full.c_str(), status) || (status.m_attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    if (patterns.empty() || !RyUt::GetFileStatus(full.c_str(), status) ||
+        (status.m_attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
         return true;
     }
     const std::wstring name(knav::lastComponent(full));
     const std::size_t dot = name.rfind(L'.');
     return dot == std::wstring::npos ||
-           std::ranges::find(m_patterns, L"*." + lowered(name.substr(dot + 1))) != m_patterns.end();
+           std::ranges::find(patterns, L"*." + lowered(name.substr(dot + 1))) != patterns.end();
 }
 
 HRESULT CNavEnumString::Skip(ULONG count) {

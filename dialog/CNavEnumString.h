@@ -3,6 +3,7 @@
 
 #include <platform/Windows.h>
 
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,7 @@ private:
     HRESULT fetchAccepted(LPOLESTR& text);
     bool accepts(const wchar_t* text) const;
 
+    mutable std::mutex m_mutex;  // the system may complete on a thread of its own
     LONG m_references = 1;
     knav::ComPtr<IEnumString> m_source;
     std::wstring m_directory;

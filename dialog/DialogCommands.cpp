@@ -136,12 +136,17 @@ void CNavDialogImp::OnLocate() {
 }
 
 void CNavDialogImp::OnOpenMenuOpen() {
+    m_options.readOnlySpecified = 0;
     m_facade.OnOK();
 }
 
 void CNavDialogImp::OnOpenMenuOpenReadOnly() {
     m_options.readOnlySpecified = 1;
     m_facade.OnOK();
+    // Refused: it was this attempt that was to be read-only, not the next one.
+    if (!m_closing) {
+        m_options.readOnlySpecified = 0;
+    }
 }
 
 void CNavDialogImp::OnViewMode(UINT command) {

@@ -1,4 +1,5 @@
 // Moving from folder to folder, and the history of it.
+#include <knav/CNavDataArray.h>
 #include <knav/CNavNode.h>
 #include <knav/NavFolders.h>
 #include <knav/NavItemList.h>
@@ -30,15 +31,12 @@ bool CNavDialogImp::NavigateToItemList(ITEMIDLIST* folder) {
     return folder && m_browser.BrowseObject(folder, SBSP_ABSOLUTE);
 }
 
-void CNavDialogImp::NavigateToDir(const CNavPathname& folder) {
+bool CNavDialogImp::NavigateToDir(const CNavPathname& folder) {
     if (folder.GetID()) {
-        NavigateToItemList(folder.GetID());
-        return;
+        return NavigateToItemList(folder.GetID());
     }
     CString path;
-    if (folder.GetFullPath(path)) {
-        NavigateToFolder(path);
-    }
+    return folder.GetFullPath(path) && NavigateToFolder(path);
 }
 
 void CNavDialogImp::NavigateToWildCard(const CNavPathname& pattern) {
@@ -59,6 +57,7 @@ void CNavDialogImp::NavigateToWildCard(const CNavPathname& pattern) {
     if (!elsewhere || !NavigateToFolder(full.Left(separator + 1))) {
         m_browser.BrowseCurrentObject();
     }
+    UpdateAutoCompletion();
     setFileNameText(patterns);
     selectFileNameText();
 }
@@ -80,22 +79,27 @@ void CNavDialogImp::SetFolderComboCurSel(int index) {
 }
 
 bool CNavDialogImp::enterBrowse() {
-    if (m_browsing) {
+    if (m_inShellViewRegen) {
         return false;
     }
-    m_browsing = true;
     m_inShellViewRegen = true;
     return true;
 }
 
 void CNavDialogImp::leaveBrowse() {
-    m_browsing = false;
     m_inShellViewRegen = false;
 }
 
 void CNavDialogImp::browsed(ITEMIDLIST* folder, UINT) {
+    // What was selected in the view that is gone is selected no more; what is under way in OK keeps its items.
+    if (!m_inOk) {
+        m_data.RemoveAllData();
+    } else {
+        m_fileName.SetFileNameComboBoxDirty(1);
+    }
     showInLookIn(folder);
     AddItemToPrevious(folder);
+    UpdateAutoCompletion();
     m_facade.OnFolderChange();
     m_facade.UpdateUIState();
 }
@@ -118,7 +122,6 @@ void CNavDialogImp::showInLookIn(ITEMIDLIST* folder) {
 
 void CNavDialogImp::OnFolderChange() {
     clearStaleName();
-    UpdateAutoCompletion();
     UpdatePlacesListBox();
 }
 

@@ -58,7 +58,8 @@ void CNavDialogImp::SetInitialFileName(const wchar_t* text) {
         path.Parse(text, true);
         path.GetBasename(m_options.initialFileName);
     }
-    if (m_options.defaultFileExtension.IsEmpty()) {
+    // Only a real extension: a bare name would otherwise be appended to itself.
+    if (m_options.defaultFileExtension.IsEmpty() && knav::extensionDot(CString(text).view())) {
         SetDefaultFileExtension(text);
     }
     if (m_options.forceInitialFolder.IsEmpty() && m_options.defaultInitialFolder.IsEmpty()) {
@@ -74,7 +75,7 @@ void CNavDialogImp::SetForceInitialFolder(const wchar_t* text) {
     CNavPathname path;
     path.Parse(text, false);
     m_options.forceInitialFolder = fullText(path);
-    if (!path.Exists()) {
+    if (!path.Exists() || (!path.GetIsURL() && path.GetType() != CZoUiPathname::Directory)) {
         m_options.forceInitialFolder.Empty();
     }
 }
@@ -118,7 +119,10 @@ void CNavDialogImp::SetFilterIndex(int index) {
     }
     m_fileType.SetCurSel(index);
     m_options.filterIndex = index;
-    OnFilterChange();
+    setCurrentFilter(m_filters.GetData(index));
+    if (m_browser.GetCurrentObjectID()) {
+        m_browser.BrowseCurrentObject();
+    }
 }
 
 unsigned long CNavDialogImp::GetInitialFilterIndex() {

@@ -66,7 +66,9 @@ int CNavDialogImp::getAllDialogsData(const CString& name, CString& value) {
 
 void CNavDialogImp::SaveCurrentStates() {
     SavePlacesList();
-    m_facade.SetDialogData(L"InitialFilterIndex", static_cast<unsigned long>(GetFilterIndex()));
+    if (const int index = GetFilterIndex(); index >= 0) {
+        m_facade.SetDialogData(L"InitialFilterIndex", static_cast<unsigned long>(index));
+    }
     m_facade.SetDialogData(L"ViewMode", static_cast<unsigned long>(m_browser.GetViewMode()));
     CString folder;
     GetCurrentFolderForPersistence(folder);

@@ -75,17 +75,20 @@ void CNavDialogImp::InitializeDialogData() {
     const CString folder = initialFolderText();
     startFileTypes();
     startButtons();
-    SetFilterIndex(static_cast<int>(GetInitialFilterIndex()));
+    startFilter();
     m_appendCompletion = GetAutoCompleteRegValue();
     startLookIn();
     showInitialFolder(folder);
     pushOptionsToControls();
     SyncListToComboBox();
+    showSomeFolder();
     if (!m_options.okButtonText.IsEmpty() && m_okButton.GetSafeHwnd()) {
         m_okButton.SetWindowText(m_options.okButtonText);
     }
     loadFileNameHistory();
     startFileName();
+    m_toolsButton.SetZoUiParent(&m_facade);
+    m_viewsButton.SetZoUiParent(&m_facade);
     m_facade.UpdateUIState();
     m_placesListCustomized = false;
     startPlaces();
@@ -165,6 +168,14 @@ void CNavDialogImp::startFileTypes() {
     }
 }
 
+/// A remembered or forced type that this dialog does not have leaves the one that the list shows.
+void CNavDialogImp::startFilter() {
+    SetFilterIndex(static_cast<int>(GetInitialFilterIndex()));
+    if (m_currentFilter == &m_noFilter) {
+        SetFilterIndex(GetFilterIndex());
+    }
+}
+
 void CNavDialogImp::startButtons() {
     for (CNavBitmapButton* button : {&m_backButton, &m_upButton, &m_deleteButton, &m_webButton, &m_newFolderButton}) {
         if (button->GetSafeHwnd()) {
@@ -208,6 +219,16 @@ void CNavDialogImp::showInitialList(ITEMIDLIST* list) {
     }
     m_lookIn.SetCurSel(m_lookIn.FillToFolder(list));
     AddItemToPrevious(list);
+}
+
+/// The initial folder could be bound but not shown (it may be closed to the user): the dialog opens somewhere all the
+/// same.
+void CNavDialogImp::showSomeFolder() {
+    for (const CString& fallback : {executableFolder(), windowsFolder()}) {
+        if (m_browser.GetCurrentShellView() || !m_buddy.GetSafeHwnd() || NavigateToFolder(fallback)) {
+            return;
+        }
+    }
 }
 
 void CNavDialogImp::startFileName() {

@@ -55,10 +55,12 @@ int CNavDialogImp::AddFileNameToMRU(const CString& name) {
         m_fileName.InsertString(0, *entry);
         // Deleting the item that the field shows empties the field.
         setFileNameText(text);
-    } else if (found < 0 && (base.IsEmpty() || m_fileName.FindStringExact(-1, base) < 0)) {
-        m_fileName.InsertString(0, *entry);
+        return 1;
     }
-    return 1;
+    if (found < 0 && (base.IsEmpty() || m_fileName.FindStringExact(-1, base) < 0)) {
+        return m_fileName.InsertString(0, *entry) >= 0;
+    }
+    return 0;
 }
 
 void CNavDialogImp::AddDataToHistory() {

@@ -11,12 +11,6 @@ namespace {
 constexpr std::wstring_view kSeparators = L"\\/";
 constexpr std::wstring_view kWildcards = L"*?";
 
-/// Only a pattern such as "*.dwg" says which extension a name gets; "*.*" or "*.dw?" would make names nobody can use.
-bool namesOneExtension(std::wstring_view pattern) {
-    return pattern.starts_with(L"*.") && pattern.size() > 2 &&
-           pattern.find_first_of(kWildcards, 1) == std::wstring_view::npos;
-}
-
 bool isBlank(wchar_t c) {
     return std::iswspace(c) != 0;
 }
@@ -137,9 +131,14 @@ std::optional<std::wstring> pathOfFileUrl(std::wstring_view url) {
     return path;
 }
 
+bool namesOneExtension(std::wstring_view pattern) {
+    return pattern.starts_with(L"*.") && pattern.size() > 2 &&
+           pattern.find_first_of(kWildcards, 1) == std::wstring_view::npos;
+}
+
 ExtensionOutcome withFilterExtension(std::wstring_view name, const ExtensionFacts& facts) {
     const std::wstring_view pattern = facts.filterPattern;
-    const ExtensionOutcome unchanged{std::wstring(name), 1};
+    ExtensionOutcome unchanged{std::wstring(name), 1};
     const bool wild = name.find_first_of(kWildcards) != std::wstring_view::npos;
     if (wild || name.empty() || !namesOneExtension(pattern)) {
         return unchanged;
@@ -232,7 +231,7 @@ std::optional<std::wstring> driveOf(std::wstring_view name) {
 std::wstring withExtensionOf(std::wstring_view name, std::wstring_view pattern) {
     const std::size_t nameDot = name.rfind(L'.');
     const std::size_t patternDot = pattern.rfind(L'.');
-    if (nameDot == std::wstring_view::npos || patternDot == std::wstring_view::npos) {
+    if (nameDot == std::wstring_view::npos || !namesOneExtension(pattern)) {
         return std::wstring(name);
     }
     return std::wstring(name.substr(0, nameDot + 1)) + std::wstring(pattern.substr(patternDot + 1));

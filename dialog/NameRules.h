@@ -49,6 +49,9 @@ struct ExtensionFacts {
     const void* context = nullptr;
 };
 
+/// Whether a pattern says which extension a name gets: "*.dwg" does; "*.*" or "*.dw?" would make names nobody can use.
+bool namesOneExtension(std::wstring_view pattern);
+
 struct ExtensionOutcome {
     std::wstring name;
     int result = 1;  ///< 0: a foreign extension was left alone in a dialog that opens files

@@ -156,7 +156,10 @@ unsigned long ask(NetworkProbe& probe, const NetworkName& name, const std::wstri
         GetFileAttributesW((name.server + L"\\" + name.share).c_str()) != INVALID_FILE_ATTRIBUTES) {
         return NO_ERROR;
     }
-    return error;
+    // A location that refuses to be listed, or wants a login, is there.
+    const bool answered =
+        error == ERROR_ACCESS_DENIED || error == ERROR_LOGON_FAILURE || error == ERROR_INVALID_PASSWORD;
+    return answered ? NO_ERROR : error;
 }
 
 unsigned codeOf(unsigned long error) {

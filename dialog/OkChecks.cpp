@@ -16,13 +16,18 @@
 
 namespace {
 
-/// Makes a drive current to find out whether it can be used, and goes back.
+/// Makes a drive current to find out whether it can be used, and goes back. The system shows no box of its own for an
+/// empty drive.
 bool canBeCurrent(const std::wstring& drive) {
-    const int previous = _getdrive();
+    wchar_t previous[MAX_PATH + 1];
+    const DWORD length = GetCurrentDirectoryW(MAX_PATH + 1, previous);
+    DWORD mode = 0;
+    SetThreadErrorMode(SEM_FAILCRITICALERRORS, &mode);
     const bool ready = _chdrive(drive[0] - L'A' + 1) == 0;
-    if (ready) {
-        _chdrive(previous);
+    if (ready && length > 0 && length <= MAX_PATH) {
+        SetCurrentDirectoryW(previous);
     }
+    SetThreadErrorMode(mode, nullptr);
     return ready;
 }
 

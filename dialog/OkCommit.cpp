@@ -29,7 +29,7 @@ int CNavDialogImp::CommitFileNameEdit() {
     if (path.ParseRelative(text, &folder, node, 1) == PathErr::None) {
         return commitParsed(*item, path, node);
     }
-    return commitUnparsed(*item, text, folder, node);
+    return commitUnparsed(*item, text, path);
 }
 
 int CNavDialogImp::commitParsed(CNavData& item, CNavPathname& path, CNavNode* node) {
@@ -62,6 +62,10 @@ int CNavDialogImp::acceptFile(CNavData& item, CNavPathname& path, CNavNode* node
         return 1;
     }
     if (!path.GetIsExtension()) {
+        // A text such as "\name" depends on the folder that was shown when it was typed; the full path does not.
+        if (CString full; path.GetFullPath(full)) {
+            item.SetText(full);
+        }
         item.SetDataType(NavIsUNCPath(path.GetPathString()) ? NAV_DATA_NETWORK : NAV_DATA_FILE);
         return 1;
     }
@@ -78,9 +82,7 @@ int CNavDialogImp::acceptFile(CNavData& item, CNavPathname& path, CNavNode* node
     return 1;
 }
 
-int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathname& folder, CNavNode* node) {
-    CNavPathname path;
-    path.ParseRelative(text, &folder, node, 1);
+int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathname& path) {
     if (path.GetType() == CZoUiPathname::Wildcard) {
         NavigateToWildCard(path);
         return 0;
@@ -92,8 +94,9 @@ int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathn
     const wchar_t last = text.GetAt(text.GetLength() - 1);
     if (NavIsURL(text) && ((last != L'/' && last != L'\\') || m_options.foldersOnly)) {
         item.SetDataType(NAV_DATA_URL);
-        path.Parse(text, false);
-        item.SetPathname(&path);
+        CNavPathname url;
+        url.Parse(text, false);
+        item.SetPathname(&url);
         return 1;
     }
     const knav::TaskDialogPair pairs[] = {
@@ -109,17 +112,25 @@ int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathn
 
 void CNavDialogImp::enterTypedFolder(CNavPathname& folder) {
     const bool dirty = m_fileNameEditDirty;
-    NavigateToDir(folder);
+    if (!NavigateToDir(folder)) {
+        CString path;
+        folder.GetFullPath(path);
+        knav::showMessage(IDS_KNAV_INVALID_PATH, path);
+        refuseFileName();
+        return;
+    }
     if (dirty) {
         setFileNameText(CString());
+        m_fileNameEditDirty = false;
     }
 }
 
 void CNavDialogImp::parseOtherItems() {
     for (int i = 1; i < m_data.GetCount(); ++i) {
         CNavData* item = m_data.GetData(i);
+        const bool isFile = item && (item->GetDataType() == NAV_DATA_FILE || item->GetDataType() == NAV_DATA_NETWORK);
         CNavPathname path;
-        if (item && (path.Parse(item->GetText(), true) == PathErr::None || path.GetIsURL())) {
+        if (isFile && path.Parse(item->GetText(), true) == PathErr::None) {
             item->SetPathname(&path);
         }
     }

@@ -50,7 +50,7 @@ OkHandlerErr CNavDialogImp::finishItem(CNavData& item) {
     UpdateFileExtension(text, 0);
     resolveShortcut(item, text);
     item.SetText(text);
-    if (CString name = item.GetTextInFolder(); isRoot(nodeForNames()) && !name.IsEmpty()) {
+    if (CString name = item.GetTextInFolder(); isRoot(currentFolderNode()) && !name.IsEmpty()) {
         item.SetText(name);
     }
     classifyItem(item, text);
@@ -85,11 +85,6 @@ void CNavDialogImp::classifyItem(CNavData& item, const CString& text) {
     }
 }
 
-CNavNode* CNavDialogImp::nodeForNames() {
-    CNavNode* node = lookInNode();
-    return node ? node : currentFolderNode();
-}
-
 std::optional<CString> CNavDialogImp::folderTextForNames(CNavNode* node, CString& prefix, bool& unnamed) {
     unnamed = false;
     CString folder;
@@ -110,7 +105,7 @@ std::optional<CString> CNavDialogImp::folderTextForNames(CNavNode* node, CString
 
 OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CString& text) {
     text = item->GetText();
-    CNavNode* node = nodeForNames();
+    CNavNode* node = currentFolderNode();
     if (isRoot(node)) {
         return OkErrNone;
     }
@@ -146,11 +141,11 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
 }
 
 int CNavDialogImp::UpdateFileExtension(CString& name, int replace) {
-    if (IsExistingFolder(name)) {
-        return 1;
-    }
     CString pattern;
     GetCurrentFileExtension(pattern);
+    if (!knav::namesOneExtension(pattern.view()) || IsExistingFolder(name)) {
+        return 1;
+    }
     knav::ExtensionFacts facts{pattern.view(), replace != 0, m_options.creatingFile != 0,
                                m_options.acceptAnyFileExtension != 0};
     facts.context = &m_filters;

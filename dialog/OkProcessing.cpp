@@ -1,12 +1,13 @@
 // The road from OK to a closed dialog, as the list of decisions that it is.
 #include <knav/CNavDataArray.h>
 #include <knav/FileDialogAllowReturnFolderEnabler.h>
-#include <platform/CWaitCursor.h>
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
 #include "dialog/NameRules.h"
+#include "dialog/ScopedFlag.h"
 #include "resources/ids.h"
+#include "shell/TextRules.h"
 
 namespace {
 
@@ -21,6 +22,20 @@ bool isFileType(NAV_DATA_TYPE type) {
 }  // namespace
 
 void CNavDialogImp::OnOK() {
+    // Prompts and hooks pump messages: the items that are being worked on must not change under them.
+    if (m_inOk) {
+        return;
+    }
+    {
+        const knav::ScopedFlag inOk(m_inOk);
+        processOk();
+    }
+    if (std::exchange(m_selectionMissed, false) && !m_closing) {
+        postToSelf(OwnMessage::SyncSelection);
+    }
+}
+
+void CNavDialogImp::processOk() {
     if (!m_lookIn.GetSafeHwnd() || m_inShellViewRegen || !m_okButton.GetSafeHwnd() || !m_okButton.IsWindowEnabled()) {
         return;
     }
@@ -36,6 +51,7 @@ void CNavDialogImp::OnOK() {
         first->SetText(directory);
     }
     if (m_facade.OnFileNameOK()) {
+        m_closing = true;
         parseOtherItems();
         AddDataToHistory();
         m_facade.CZoUiDialog::OnOK();
@@ -64,6 +80,7 @@ int CNavDialogImp::SendCurrentFolderToData() {
     }
     item->SetText(text);
     item->SetPathname(&folder);
+    item->SetDataType(NavIsUNCPath(text) ? NAV_DATA_NETWORK : NAV_DATA_FILE);
     return 1;
 }
 
@@ -112,8 +129,17 @@ int CNavDialogImp::OnFileNameOK() {
             return 0;
         }
     }
+    rememberName();
     SaveCurrentStates();
     return 1;
+}
+
+void CNavDialogImp::rememberName() {
+    const CNavData* first = m_data.GetData(0);
+    if (first && m_fileName.GetSafeHwnd()) {
+        AddFileNameToMRU(first->GetText());
+        saveFileNameHistory();
+    }
 }
 
 void CNavDialogImp::reportNameError(OkHandlerErr error) {
