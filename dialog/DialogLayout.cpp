@@ -23,13 +23,24 @@ bool isComboBox(HWND window) {
     return isOfClass(window, L"ComboBox");
 }
 
-// To size a combo box is to size its list as well.
-int heightToSet(HWND window, const RECT& at) {
-    if (!isComboBox(window))
-        return at.bottom - at.top;
+int droppedHeight(HWND combo) {
     RECT dropped{};
-    SendMessageW(window, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
-    return std::max<int>(dropped.bottom - dropped.top, at.bottom - at.top);
+    SendMessageW(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
+    return dropped.bottom - dropped.top;
+}
+
+// To size a combo box is to size its list as well. Whether the height that it reports has its field in it differs
+// between systems, so it is tried out; afterwards the box is as it was.
+int heightToSet(HWND combo) {
+    const RECT at = rectIn(combo, combo);
+    const auto setHeight = [combo, width = at.right - at.left](int height) {
+        SetWindowPos(combo, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
+    };
+    const int wanted = droppedHeight(combo);
+    setHeight(wanted);
+    const int height = wanted + (wanted - droppedHeight(combo));
+    setHeight(height);
+    return height;
 }
 
 // A combo box selects its whole text when it is resized; the user's selection is put back.
@@ -82,9 +93,12 @@ void DialogLayout::capture(HWND dialog, std::span<const GrowRow> rows, UINT body
         body = rectIn(dialog, control);
     m_layout = Layout({client.right, client.bottom}, rows, bodyId, body);
     m_windows.clear();
+    m_comboHeights.clear();
     for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         m_layout.add(static_cast<UINT>(GetDlgCtrlID(child)), rectIn(dialog, child));
         m_windows.push_back(child);
+        if (isComboBox(child))
+            m_comboHeights[child] = heightToSet(child);
     }
     if (!m_grip && (GetWindowLongPtrW(dialog, GWL_STYLE) & WS_THICKFRAME))
         m_grip = createGrip(dialog);
@@ -106,7 +120,9 @@ void DialogLayout::move(HDWP& moves, size_t index, SIZE client) const {
     const RECT from = rectIn(m_dialog, window);
     if (EqualRect(&from, &to))
         return;
-    moves = DeferWindowPos(moves, window, nullptr, to.left, to.top, to.right - to.left, heightToSet(window, to),
+    const auto combo = m_comboHeights.find(window);
+    const int height = combo == m_comboHeights.end() ? to.bottom - to.top : combo->second;
+    moves = DeferWindowPos(moves, window, nullptr, to.left, to.top, to.right - to.left, height,
                            SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
 

@@ -2,6 +2,8 @@
 // window, moves the controls in one go, and keeps the resize grip in the corner.
 #pragma once
 
+#include <map>
+
 #include "dialog/Layout.h"
 
 namespace knav {
@@ -34,6 +36,7 @@ private:
     SIZE m_minTrack{};
     Layout m_layout;
     std::vector<HWND> m_windows;
+    std::map<HWND, int> m_comboHeights;  // with their lists
 };
 
 }  // namespace knav

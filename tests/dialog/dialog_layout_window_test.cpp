@@ -1,0 +1,113 @@
+#include "dialog/DialogLayout.h"
+
+#include <gtest/gtest.h>
+
+namespace knav {
+namespace {
+
+constexpr UINT kBody = 1;
+constexpr UINT kCombo = 2;
+constexpr UINT kRight = 3;
+
+constexpr GrowRow kRows[] = {{kCombo, Grow::Stretch, Grow::Move}, {kRight, Grow::Move, Grow::Stay}};
+
+/// A window with a body, a combo box below it and a button at its right, laid out by its own WM_SIZE.
+class LayoutWindow : public testing::TestWithParam<DWORD> {
+protected:
+    LayoutWindow() {
+        m_window = CreateWindowExW(GetParam(), L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300,
+                                   nullptr, nullptr, nullptr, nullptr);
+        add(L"STATIC", 0, kBody, {10, 10, 250, 150});
+        m_combo = add(L"COMBOBOX", CBS_DROPDOWN, kCombo, {10, 170, 250, 300});
+        m_right = add(L"BUTTON", 0, kRight, {260, 10, 330, 34});
+        m_layout.capture(m_window, kRows, kBody);
+    }
+    ~LayoutWindow() override { DestroyWindow(m_window); }
+
+    HWND add(const wchar_t* className, DWORD style, UINT id, RECT at) {
+        return CreateWindowExW(0, className, L"text", WS_CHILD | WS_VISIBLE | style, at.left, at.top,
+                               at.right - at.left, at.bottom - at.top, m_window,
+                               reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), nullptr, nullptr);
+    }
+
+    RECT at(HWND control) {
+        RECT place{};
+        GetWindowRect(control, &place);
+        MapWindowPoints(nullptr, m_window, reinterpret_cast<POINT*>(&place), 2);
+        return place;
+    }
+
+    void grow(int across, int down) {
+        SetWindowPos(m_window, nullptr, 0, 0, 400 + across, 300 + down, SWP_NOMOVE | SWP_NOZORDER);
+        RECT client{};
+        GetClientRect(m_window, &client);
+        m_layout.apply(client.right, client.bottom);
+    }
+
+    HWND m_window;
+    HWND m_combo;
+    HWND m_right;
+    DialogLayout m_layout;
+};
+
+TEST_P(LayoutWindow, grown_movesAndStretchesItsControls) {
+    const RECT body = m_layout.bodyRect();
+    const RECT combo = at(m_combo);
+    const RECT right = at(m_right);
+    grow(100, 60);
+    EXPECT_EQ(body.right + 100, m_layout.bodyRect().right);
+    EXPECT_EQ(body.bottom + 60, m_layout.bodyRect().bottom);
+    EXPECT_EQ(combo.left, at(m_combo).left);
+    EXPECT_EQ(combo.right + 100, at(m_combo).right);
+    EXPECT_EQ(combo.top + 60, at(m_combo).top);
+    EXPECT_EQ(right.left + 100, at(m_right).left);
+    EXPECT_EQ(right.top, at(m_right).top);
+    grow(0, 0);
+    const RECT back = at(m_combo);
+    EXPECT_TRUE(EqualRect(&combo, &back)) << "and all the way back";
+}
+
+TEST_P(LayoutWindow, comboBox_keepsItsListAndItsSelection) {
+    const auto droppedHeight = [this] {
+        RECT dropped{};
+        SendMessageW(m_combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
+        return dropped.bottom - dropped.top;
+    };
+    const LONG height = droppedHeight();
+    SetWindowTextW(m_combo, L"plan.dwg");
+    SendMessageW(m_combo, CB_SETEDITSEL, 0, MAKELPARAM(2, 4));
+    grow(50, 0);
+    EXPECT_EQ(height, droppedHeight());
+    EXPECT_EQ(MAKELONG(2, 4), SendMessageW(m_combo, CB_GETEDITSEL, 0, 0));
+}
+
+TEST_P(LayoutWindow, smallestSize_isTheTemplatesOwn) {
+    EXPECT_EQ(400, m_layout.minTrack().cx);
+    EXPECT_EQ(300, m_layout.minTrack().cy);
+}
+
+TEST_P(LayoutWindow, grip_staysInTheCornerAndGoesWhenMaximised) {
+    HWND grip = FindWindowExW(m_window, nullptr, L"SCROLLBAR", nullptr);
+    ASSERT_NE(nullptr, grip);
+    grow(70, 70);
+    RECT client{};
+    GetClientRect(m_window, &client);
+    EXPECT_EQ(client.right, at(grip).right);
+    EXPECT_EQ(client.bottom, at(grip).bottom);
+    ShowWindow(m_window, SW_MAXIMIZE);
+    m_layout.apply(2000, 1000);
+    EXPECT_FALSE(IsWindowVisible(grip));
+}
+
+TEST_P(LayoutWindow, minimised_isLeftAlone) {
+    const RECT combo = at(m_combo);
+    m_layout.apply(0, 0);
+    const RECT now = at(m_combo);
+    EXPECT_TRUE(EqualRect(&combo, &now));
+}
+
+INSTANTIATE_TEST_SUITE_P(Directions, LayoutWindow, testing::Values(DWORD{0}, DWORD{WS_EX_LAYOUTRTL}),
+                         [](const auto& row) { return row.param ? "Mirrored" : "LeftToRight"; });
+
+}  // namespace
+}  // namespace knav
