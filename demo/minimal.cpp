@@ -1,9 +1,7 @@
 // The smallest host: one Open dialog.
 #include <knav/knav.h>
 
-#include <cstdio>
-
-int wmain() {
+int main() {
     CNavFilterArray filters;
     filters.SetFrom(L"Drawings (*.dwg)\0*.dwg\0All files (*.*)\0*.*\0", 1);
     CNavDataArray chosen;
@@ -15,7 +13,7 @@ int wmain() {
         return 1;
     }
     for (int i = 0; i < chosen.GetCount(); ++i) {
-        std::printf("%ls\n", chosen.GetData(i)->GetText());
+        MessageBoxW(nullptr, chosen.GetData(i)->GetText(), L"Chosen", MB_OK);
     }
     return 0;
 }

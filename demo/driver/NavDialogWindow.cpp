@@ -136,6 +136,17 @@ void knav::input::NavDialogWindow::open(const std::wstring& name) const {
     click(itemPoint(name), 2);
 }
 
+void knav::input::NavDialogWindow::focusFileType() const {
+    const HWND combo = GetDlgItem(m_dialog, IDC_KNAV_FILE_TYPE);
+    for (int opensAndCloses = 0; opensAndCloses < 2; ++opensAndCloses) {
+        click(middleOf(combo));
+        waitUntilHandled();
+    }
+    if (focusOf(m_dialog) != combo) {
+        throw std::runtime_error("the list of file types does not take the focus");
+    }
+}
+
 void knav::input::NavDialogWindow::pressOk() const {
     click(middleOf(GetDlgItem(m_dialog, IDOK)));
 }

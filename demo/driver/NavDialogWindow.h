@@ -23,6 +23,8 @@ public:
     void select(const std::vector<std::wstring>& names) const;
     /// Double-clicks the item of that name.
     void open(const std::wstring& name) const;
+    /// Clicks into the list of file types without opening it.
+    void focusFileType() const;
     void pressOk() const;
     void pressEnter() const;
     void pressEscape() const;

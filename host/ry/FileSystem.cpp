@@ -51,7 +51,7 @@ private:
 };
 
 Answer askInTime(const std::wstring& path, FolderProbe probe, DWORD limit) {
-    auto question = std::make_unique<Question>(std::move(probe), path, std::promise<bool>());
+    std::unique_ptr<Question> question(new Question{std::move(probe), path, {}});
     std::future<bool> answer = question->answer.get_future();
     if (!LongCallback().submit(&ask, question.get())) {
         return Answer::none;

@@ -39,7 +39,7 @@ int main() {
     expect(filters.GetCount() == 2, "two file types");
 
     CNavPathname path;
-    expect(path.Parse(L"C:\\windows", 0) != 0, "a folder parses");
+    expect(path.Parse(L"C:\\windows", false) == PathErr::None, "a folder parses");
 
     CNavDataArray chosen;
     CancelledDialog dialog(chosen, filters);
