@@ -1,5 +1,10 @@
 // What the library's own part of listing, naming and showing folders costs, next to the platform calls below it.
-#include <knav/knav.h>
+#include <knav/CNavFilter.h>
+#include <knav/CNavShell.h>
+#include <knav/CNavTree.h>
+#include <knav/NavFolders.h>
+#include <knav/NavItemList.h>
+#include <knav/NavNames.h>
 #include <platform/GdiOwners.h>
 #include <platform/OleScope.h>
 
