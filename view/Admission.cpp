@@ -11,6 +11,7 @@
 #include <knav/NavLinks.h>
 #include <knav/NavNames.h>
 
+#include <array>
 #include <utility>
 
 namespace knav {
@@ -20,6 +21,17 @@ constexpr SFGAOF kAsked = SFGAO_FILESYSTEM | SFGAO_FOLDER | SFGAO_FILESYSANCESTO
 
 // The network's "Computers near me" stands for a place although it has no attribute that says so.
 constexpr const wchar_t* kComputersNearMe = L"{D4480A50-BA28-11D1-8E75-00C04FA31A86}";
+
+// Some shells record a shortcut's folder as if it were a file, so that it does not bind. Only a fixed disk is asked:
+// the user waits for every item.
+bool isFolderOnFixedDisk(const ITEMIDLIST* target) {
+    std::array<wchar_t, MAX_PATH> path{};
+    if (!SHGetPathFromIDListW(target, path.data()) || PathGetDriveNumberW(path.data()) < 0) {
+        return false;
+    }
+    const wchar_t root[] = {path[0], L':', L'\\', L'\0'};
+    return GetDriveTypeW(root) == DRIVE_FIXED && PathIsDirectoryW(path.data());
+}
 
 }  // namespace
 
@@ -79,7 +91,7 @@ bool Admission::allowsTarget(const Question& question) const {
     if (!target) {
         return false;
     }
-    if (ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(target.get()))) {
+    if (ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(target.get())) || isFolderOnFixedDisk(target.get())) {
         return true;
     }
     CString name;

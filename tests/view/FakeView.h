@@ -36,6 +36,7 @@ struct ViewScript {
     bool offersView2 = true;
     bool offersFolderView = true;
     int focusedItem = 0;
+    SFGAOF attributes = 0;                ///< of every item of the folder
     std::vector<std::wstring> selection;  ///< names of the selected items
 
     DWORD paramsSize = 0;

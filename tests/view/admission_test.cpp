@@ -5,6 +5,7 @@
 #include "support/FakeFolder.h"
 #include "support/Printers.h"
 #include "support/ScopedTempFolder.h"
+#include "view/FakeView.h"
 
 #include <gtest/gtest.h>
 
@@ -85,14 +86,17 @@ TEST_F(AdmissionOf, ForeignFolder_IsShownInsideAnExtension) {
     EXPECT_TRUE(ask(root.get(), L"site", SFGAO_FOLDER, &everything, false));
 }
 
-TEST_F(AdmissionOf, MyComputerAndNetwork_AreShownOnTheDesktop) {
+TEST_F(AdmissionOf, MyComputerAndNetwork_AreShownThoughTheyAreForeignFolders) {
     CNavFilter drawings;
     drawings.Add(L"*.dwg");
-    Admission admission;
+    ViewScript script;
+    script.attributes = SFGAO_FOLDER;
     const auto desktop = special(CSIDL_DESKTOP);
-    admission.setFolder(desktop.get(), nullptr);
+    Admission admission;
+    admission.setFolder(desktop.get(), makeViewFolder(script));
     EXPECT_TRUE(admission.allows(m_drives.get(), &drawings, false));
     EXPECT_TRUE(admission.allows(m_network.get(), &drawings, true));
+    EXPECT_FALSE(admission.allows(special(CSIDL_BITBUCKET).get(), &drawings, false));
     EXPECT_FALSE(admission.allows(nullptr, &drawings, false));
 }
 
