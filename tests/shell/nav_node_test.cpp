@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 #include <knav/CNavShell.h>
+#include <knav/NavFolders.h>
 
 #include <memory>
 
+#include "shell/SpecialItems.h"
 #include "support/ItemLists.h"
 #include "support/ObjectCounts.h"
 #include "support/TestExtension.h"
@@ -24,6 +26,8 @@ protected:
         node->SetType(type);
         return node;
     }
+
+    static void freeList(CNavNode& node) { ItemList::adopt(node.GetID()).reset(); }
 
     static std::vector<CString> childNames(const CNavNode& node) {
         std::vector<CString> names;
@@ -227,6 +231,80 @@ TEST_F(NavNode, ExpandingShowsWhatHasAPathAndEverythingOfAnExtension) {
     }
     folder->set(FolderCall::EnumObjects, Conduct::Fails);
     EXPECT_FALSE(nodeOver(folder)->ExpandFolder(nullptr, 1, SHCONTF_FOLDERS));
+}
+
+// The single element of a special location as the name that gives a fake folder's item the same bytes.
+std::wstring nameLike(int csidl) {
+    const auto list = ItemList::adopt(NavGetSpecialFolderItem(nullptr, csidl));
+    const auto bytes = static_cast<std::size_t>(NavGetItemElementSize(list.get())) - sizeof(USHORT);
+    std::wstring name(bytes / sizeof(wchar_t), L'\0');
+    std::memcpy(name.data(), list.get()->mkid.abID, bytes);
+    return name;
+}
+
+TEST_F(NavNode, InternetRootIsShownOnTheDesktopAndPresentedByTheNetwork) {
+    const auto folder = FakeFolder::make(L"desktop");
+    folder->add(nameLike(CSIDL_INTERNET), SFGAO_FOLDER, FakeFolder::make(L"internet"))
+        .add(L"virtual", SFGAO_FOLDER, FakeFolder::make(L"virtual"))
+        .add(nameLike(CSIDL_NETWORK), SFGAO_FOLDER | SFGAO_FILESYSANCESTOR, FakeFolder::make(L"network"));
+    const auto desktop = nodeOver(folder);
+    freeList(*desktop);
+    desktop->SetID(makeList({}).release());
+    ASSERT_TRUE(desktop->ExpandFolder(nullptr, 1, SHCONTF_FOLDERS));
+    CNavNode* const internet = desktop->GetChild();
+    ASSERT_NE(internet, nullptr);
+    CNavNode* const network = internet->GetNext();
+    ASSERT_NE(network, nullptr);
+    EXPECT_TRUE(NavIsInternetRoot(internet->GetID()));
+    EXPECT_TRUE(NavIsNetwork(network->GetID()));
+    EXPECT_EQ(internet->GetDisplayNode(), network);
+    EXPECT_EQ(network->GetNext(), nullptr);
+
+    const auto elsewhere = nodeOver(folder);
+    ASSERT_TRUE(elsewhere->ExpandFolder(nullptr, 1, SHCONTF_FOLDERS));
+    EXPECT_EQ(elsewhere->GetChild()->GetNext(), nullptr) << "only the desktop shows the internet root";
+    EXPECT_TRUE(NavIsNetwork(elsewhere->GetChild()->GetID()));
+    EXPECT_EQ(elsewhere->GetChild()->GetDisplayNode(), nullptr);
+}
+
+TEST_F(NavNode, ChainBelowTheInternetRootHasItsTypes) {
+    const auto site = FakeFolder::make(L"site");
+    const auto internet = FakeFolder::make(L"internet");
+    const auto folder = FakeFolder::make(L"desktop");
+    site->add(L"page", 0);
+    internet->add(L"site", SFGAO_FOLDER, site);
+    folder->add(nameLike(CSIDL_INTERNET), SFGAO_FOLDER, internet);
+    const auto node = nodeOver(folder);
+    const ItemList list =
+        ItemList::join(FakeFolder::item(nameLike(CSIDL_INTERNET)).get(), FakeFolder::item(L"site/page").get());
+    CNavNode* const page = node->ExpandNode(list.get(), nullptr);
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(page->GetType(), NavNodeInternetItem);
+    EXPECT_EQ(page->GetSiteNode(), page->GetParent());
+    EXPECT_EQ(page->GetParent()->GetParent()->GetType(), NavNodeInternetRoot);
+    EXPECT_TRUE(NavIsInternetSiteItem(list.get()));
+    EXPECT_FALSE(NavIsInternetSiteItem(ItemList::firstOf(list.get()).get())) << "the root itself is no site";
+}
+
+TEST_F(NavNode, WebFoldersAreKnownByTheirClassInMyComputer) {
+    constexpr BYTE element[] = {0x2E, 0x00, 0x00, 0xDF, 0xEA, 0xBD, 0x65, 0xC2, 0xD0,
+                                0x11, 0xBC, 0xED, 0x00, 0xA0, 0xC9, 0x0A, 0xB5, 0x0F};
+    const std::wstring name(reinterpret_cast<const wchar_t*>(element), sizeof element / sizeof(wchar_t));
+    const auto web = FakeFolder::make(L"web");
+    const auto drives = FakeFolder::make(L"drives");
+    web->add(L"site", SFGAO_FOLDER, FakeFolder::make(L"site"));
+    drives->add(name, SFGAO_FOLDER, web).add(L"virtual", SFGAO_FOLDER, FakeFolder::make(L"virtual"));
+    const auto node = nodeOver(drives);
+    freeList(*node);
+    node->SetID(NavGetDrivesFolderItem(nullptr));
+    ASSERT_TRUE(node->ExpandFolder(nullptr, 1, SHCONTF_FOLDERS));
+    ASSERT_NE(node->GetChild(), nullptr);
+    EXPECT_EQ(node->GetChild()->GetType(), NavNodeWebFoldersRoot);
+    EXPECT_EQ(node->GetChild()->GetNext(), nullptr);
+    CNavNode* const site = node->ExpandNode(FakeFolder::item(name + L"/site").get(), nullptr);
+    ASSERT_NE(site, nullptr);
+    EXPECT_EQ(site->GetType(), NavNodeWebFolderSite);
+    EXPECT_FALSE(NavIsWebFoldersItem(node->GetID()));
 }
 
 TEST_F(NavNode, ChainHasANodeForEachElement) {
