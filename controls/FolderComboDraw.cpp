@@ -15,7 +15,8 @@ bool isSelectionField(const DRAWITEMSTRUCT& item) {
     return (item.itemState & ODS_COMBOBOXEDIT) != 0;
 }
 
-// A theme paints the selection field itself, and no highlight belongs on it.
+// A theme paints the selection field itself, also while it has the focus. A text in the colour of highlighted text
+// would be lost on it.
 bool isPaintedByTheme(const DRAWITEMSTRUCT& item) {
     return isSelectionField(item) && IsAppThemed() && IsThemeActive();
 }
@@ -29,9 +30,10 @@ void CNavFolderComboBox::DrawItem(DRAWITEMSTRUCT* item) {
         return;
     }
     knav::atApiEdge([&] {
-        const bool selected = (item->itemState & ODS_SELECTED) != 0;
+        const bool themed = isPaintedByTheme(*item);
+        const bool selected = (item->itemState & ODS_SELECTED) != 0 && !themed;
         const zoui::SelectedObject font(item->hDC, GetFont());
-        if (!isPaintedByTheme(*item)) {
+        if (!themed) {
             FillRect(item->hDC, &item->rcItem, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
         }
         const int left = item->rcItem.left + pictureLeft(*node, isSelectionField(*item));
@@ -56,8 +58,8 @@ int CNavFolderComboBox::pictureLeft(const CNavNode& node, bool selectionField) c
 
 void CNavFolderComboBox::drawPicture(const DRAWITEMSTRUCT& item, const CNavNode& node, int left) const {
     const int top = item.rcItem.top;
-    if (node.GetIcon() != nullptr) {
-        DrawIconEx(item.hDC, left, top, node.GetIcon(), m_iconWidth, m_iconHeight, 0, nullptr, DI_NORMAL);
+    if (const HICON icon = node.GetIcon()) {
+        DrawIconEx(item.hDC, left, top, icon, m_iconWidth, m_iconHeight, 0, nullptr, DI_NORMAL);
     }
     if (const auto overlay = m_overlays.find(&node); overlay != m_overlays.end()) {
         m_overlayIcons->draw(item.hDC, overlay->second, left, top, {m_iconWidth, m_iconHeight});
