@@ -171,6 +171,21 @@ int CNavCommDlgBrowser::BrowseCurrentObject() {
     });
 }
 
+int CNavCommDlgBrowser::RefreshView() {
+    return knav::atApiEdge(0, [this] {
+        const auto view = m_state->view;
+        if (!view) {
+            return 0;
+        }
+        knav::releaseViewWindows(*m_state);
+        const HRESULT result = knav::guarded([&view] { return view->Refresh(); });
+        if (m_state->view.get() == view.get()) {
+            knav::attachViewWindows(*this);
+        }
+        return SUCCEEDED(result) ? 1 : 0;
+    });
+}
+
 void CNavCommDlgBrowser::DestroyViewWindow(int saveState) {
     knav::atApiEdge([this, saveState] {
         if (saveState != 0) {

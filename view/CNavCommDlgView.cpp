@@ -7,12 +7,23 @@
 #include <knav/CNavListCtrl.h>
 
 #include <zoui/ZoUiNotify.h>
+#include <typeinfo>
 
 BEGIN_MESSAGE_MAP(CNavCommDlgView, CWnd)
 ON_WM_DESTROY()
 ON_WM_MEASUREITEM()
 ON_REGISTERED_MESSAGE(WM_ZOUI_NOTIFY, &CNavCommDlgView::OnZoUiMessage)
 END_MESSAGE_MAP()
+
+// The list tells the view of every row it gets, changes and loses. Only a class that a host derived from the list
+// control could want to see that before the view.
+LRESULT CNavCommDlgView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const CNavListCtrl* const list = m_browser != nullptr ? m_browser->GetListCtrl() : nullptr;
+    const bool fromPlainList = message == WM_NOTIFY && list != nullptr && list->m_hWnd != nullptr &&
+                               reinterpret_cast<const NMHDR*>(lParam)->hwndFrom == list->m_hWnd &&
+                               typeid(*list) == typeid(CNavListCtrl);
+    return fromPlainList ? DefWindowProc(message, wParam, lParam) : CWnd::WindowProc(message, wParam, lParam);
+}
 
 void CNavCommDlgView::SetTabNext(CWnd* next) {
     m_tabNext = next;

@@ -79,13 +79,23 @@ void viewWindowDestroyed(BrowserState& state, HWND window) {
     }
 }
 
-void takeOverView(CNavCommDlgBrowser& browser) {
+void attachViewWindows(CNavCommDlgBrowser& browser) {
     auto& state = browser.state();
     if (const HWND window = windowOfView(state.view.get())) {
         subclassView(browser, window);
-        takePlaceOf(*state.buddy, window);
+        if (state.buddy != nullptr) {
+            takePlaceOf(*state.buddy, window);
+        }
     }
     state.arrivals.restart();
+}
+
+void takeOverView(CNavCommDlgBrowser& browser) {
+    attachViewWindows(browser);
+    auto& state = browser.state();
+    if (const HWND list = SafeHwnd(state.listCtrl)) {
+        markThumbnails(list, state.folderSettings.ViewMode);
+    }
     if (state.browseOwner != nullptr) {
         state.browseOwner->restoreListState(state.view.get());
     }
@@ -107,7 +117,6 @@ void subclassListCtrl(CNavCommDlgBrowser& browser, HWND viewWindow) {
     list->SetWindowContextHelpId(kListHelpId);
     list->ModifyStyle(0, LVS_SHOWSELALWAYS);
     ListView_SetExtendedListViewStyleEx(window, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
-    markThumbnails(window, state.folderSettings.ViewMode);
 }
 
 FocusInView::FocusInView(const BrowserState& state) : m_state(state) {

@@ -56,6 +56,9 @@ public:
     int BrowseObject(ITEMIDLIST* list, UINT flags);
     /// Shows the current folder anew; after changes of the view mode, the filter or the options. Zero without one.
     int BrowseCurrentObject();
+    /// Has the current view read its folder again. Use it rather than the view's own Refresh: the windows are given
+    /// back for as long as it takes, which costs far less on a large folder. Zero without a view and when it fails.
+    int RefreshView();
     /// Destroys the current view; nonzero `saveState` first saves its columns as a browse would. The current folder
     /// stays known, so BrowseCurrentObject makes a new view. Safe to call without a view.
     void DestroyViewWindow(int saveState);

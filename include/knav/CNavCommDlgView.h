@@ -25,6 +25,7 @@ public:
     void SetTabNext(UINT controlId);
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnDestroy();
     void OnMeasureItem(int control, MEASUREITEMSTRUCT* item);

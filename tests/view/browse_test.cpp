@@ -262,6 +262,23 @@ TEST_F(Browse, FilteredItemThatArrives_IsTakenOutAgain_AllowedOneStays) {
     EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg", L"c.dwg", L"new.dwg", L"sub"));
 }
 
+TEST_F(Browse, Refresh_ReadsTheFolderAgainAndKeepsTheWindows) {
+    CNavFilter filter;
+    filter.Add(L"*.dwg");
+    m_host.browser.SetCurrentFilter(&filter);
+    EXPECT_FALSE(m_host.browser.RefreshView());
+    ASSERT_TRUE(m_host.browse(m_folder.path()));
+    const HWND view = m_host.viewHandle();
+    const HWND list = m_host.list();
+    m_folder.addFile(L"new.dwg");
+    m_folder.addFile(L"new.txt");
+    EXPECT_TRUE(m_host.browser.RefreshView());
+    EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg", L"c.dwg", L"new.dwg", L"sub"));
+    EXPECT_EQ(m_host.viewHandle(), view);
+    EXPECT_EQ(m_host.list(), list);
+    EXPECT_EQ(m_host.buddy.GetBuddy(), &m_host.viewWindow);
+}
+
 TEST_F(Browse, DestroyedView_ComesBackWithTheCurrentFolder) {
     ASSERT_TRUE(m_host.browse(m_folder.path()));
     m_host.browseOwner.log.clear();
