@@ -17,7 +17,7 @@ TEST_F(DialogOpen, TypedName_GivesOneItemWithItsFullPath) {
     dialog.data.AddData()->SetText(L"left by an earlier run");
     EXPECT_EQ(DialogUser(dialog).type(L"  plan.dwg ").ok().run(), IDOK);
 
-    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(file)));
+    ASSERT_THAT(dialog.chosen(), ElementsAre(wide(file)));
     const CNavData& item = *dialog.data.GetData(0);
     EXPECT_EQ(item.GetDataType(), NAV_DATA_FILE);
     EXPECT_EQ(item.GetPathname()->GetType(), CZoUiPathname::ExistingFile);
@@ -66,7 +66,7 @@ TEST_F(DialogOpen, SelectedItem_IsShownInTheFieldAndReturned) {
     DialogUser user(dialog);
     user.pick({L"a.dwg"}).untilName(L"a.dwg").pick({L"b.dwg"}).untilName(L"b.dwg").ok();
     EXPECT_EQ(user.run(), IDOK);
-    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(second)));
+    ASSERT_THAT(dialog.chosen(), ElementsAre(wide(second)));
     EXPECT_NE(dialog.data.GetData(0)->GetID(), nullptr);
 }
 

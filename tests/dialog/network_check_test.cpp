@@ -103,6 +103,13 @@ TEST(NetworkCheck, RefusedLocation_TellsInvalidNamesFromUnreachableOnes) {
     }
 }
 
+TEST(NetworkCheck, LocationThatWantsALogin_IsThere) {
+    for (const unsigned long error : {ERROR_ACCESS_DENIED, ERROR_LOGON_FAILURE, ERROR_INVALID_PASSWORD}) {
+        FakeNetwork network(error);
+        EXPECT_TRUE(checkNetworkLocation(network, L"\\\\srv\\plans").reachable) << error;
+    }
+}
+
 TEST(NetworkCheck, TextThatIsNoNetworkName_IsInvalidWithoutAsking) {
     FakeNetwork network(NO_ERROR);
     const NetworkAnswer answer = checkNetworkLocation(network, L"\\\\\\srv");

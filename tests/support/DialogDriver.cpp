@@ -157,6 +157,9 @@ void knav::test::DialogDriver::tick() {
         return;
     }
     if (m_next == m_steps.size()) {
+        if (GetTickCount64() - m_waitingSince > m_stepLimitMs) {
+            fail("the dialog is still open " + std::to_string(m_stepLimitMs) + " ms after the last step");
+        }
         return;
     }
     if (!m_steps[m_next].ready()) {

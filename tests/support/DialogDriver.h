@@ -11,8 +11,8 @@ namespace knav::test {
 
 /// A queue of steps that a timer of the user-interface thread works off while a modal dialog (or a menu, or a box on
 /// top of it) runs. Each step waits until it is ready, then acts. Steps address controls by id in the dialog in front:
-/// the topmost visible, enabled dialog of the thread. A step that does not become ready in time fails the test, and all
-/// dialogs are cancelled.
+/// the topmost visible, enabled dialog of the thread. A step that does not become ready in time fails the test, as does
+/// a dialog that stays open after the last step; all dialogs are then cancelled.
 ///
 ///     DialogDriver driver;
 ///     driver.setText(kFileName, L"plan.dwg").click(IDOK);

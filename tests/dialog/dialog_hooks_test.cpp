@@ -1,0 +1,262 @@
+// What a host that overrides the hooks gets to see, and what its answers do.
+#include "dialog/Messages.h"
+#include "dialog/RecordingDialog.h"
+
+namespace knav::test {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+using testing::StartsWith;
+
+class DialogHooks : public DialogTest {
+protected:
+    void SetUp() override {
+        folder.addFile(L"plan.dwg");
+        folder.addFile(L"sub\\inner.dwg");
+    }
+};
+
+TEST_F(DialogHooks, Start_AsksForTheProductThenShowsTheFolderThenReadsThePlaces) {
+    RecordingDialog dialog(folder.path());
+    EXPECT_EQ(DialogUser(dialog).untilShown({L"plan.dwg", L"sub"}).cancel().run(), IDCANCEL);
+    const std::vector<std::string> order = {"GetProductName", "OnFolderChange", "GetAllDialogsData PlacesOrder0",
+                                            "GetRecentDirectory"};
+    EXPECT_EQ(dialog.only(order), order);
+    EXPECT_EQ(dialog.count("OnFolderChange"), 1);
+    EXPECT_GE(dialog.count("UpdateUIState"), 1);
+    EXPECT_THAT(dialog.log, Not(Contains(StartsWith("SetAllDialogsData"))));
+    EXPECT_EQ(dialog.count("OnFileNameChange"), 0) << "the user has typed nothing";
+}
+
+TEST_F(DialogHooks, Ok_CallsTheStepsInTheirOrder) {
+    RecordingDialog dialog(folder.path());
+    dialog.SetCreatingFile(1);
+    dialog.SetConfirmReplace(1);
+    DialogUser user(dialog);
+    user.type(L"new").settle().check([&] { dialog.log.clear(); }).ok();
+    EXPECT_EQ(user.run(), IDOK) << testing::PrintToString(dialog.log);
+    EXPECT_THAT(dialog.only({"PreprocessData", "CombineDataTextWithFolderName new", "OnFileNameOK", "VerifyURLSave",
+                             "OnUrlOK", "SetAllDialogsData PlacesOrder0"}),
+                ElementsAre("PreprocessData", "CombineDataTextWithFolderName new", "OnFileNameOK", "VerifyURLSave",
+                            "SetAllDialogsData PlacesOrder0"));
+    EXPECT_THAT(dialog.log, Not(Contains(StartsWith("UpdateFileExtension"))));
+}
+
+TEST_F(DialogHooks, OkWhenOpening_AsksNothingAboutSaving) {
+    RecordingDialog dialog(folder.path());
+    EXPECT_EQ(DialogUser(dialog).type(L"plan.dwg").ok().run(), IDOK);
+    EXPECT_EQ(dialog.count("VerifyURLSave"), 0);
+    EXPECT_EQ(dialog.count("OnUrlOK"), 0);
+}
+
+TEST_F(DialogHooks, EachName_IsCombinedOnItsOwn) {
+    folder.addFile(L"b.dwg");
+    RecordingDialog dialog(folder.path());
+    dialog.SetMultiSelectAllowed(1);
+    EXPECT_EQ(DialogUser(dialog).type(L"\"plan\" \"b\"").ok().run(), IDOK);
+    EXPECT_THAT(dialog.only({"CombineDataTextWithFolderName plan", "CombineDataTextWithFolderName b"}),
+                ElementsAre("CombineDataTextWithFolderName plan", "CombineDataTextWithFolderName b"));
+}
+
+TEST_F(DialogHooks, SelectionInTheView_IsAnItemChangeAndANewState) {
+    RecordingDialog dialog(folder.path());
+    DialogUser user(dialog);
+    user.settle().check([&] { dialog.log.clear(); }).pick({L"plan.dwg"}).untilName(L"plan.dwg");
+    user.check([&] {
+            EXPECT_THAT(dialog.log, ElementsAre("OnFolderItemChange", "UpdateUIState"));
+            dialog.log.clear();
+        })
+        .cancel();
+    EXPECT_EQ(user.run(), IDCANCEL);
+}
+
+TEST_F(DialogHooks, WhatTheUserDoes_ReachesItsHook) {
+    RecordingDialog dialog(folder.path());
+    dialog.SetDialogData(L"FileNameMRU0", CString(L"older.dwg"));
+    DialogUser user(dialog);
+    const auto expectThenForget = [&](const char* hook) {
+        user.settle().check([&dialog, hook] {
+            EXPECT_EQ(dialog.count(hook), 1) << hook;
+            dialog.log.clear();
+        });
+    };
+    user.settle().check([&] { dialog.log.clear(); }).type(L"x");
+    user.settle().check([&] {
+        EXPECT_GE(dialog.count("OnFileNameChange"), 1);
+        dialog.log.clear();
+    });
+    user.check([] {
+        const HWND combo = DialogDriver::control(IDC_KNAV_FILE_NAME);
+        SendMessageW(combo, CB_SETCURSEL, 0, 0);
+        SendMessageW(GetParent(combo), WM_COMMAND, MAKEWPARAM(IDC_KNAV_FILE_NAME, CBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(combo));
+    });
+    expectThenForget("OnFileNameSelectionChange");
+    user.chooseType(kTexts);
+    expectThenForget("OnFilterChange");
+    user.command(IDM_KNAV_REFRESH);
+    expectThenForget("Refresh");
+    user.command(IDM_KNAV_FAVORITE_FOLDER);
+    expectThenForget("OnDoAddToFavorites 13237");
+    user.type(L"sub").ok().untilFolder(folder.path(L"sub"));
+    expectThenForget("OnFolderChange");
+    user.command(IDM_KNAV_BACK).untilFolder(folder.path());
+    expectThenForget("OnFolderChange");
+    user.check([] {
+        const HWND list = DialogDriver::control(IDC_KNAV_PLACES);
+        SendMessageW(list, LB_SETCURSEL, 0, 0);
+        PostMessageW(GetParent(list), WM_COMMAND, MAKEWPARAM(IDC_KNAV_PLACES, LBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(list));
+    });
+    expectThenForget("OnPlacesChanged");
+    user.check([] {
+        HELPINFO info{};
+        info.cbSize = sizeof info;
+        info.hItemHandle = DialogDriver::dialog();
+        SendMessageW(DialogDriver::dialog(), WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+    });
+    expectThenForget("OnDialogHelp");
+    user.cancel();
+    EXPECT_EQ(user.run(), IDCANCEL);
+    EXPECT_THAT(dialog.log, Not(Contains("PreprocessData")));
+}
+
+TEST_F(DialogHooks, RefusingHook_KeepsTheDialogOpen) {
+    for (const char* const hook : {"PreprocessData", "OnFileNameOK", "VerifyURLSave"}) {
+        SCOPED_TRACE(hook);
+        RecordingDialog dialog(folder.path());
+        dialog.SetCreatingFile(1);
+        dialog.SetConfirmReplace(1);
+        dialog.answers[hook] = hook == std::string("PreprocessData") ? OkErrInvalidName : 0;
+        EXPECT_EQ(DialogUser(dialog).type(L"new.dwg").ok().settle().cancel().run(), IDCANCEL);
+        EXPECT_EQ(dialog.count(hook), 1);
+    }
+}
+
+TEST_F(DialogHooks, NameErrorOfAHook_IsReported) {
+    struct Row {
+        int error;
+        int creating;
+        UINT message;
+    };
+    constexpr Row rows[] = {
+        {OkErrInvalidName, 0, IDS_KNAV_INVALID_NAME},
+        {77, 0, IDS_KNAV_INVALID_NAME},
+        {OkErrNoFileSystemFolder, 0, IDS_KNAV_NO_FOLDER_TO_OPEN},
+        {OkErrNoFileSystemFolder, 1, IDS_KNAV_NO_FOLDER_TO_SAVE},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.message);
+        const std::size_t before = prompts.seen().size();
+        prompts.answer(IDOK);
+        RecordingDialog dialog(folder.path());
+        dialog.SetCreatingFile(row.creating);
+        dialog.answers["CombineDataTextWithFolderName"] = row.error;
+        DialogUser user(dialog);
+        user.type(L"plan").ok().untilAsked(prompts, before + 1).settle();
+        user.check([] { expectNameReadyToRetype(L"plan"); }).cancel();
+        EXPECT_EQ(user.run(), IDCANCEL);
+        ASSERT_EQ(prompts.seen().size(), before + 1);
+        EXPECT_EQ(prompts.seen().back().text, messageText(row.message));
+        EXPECT_EQ(dialog.count("OnFileNameOK"), 0);
+    }
+}
+
+TEST_F(DialogHooks, Locate_SearchesThroughTheHooksAndReportsThroughThem) {
+    prompts.answer(IDOK);
+    RecordingDialog dialog(folder.path());
+    wchar_t expected[MAX_PATH];
+    ASSERT_GT(SearchPathW(nullptr, L"notepad.exe", nullptr, MAX_PATH, expected, nullptr), 0u);
+    DialogUser user(dialog);
+    user.type(L"knav-nowhere.dwg").command(IDM_KNAV_LOCATE).untilAsked(prompts).settle();
+    user.check([] { expectNameReadyToRetype(L"knav-nowhere.dwg"); });
+    user.type(L"notepad.exe").command(IDM_KNAV_LOCATE).untilName(expected).cancel();
+    EXPECT_EQ(user.run(), IDCANCEL);
+    EXPECT_THAT(dialog.only({"OnDoLocate", "FindInSearchPath knav-nowhere.dwg", "DisplaySearchError knav-nowhere.dwg",
+                             "FindInSearchPath notepad.exe", "DisplaySearchError notepad.exe"}),
+                ElementsAre("OnDoLocate", "FindInSearchPath knav-nowhere.dwg", "DisplaySearchError knav-nowhere.dwg",
+                            "OnDoLocate", "FindInSearchPath notepad.exe"));
+    ASSERT_EQ(prompts.seen().size(), 1u);
+    EXPECT_EQ(prompts.seen()[0].text, messageText(IDS_KNAV_LOCATE_FAILED, L"knav-nowhere.dwg"));
+}
+
+TEST_F(DialogHooks, Web_OpensTheBrowserWithTitleAndCaptions) {
+    RecordingDialog dialog(folder.path());
+    dialog.SetOkButtonText(L"&Open it");
+    CString start;
+    dialog.GetDefaultBrowserStartURL(start);
+    DialogUser user(dialog);
+    user.command(IDM_KNAV_WEB).until("the browser", [&] { return dialog.count("LaunchBrowserDialog &Open it") == 1; });
+    user.cancel();
+    EXPECT_EQ(user.run(), IDCANCEL);
+    EXPECT_EQ(dialog.startUrl, start);
+}
+
+TEST_F(DialogHooks, OpenReadOnly_IsToldToTheHost) {
+    RecordingDialog dialog(folder.path());
+    EXPECT_EQ(DialogUser(dialog).type(L"plan.dwg").command(IDM_KNAV_OPEN_READ_ONLY).run(), IDOK);
+    EXPECT_EQ(dialog.GetReadOnlySpecified(), 1);
+}
+
+TEST_F(DialogHooks, OkMenu_OffersReadOnlyAsTheOptionsSay) {
+    const auto stateOfReadOnly = [](RecordingDialog& dialog) {
+        CMenu menu;
+        menu.CreatePopupMenu();
+        menu.AppendMenu(MF_STRING, IDM_KNAV_OPEN, L"Open");
+        menu.AppendMenu(MF_STRING, IDM_KNAV_OPEN_READ_ONLY, L"Open read-only");
+        dialog.PrepareOkMenu(&menu);
+        return GetMenuState(menu.m_hMenu, IDM_KNAV_OPEN_READ_ONLY, MF_BYCOMMAND);
+    };
+    RecordingDialog dialog(folder.path());
+    EXPECT_EQ(stateOfReadOnly(dialog), static_cast<UINT>(MF_ENABLED));
+    dialog.SetReadOnlyAllowed(0);
+    EXPECT_EQ(stateOfReadOnly(dialog), static_cast<UINT>(MF_GRAYED));
+    dialog.SetReadOnlyHidden(1);
+    EXPECT_EQ(stateOfReadOnly(dialog), static_cast<UINT>(-1));
+}
+
+TEST_F(DialogHooks, SharedValues_AreSeenByEveryDialogAndLeaveTheNameAlone) {
+    RecordingDialog one;
+    RecordingDialog other;
+    other.SetDialogName(L"Other");
+    EXPECT_NE(one.SetAllDialogsData(CString(L"Number"), 7ul), 0);
+    EXPECT_NE(one.SetAllDialogsData(CString(L"Text"), CString(L"words")), 0);
+    EXPECT_EQ(one.GetDialogName(), L"TestDialog");
+    unsigned long number = 0;
+    CString text;
+    EXPECT_NE(other.GetAllDialogsData(CString(L"Number"), number), 0);
+    EXPECT_NE(other.GetAllDialogsData(CString(L"Text"), text), 0);
+    EXPECT_EQ(number, 7u);
+    EXPECT_EQ(text, L"words");
+    EXPECT_EQ(other.GetAllDialogsData(CString(L"Missing"), text), 0);
+    EXPECT_EQ(one.GetDialogData(L"Number", number), 0) << "not one of its own";
+}
+
+TEST_F(DialogHooks, HostCanActFromInsideAHook) {
+    struct Removing : RecordingDialog {
+        using RecordingDialog::RecordingDialog;
+        int OnFileNameOK() override {
+            data.RemoveAllData();
+            return RecordingDialog::OnFileNameOK();
+        }
+    };
+    Removing dialog(folder.path());
+    EXPECT_EQ(DialogUser(dialog).type(L"plan.dwg").ok().settle().cancel().run(), IDCANCEL);
+
+    struct Navigating : RecordingDialog {
+        using RecordingDialog::RecordingDialog;
+        void OnFolderChange() override {
+            RecordingDialog::OnFolderChange();
+            NavigateToFolder(target);  // inside a browse: refused without harm
+        }
+        CString target;
+    };
+    Navigating moving(folder.path());
+    moving.target = folder.path(L"sub");
+    EXPECT_EQ(DialogUser(moving).settle().cancel().run(), IDCANCEL);
+}
+
+}  // namespace
+}  // namespace knav::test

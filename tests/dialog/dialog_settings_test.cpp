@@ -1,0 +1,270 @@
+// What a dialog remembers from one run to the next, and what the user's policies switch off.
+#include "dialog/DialogUser.h"
+
+namespace knav::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::vector<std::wstring> historyShown() {
+    std::vector<std::wstring> entries;
+    const HWND combo = DialogDriver::control(IDC_KNAV_FILE_NAME);
+    for (int i = 0; i < static_cast<int>(SendMessageW(combo, CB_GETCOUNT, 0, 0)); ++i) {
+        std::array<wchar_t, MAX_PATH> text{};
+        SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text.data()));
+        entries.emplace_back(text.data());
+    }
+    return entries;
+}
+
+class DialogSettings : public DialogTest {
+protected:
+    void SetUp() override {
+        folder.addFile(L"a.dwg");
+        folder.addFile(L"sub\\b.txt");
+        folder.addFile(L"sub\\c.txt");
+    }
+
+    static CString stored(const CZoUiDialog& dialog, const wchar_t* name) {
+        CString value = L"(none)";
+        dialog.GetDialogData(name, value);
+        return value;
+    }
+
+    static void setPolicy(const wchar_t* key, const wchar_t* value) {
+        constexpr DWORD on = 1;
+        const CString path = CString(L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\") + key;
+        ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, path, value, REG_DWORD, &on, sizeof on), ERROR_SUCCESS);
+    }
+
+    /// Looks at a dialog that is open, and cancels it.
+    INT_PTR look(TestDialog& dialog, std::function<void()> at) {
+        DialogUser user(dialog);
+        user.until("a view", [] { return viewList() != nullptr; }).settle().check(std::move(at)).cancel();
+        return user.run();
+    }
+};
+
+TEST_F(DialogSettings, AcceptedDialog_StartsNextTimeWhereItWas) {
+    {
+        TestDialog dialog(folder.path());
+        DialogUser user(dialog);
+        user.type(L"sub").ok().untilFolder(folder.path(L"sub")).chooseType(kTexts).command(IDM_KNAV_LIST);
+        user.untilShown({L"b.txt", L"c.txt"}).type(L"b.txt").ok();
+        ASSERT_EQ(user.run(), IDOK);
+    }
+    TestDialog next(folder.path());
+    look(next, [&] {
+        EXPECT_EQ(next.shownFolder(), folder.path(L"sub"));
+        EXPECT_EQ(next.GetFilterIndex(), kTexts);
+        EXPECT_EQ(next.GetViewMode(), 3u);
+        EXPECT_EQ(ListView_GetView(viewList()), static_cast<DWORD>(LV_VIEW_LIST));
+        EXPECT_THAT(shownNames(), ElementsAre(L"b.txt", L"c.txt"));
+        EXPECT_THAT(historyShown(), ElementsAre(wide(folder.path(L"sub\\b.txt"))));
+        EXPECT_EQ(fileNameText(), L"");
+    });
+}
+
+TEST_F(DialogSettings, CancelledDialog_RemembersNothing) {
+    TestDialog dialog(folder.path());
+    DialogUser user(dialog);
+    user.type(L"sub").ok().untilFolder(folder.path(L"sub")).chooseType(kTexts).command(IDM_KNAV_LIST).settle().cancel();
+    EXPECT_EQ(user.run(), IDCANCEL);
+    for (const wchar_t* const name : {L"InitialDirectory", L"FileNameMRU0"}) {
+        EXPECT_EQ(stored(dialog, name), L"(none)");
+    }
+    unsigned long number = 0;
+    EXPECT_EQ(dialog.GetDialogData(L"InitialFilterIndex", number), 0);
+    EXPECT_EQ(dialog.GetDialogData(L"ViewMode", number), 0);
+}
+
+TEST_F(DialogSettings, InitialFolder_IsForcedElseRememberedElseDefault) {
+    const CString forced = folder.addFolder(L"forced");
+    TestDialog dialog(folder.path());
+    look(dialog, [&] { EXPECT_EQ(dialog.shownFolder(), folder.path()); });
+    dialog.SetDialogData(L"InitialDirectory", folder.path(L"sub"));
+    look(dialog, [&] { EXPECT_EQ(dialog.shownFolder(), folder.path(L"sub")); });
+    dialog.SetForceInitialFolder(forced);
+    look(dialog, [&] { EXPECT_EQ(dialog.shownFolder(), forced); });
+    dialog.SetForceInitialFolder(L"desktop");
+    look(dialog, [&] { EXPECT_EQ(dialog.shownFolder(), L"Desktop"); });
+}
+
+TEST_F(DialogSettings, DialogWithoutAName_IsKnownByItsCaption) {
+    TestDialog dialog(folder.path());
+    dialog.SetDialogName(L"");
+    dialog.SetDialogCaption(L"Insert Block");
+    EXPECT_EQ(DialogUser(dialog).type(L"a.dwg").ok().run(), IDOK);
+    EXPECT_EQ(dialog.GetDialogName(), L"Insert Block");
+    TestDialog same;
+    same.SetDialogName(L"Insert Block");
+    EXPECT_EQ(stored(same, L"InitialDirectory"), folder.path());
+    TestDialog other;
+    EXPECT_EQ(stored(other, L"InitialDirectory"), L"(none)");
+}
+
+TEST_F(DialogSettings, NothingRemembered_OpensInDetails) {
+    TestDialog dialog(folder.path());
+    EXPECT_EQ(dialog.GetViewMode(), 3u);
+    look(dialog, [&] {
+        EXPECT_EQ(dialog.GetViewMode(), 4u);
+        EXPECT_EQ(ListView_GetView(viewList()), static_cast<DWORD>(LV_VIEW_DETAILS));
+        EXPECT_EQ(dialog.GetFilterIndex(), kDrawings);
+    });
+}
+
+TEST_F(DialogSettings, History_PutsTheLatestFirstAndKeepsEachOnce) {
+    const auto choose = [&](const wchar_t* name) {
+        TestDialog dialog(folder.path());
+        dialog.SetForceInitialFolder(folder.path(L"sub"));
+        dialog.SetForceFilterIndex(kAllFiles);
+        EXPECT_EQ(DialogUser(dialog).type(name).ok().run(), IDOK);
+    };
+    choose(L"b.txt");
+    choose(L"c.txt");
+    TestDialog dialog(folder.path());
+    const std::wstring b = wide(folder.path(L"sub\\b.txt"));
+    const std::wstring c = wide(folder.path(L"sub\\c.txt"));
+    look(dialog, [&] { EXPECT_THAT(historyShown(), ElementsAre(c, b)); });
+    choose(L"b.txt");
+    look(dialog, [&] { EXPECT_THAT(historyShown(), ElementsAre(b, c)); });
+}
+
+TEST_F(DialogSettings, History_IsReadUpToItsFirstGapAndTenEntries) {
+    TestDialog dialog(folder.path());
+    for (int i = 0; i < 12; ++i) {
+        CString name;
+        name.Format(L"FileNameMRU%d", i);
+        dialog.SetDialogData(name, name);
+    }
+    look(dialog, [] { EXPECT_EQ(historyShown().size(), 10u); });
+    dialog.DelDialogData(L"FileNameMRU2");
+    look(dialog, [] { EXPECT_THAT(historyShown(), ElementsAre(L"FileNameMRU0", L"FileNameMRU1")); });
+}
+
+TEST_F(DialogSettings, HistoryPolicies_SwitchReadingAndWritingOff) {
+    const std::pair<const wchar_t*, const wchar_t*> policies[] = {{L"Comdlg32", L"NoFileMru"},
+                                                                  {L"Explorer", L"NoRecentDocsHistory"}};
+    for (const auto& [key, value] : policies) {
+        SCOPED_TRACE(utf8(value));
+        TestDialog dialog(folder.path());
+        dialog.SetDialogData(L"FileNameMRU0", CString(L"C:\\old.dwg"));
+        setPolicy(key, value);
+        DialogUser user(dialog);
+        user.check([] { EXPECT_THAT(historyShown(), IsEmpty()); }).type(L"a.dwg").ok();
+        EXPECT_EQ(user.run(), IDOK);
+        EXPECT_EQ(stored(dialog, L"FileNameMRU0"), L"C:\\old.dwg");
+        EXPECT_EQ(stored(dialog, L"InitialDirectory"), folder.path()) << "the rest is remembered";
+        RegDeleteKeyValueW(HKEY_CURRENT_USER,
+                           CString(L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\") + key, value);
+    }
+}
+
+TEST_F(DialogSettings, NoPlacesPolicy_HidesTheListAndGivesItsRoomAway) {
+    int usualLeft = 0;
+    const auto viewLeft = [] {
+        RECT view{};
+        GetWindowRect(viewList(), &view);
+        RECT frame{};
+        GetWindowRect(DialogDriver::dialog(), &frame);
+        return static_cast<int>(view.left - frame.left);
+    };
+    TestDialog usual(folder.path());
+    look(usual, [&] {
+        EXPECT_TRUE(IsWindowVisible(DialogDriver::control(IDC_KNAV_PLACES)));
+        EXPECT_GT(SendMessageW(DialogDriver::control(IDC_KNAV_PLACES), LB_GETCOUNT, 0, 0), 0);
+        usualLeft = viewLeft();
+    });
+    setPolicy(L"Comdlg32", L"NoPlacesBar");
+    TestDialog dialog(folder.path());
+    look(dialog, [&] {
+        EXPECT_FALSE(IsWindowVisible(DialogDriver::control(IDC_KNAV_PLACES)));
+        EXPECT_EQ(SendMessageW(DialogDriver::control(IDC_KNAV_PLACES), LB_GETCOUNT, 0, 0), 0);
+        EXPECT_LT(viewLeft(), usualLeft);
+    });
+    EXPECT_EQ(dialog.GetNoPlacesList(), 1);
+}
+
+TEST_F(DialogSettings, NoBackPolicy_TakesTheBackButtonAway) {
+    setPolicy(L"Comdlg32", L"NoBackButton");
+    TestDialog dialog(folder.path());
+    DialogUser user(dialog);
+    user.type(L"sub").ok().untilFolder(folder.path(L"sub")).settle();
+    user.check([] {
+            EXPECT_FALSE(IsWindowVisible(DialogDriver::control(IDC_KNAV_BACK)));
+            EXPECT_FALSE(IsWindowEnabled(DialogDriver::control(IDC_KNAV_BACK)));
+        })
+        .command(IDM_KNAV_BACK)
+        .settle()
+        .check([&] { EXPECT_EQ(dialog.shownFolder(), folder.path(L"sub")); })
+        .cancel();
+    EXPECT_EQ(user.run(), IDCANCEL);
+}
+
+struct InitialNameRow {
+    const char* why;
+    const wchar_t* given;
+    const wchar_t* defaultExtension;
+    int creating;
+    const wchar_t* shown;
+};
+
+TEST_F(DialogSettings, InitialFileName_IsShownWithTheRightExtension) {
+    constexpr InitialNameRow rows[] = {
+        {"a foreign extension when saving", L"plan.old.bak", L"dwg", 1, L"plan.old.dwg"},
+        {"a foreign extension when opening", L"plan.bak", L"dwg", 0, L"plan.bak"},
+        {"its own extension", L"plan.DWG", L"dwg", 1, L"plan.DWG"},
+        {"no extension", L"plan", L"dxf", 1, L"plan.dxf"},
+        {"no extension and no default", L"plan", nullptr, 0, L"plan"},
+        {"nothing", L"", L"dwg", 1, L""},
+    };
+    for (const InitialNameRow& row : rows) {
+        SCOPED_TRACE(row.why);
+        TestDialog dialog(folder.path());
+        dialog.SetCreatingFile(row.creating);
+        if (row.defaultExtension) {
+            dialog.SetDefaultFileExtension(row.defaultExtension);
+        }
+        dialog.SetInitialFileName(row.given);
+        look(dialog, [&] { EXPECT_EQ(utf8(fileNameText()), utf8(row.shown)); });
+    }
+}
+
+TEST_F(DialogSettings, InitialFileNameThatExists_IsSelectedInTheView) {
+    TestDialog dialog;
+    dialog.SetInitialFileName(folder.path(L"a.dwg"));
+    look(dialog, [&] {
+        EXPECT_EQ(dialog.shownFolder(), folder.path());
+        EXPECT_EQ(ListView_GetSelectedCount(viewList()), 1u);
+        expectNameReadyToRetype(L"a.dwg");
+    });
+}
+
+TEST_F(DialogSettings, ForcedAndDefaultFileType_AreChosenAtStart) {
+    TestDialog dialog(folder.path());
+    dialog.SetDefaultFilterIndex(kAllFiles);
+    look(dialog, [&] { EXPECT_EQ(dialog.GetFilterIndex(), kAllFiles); });
+    dialog.SetForceFilterIndex(kTexts);
+    look(dialog, [&] { EXPECT_EQ(dialog.GetFilterIndex(), kTexts); });
+    dialog.SetForceFilterIndex(99);
+    look(dialog, [&] { EXPECT_EQ(dialog.GetFilterIndex(), kDrawings) << "there is no such type"; });
+}
+
+TEST_F(DialogSettings, OkButtonTextAndCaption_AreShown) {
+    TestDialog dialog(folder.path());
+    dialog.SetDialogCaption(L"Attach");
+    dialog.SetOkButtonText(L"&Attach");
+    look(dialog, [&] {
+        EXPECT_EQ(DialogDriver::text(IDOK), L"&Attach");
+        dialog.SetOkButtonText(L"&Bind");
+        EXPECT_EQ(DialogDriver::text(IDOK), L"&Bind");
+        dialog.SetDialogCaption(L"  Bind ");
+        wchar_t title[20];
+        GetWindowTextW(DialogDriver::dialog(), title, 20);
+        EXPECT_STREQ(title, L"Bind");
+    });
+}
+
+}  // namespace
+}  // namespace knav::test
