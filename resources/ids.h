@@ -114,27 +114,27 @@
 #define IDS_KNAV_TIP_TOOLS 13340
 
 #define IDS_KNAV_INVALID_NAME 13253
-#define IDS_KNAV_NETWORK_UNREACHABLE 13266 /* %1 the path */
-#define IDS_KNAV_INVALID_PATH 13268        /* %1 the typed text */
-#define IDS_KNAV_NO_DRIVE 13269            /* %1 the drive, "X:" */
-#define IDS_KNAV_DRIVE_NOT_READY 13270     /* %1 the drive, "X:" */
-#define IDS_KNAV_REPLACE_REMOTE 13271      /* Yes/No; %1 the item */
+#define IDS_KNAV_NETWORK_UNREACHABLE 13266     /* %1 the path */
+#define IDS_KNAV_INVALID_PATH 13268            /* %1 the typed text */
+#define IDS_KNAV_NO_DRIVE 13269                /* %1 the drive, "X:" */
+#define IDS_KNAV_DRIVE_NOT_READY 13270         /* %1 the drive, "X:" */
+#define IDS_KNAV_REPLACE_REMOTE 13271          /* Yes/No; %1 the item */
 #define IDS_KNAV_NO_SAVE_AT_ROOT 13272
 #define IDS_KNAV_NO_FOLDER_TO_SAVE 13273
 #define IDS_KNAV_NO_FOLDER_TO_OPEN 13274
-#define IDS_KNAV_LOCATE_FAILED 13299 /* %1 the name */
-#define IDS_KNAV_KEEP_PLACES 13322   /* Yes/No */
-#define IDS_KNAV_REPLACE 13323       /* Yes/No; %1 the path */
+#define IDS_KNAV_LOCATE_FAILED 13299           /* %1 the name */
+#define IDS_KNAV_KEEP_PLACES 13322             /* Yes/No */
+#define IDS_KNAV_REPLACE 13323                 /* Yes/No; %1 the path */
 #define IDS_KNAV_TRANSFER_FAILED 13325
-#define IDS_KNAV_TRANSFER_REPORT 13326 /* heading; an empty line and one line per file follow */
-#define IDS_KNAV_NAME_FIELD 13561      /* "FieldName" of the too-long task dialog */
-#define IDS_KNAV_NAME_OBJECT 13562     /* "ObjectName" of the too-long task dialog */
-#define IDS_KNAV_FILE_IN_USE 13563     /* %1 the path */
+#define IDS_KNAV_TRANSFER_REPORT 13326         /* heading; an empty line and one line per file follow */
+#define IDS_KNAV_NAME_FIELD 13561              /* "FieldName" of the too-long task dialog */
+#define IDS_KNAV_NAME_OBJECT 13562             /* "ObjectName" of the too-long task dialog */
+#define IDS_KNAV_FILE_IN_USE 13563             /* %1 the path */
 #define IDS_KNAV_DRAWING_IN_USE_TITLE 13564
 #define IDS_KNAV_PDF_IN_USE_TITLE 13565
-#define IDS_KNAV_UNSUPPORTED_CHARACTERS 13568 /* "UnsupportedCharacters" of its task dialog */
-#define IDS_KNAV_UNSUPPORTED_FIELD 13569      /* "FieldName" of that task dialog */
-#define IDS_KNAV_NEW_FOLDER_FAILED 13341      /* %1 the folder's name */
+#define IDS_KNAV_UNSUPPORTED_CHARACTERS 13568  /* "UnsupportedCharacters" of its task dialog */
+#define IDS_KNAV_UNSUPPORTED_FIELD 13569       /* "FieldName" of that task dialog */
+#define IDS_KNAV_NEW_FOLDER_FAILED 13341       /* %1 the folder's name */
 
 /* --- Places: edit dialog and questions ------------------------------------------------------- */
 #define IDD_KNAV_PLACE 13400

@@ -88,29 +88,21 @@
 
 /* Messages */
 #define TXT_INVALID_NAME "This name cannot be used.\nCheck it and type it again."
-#define TXT_NETWORK_UNREACHABLE \
-    "“%1” cannot be reached.\nCheck the names of the server and the folder, and the network connection."
+#define TXT_NETWORK_UNREACHABLE "“%1” cannot be reached.\nCheck the names of the server and the folder, and the network connection."
 #define TXT_INVALID_PATH "“%1” is not a valid file name.\nCheck the folder and the name, and type it again."
 #define TXT_NO_DRIVE "Drive %1 does not exist.\nCheck the drive letter, or choose another drive."
 #define TXT_DRIVE_NOT_READY "Drive %1 is not ready.\nInsert a disc or connect the drive, and try again."
 #define TXT_REPLACE_REMOTE "“%1” already exists.\nDo you want to replace it?"
-#define TXT_NO_SAVE_AT_ROOT \
-    "You cannot save here, at the top of the list.\nOpen one of the locations in it, and save there."
-#define TXT_NO_FOLDER_TO_SAVE \
-    "You cannot save in this location, because it is not a folder on a disk.\nGo to a folder, and save there."
-#define TXT_NO_FOLDER_TO_OPEN                                                                                        \
-    "A file name cannot be opened from this location, because it is not a folder on a disk.\nGo to the folder that " \
-    "holds the file, or type its full path."
-#define TXT_LOCATE_FAILED \
-    "“%1” is not in any folder of the search path.\nCheck the name, or look for the file with Find on the Tools menu."
+#define TXT_NO_SAVE_AT_ROOT "You cannot save here, at the top of the list.\nOpen one of the locations in it, and save there."
+#define TXT_NO_FOLDER_TO_SAVE "You cannot save in this location, because it is not a folder on a disk.\nGo to a folder, and save there."
+#define TXT_NO_FOLDER_TO_OPEN "A file name cannot be opened from this location, because it is not a folder on a disk.\nGo to the folder that holds the file, or type its full path."
+#define TXT_LOCATE_FAILED "“%1” is not in any folder of the search path.\nCheck the name, or look for the file with Find on the Tools menu."
 #define TXT_KEEP_PLACES "You have changed the Places list.\nDo you want to keep the changes?"
 #define TXT_REPLACE "“%1” already exists.\nDo you want to replace it?"
-#define TXT_TRANSFER_FAILED \
-    "The files could not be transferred.\nCheck the address and the network connection, and try again."
+#define TXT_TRANSFER_FAILED "The files could not be transferred.\nCheck the address and the network connection, and try again."
 #define TXT_TRANSFER_REPORT "These files could not be transferred:"
 #define TXT_FILE_IN_USE "“%1” is in use by another program.\nClose it there, or save under another name."
-#define TXT_NEW_FOLDER_FAILED \
-    "The folder “%1” could not be created here.\nCheck that you may change this folder, or go to another one."
+#define TXT_NEW_FOLDER_FAILED "The folder “%1” could not be created here.\nCheck that you may change this folder, or go to another one."
 
 /* Dialog for a place */
 #define TXT_PLACE_ADD_TITLE "Add Place"
@@ -165,10 +157,8 @@
 #define TXT_FIND_COUNT_ONE "1 file found"
 #define TXT_FIND_COUNT_NONE "No files found"
 #define TXT_FIND_BAD_NUMBER "The number must be from 1 to 999.\nType another number."
-#define TXT_FIND_NO_NAME \
-    "There is nothing to look for.\nType a name, such as *.txt; several names are parted by semicolons."
-#define TXT_FIND_NO_FOLDER \
-    "The folder “%1” was not found.\nType the full path of an existing folder, or choose one with Browse."
+#define TXT_FIND_NO_NAME "There is nothing to look for.\nType a name, such as *.txt; several names are parted by semicolons."
+#define TXT_FIND_NO_FOLDER "The folder “%1” was not found.\nType the full path of an existing folder, or choose one with Browse."
 
 /* Version information */
 #define TXT_MODULE "knav texts and pictures, English"
