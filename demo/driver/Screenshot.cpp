@@ -41,6 +41,36 @@ struct ReleaseScreenDc {
     void operator()(HDC dc) const noexcept { ReleaseDC(nullptr, dc); }
 };
 
+// The part inside of the black edges: a window manager's frame can be narrower than the window's own.
+Gdiplus::Rect withoutBlackEdges(Gdiplus::Bitmap& picture) {
+    const int width = static_cast<int>(picture.GetWidth());
+    const int height = static_cast<int>(picture.GetHeight());
+    const auto isBlack = [&](int x, int y) {
+        constexpr Gdiplus::ARGB kColor = 0x00FFFFFF;
+        Gdiplus::Color color;
+        picture.GetPixel(x, y, &color);
+        return (color.GetValue() & kColor) == 0;
+    };
+    const auto blackColumn = [&](int x) { return isBlack(x, height / 4) && isBlack(x, height / 2); };
+    const auto blackRow = [&](int y) { return isBlack(width / 4, y) && isBlack(width / 2, y); };
+    Gdiplus::Rect inside(0, 0, width, height);
+    while (inside.Width > 1 && blackColumn(inside.X)) {
+        ++inside.X;
+        --inside.Width;
+    }
+    while (inside.Width > 1 && blackColumn(inside.X + inside.Width - 1)) {
+        --inside.Width;
+    }
+    while (inside.Height > 1 && blackRow(inside.Y)) {
+        ++inside.Y;
+        --inside.Height;
+    }
+    while (inside.Height > 1 && blackRow(inside.Y + inside.Height - 1)) {
+        --inside.Height;
+    }
+    return inside;
+}
+
 }  // namespace
 
 void knav::input::saveScreenshot(HWND window, const std::wstring& file) {
@@ -57,7 +87,8 @@ void knav::input::saveScreenshot(HWND window, const std::wstring& file) {
 
     const GdiPlus gdiPlus;
     Gdiplus::Bitmap picture(static_cast<HBITMAP>(bitmap.get()), nullptr);
-    if (!copied || picture.Save(file.c_str(), &kPngEncoder, nullptr) != Gdiplus::Ok) {
+    const std::unique_ptr<Gdiplus::Bitmap> inside(picture.Clone(withoutBlackEdges(picture), PixelFormat24bppRGB));
+    if (!copied || inside == nullptr || inside->Save(file.c_str(), &kPngEncoder, nullptr) != Gdiplus::Ok) {
         throw std::runtime_error("the screenshot cannot be saved");
     }
 }

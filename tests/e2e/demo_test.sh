@@ -24,6 +24,7 @@ expect() {
     fi
 }
 
+export KNAV_BUILT=1
 demo() { "$root/tools/demo" --headless "$@"; }
 
 drawings=$work/drawings

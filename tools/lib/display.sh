@@ -1,23 +1,27 @@
-# A screen of our own in memory. Needs steps.sh.
+# A screen of our own in memory, with a window manager: without one, windows are never active and are slow to close.
+# Needs steps.sh.
 
-display_pid=
+display_processes=()
 
 # start_display: sets DISPLAY; stop_display ends it.
 start_display() {
-    local number_file=$root/build/tmp/display.$$
+    local number_file=$root/build/tmp/display.$$ number=
     mkfifo "$number_file" || die "cannot make $number_file"
-    Xvfb -displayfd 7 -screen 0 1280x1024x24 -nolisten tcp 7>"$number_file" >"$logs/display.log" 2>&1 3>&- &
-    display_pid=$!
-    local number=
+    Xvfb -displayfd 7 -screen 0 1280x1024x24 -nolisten tcp 7>"$number_file" >"$logs/display.log" 2>&1 3>&- 8>&- &
+    display_processes+=($!)
     read -r -t 20 number <"$number_file"
     rm -f "$number_file"
     [ -n "$number" ] || die "The virtual display did not start; its log is $logs/display.log"
     export DISPLAY=:$number
+    openbox >>"$logs/display.log" 2>&1 3>&- 8>&- &
+    display_processes+=($!)
 }
 
 stop_display() {
-    [ -n "$display_pid" ] || return 0
-    kill "$display_pid" 2>/dev/null
-    wait "$display_pid" 2>/dev/null
-    display_pid=
+    local process
+    for process in "${display_processes[@]}"; do
+        kill "$process" 2>/dev/null
+        wait "$process" 2>/dev/null
+    done
+    display_processes=()
 }

@@ -2,7 +2,7 @@
 
 build_packages=(g++-mingw-w64-x86-64-posix cmake ninja-build librsvg2-bin googletest)
 run_packages=(wine wine64 fonts-wine fonts-liberation)
-display_packages=(xvfb)
+display_packages=(xvfb openbox)
 check_packages=(clang-format clang-tidy)
 
 # install_packages PACKAGE...: those that are missing.
