@@ -221,15 +221,18 @@ TEST_F(DialogOpen, SameObjectRunsAgain_AndStartsEmpty) {
 }
 
 TEST_F(DialogOpen, TenThousandFiles_OpenAndPick) {
-    for (int i = 0; i < 10'000; ++i) {
-        wchar_t name[32];
-        wsprintfW(name, L"\\plan%05d.dwg", i);
-        CloseHandle(CreateFileW(folder.path() + name, GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
+    constexpr int kFiles = 10'000;
+    for (int i = 0; i < kFiles; ++i) {
+        CString name;
+        name.Format(L"plan%05d.dwg", i);
+        CloseHandle(CreateFileW(folder.path(name), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
     }
     TestDialog dialog(folder.path());
     DialogUser user(dialog);
-    user.until("all files", [] { return ListView_GetItemCount(viewList()) == 10'000; });
-    user.pick({L"plan07777.dwg"}).untilName(L"plan07777.dwg").ok();
+    user.until("all files", [] { return ListView_GetItemCount(viewList()) == kFiles; }).check([] {
+        ListView_SetItemState(viewList(), 7777, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    });
+    user.untilName(L"plan07777.dwg").ok();
     EXPECT_EQ(user.run(), IDOK);
     EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(L"plan07777.dwg"))));
 }
