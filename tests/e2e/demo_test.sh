@@ -35,7 +35,7 @@ here="*${backslash}drawings${backslash}"
 
 expect "a typed name is picked" 0 "picked 1 ${here}plan.dwg" demo --folder "$drawings" --type plan.dwg
 expect "a clicked item is picked" 0 "picked 1 ${here}plan.dwg" demo --folder "$drawings" --pick plan.dwg
-expect "names with a blank and an umlaut" 0 "picked 1 ${here}site plan.dwg"$'\n'"picked 1 ${here}Büro.dwg" \
+expect "names with a blank and an umlaut" 0 "picked 1 ${here}Büro.dwg"$'\n'"picked 1 ${here}site plan.dwg" \
     demo --folder "$drawings" --multi --pick "site plan.dwg" --pick "Büro.dwg"
 expect "a folder is entered, then a file picked" 0 "picked 1 ${here}Details${backslash}door.dwg" \
     demo --folder "$drawings" --pick Details --pick door.dwg
