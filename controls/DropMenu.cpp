@@ -15,8 +15,7 @@ void trackBelow(HWND button, HMENU popup) {
     keepClear.cbSize = sizeof keepClear;
     GetWindowRect(button, &keepClear.rcExclude);
     const bool mirrored = isMirrored(button);
-    const UINT flags = TPM_TOPALIGN | TPM_VERTICAL | TPM_LEFTBUTTON |
-                       (mirrored ? TPM_RIGHTALIGN | TPM_LAYOUTRTL : static_cast<UINT>(TPM_LEFTALIGN));
+    const UINT flags = TPM_VERTICAL | (mirrored ? TPM_RIGHTALIGN | TPM_LAYOUTRTL : static_cast<UINT>(TPM_LEFTALIGN));
     TrackPopupMenuEx(popup, flags, mirrored ? keepClear.rcExclude.right : keepClear.rcExclude.left,
                      keepClear.rcExclude.bottom, GetParent(button), &keepClear);
 }

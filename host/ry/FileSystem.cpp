@@ -108,7 +108,7 @@ std::wstring networkAwareChangeDir(const wchar_t* path, bool isDesktopKeyword, F
         case Answer::none:
             break;
     }
-    const std::wstring programFolder = zoui::folderOfModule(nullptr);
+    std::wstring programFolder = zoui::folderOfModule(nullptr);
     SetCurrentDirectoryW(programFolder.c_str());
     return programFolder;
 }

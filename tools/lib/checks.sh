@@ -16,10 +16,11 @@ source_dependencies() {
         END { if (line != "") print line }' | sort -u
 }
 
+# The sources of a group are headers of it, as far as the analyser can tell.
 analysis_flags() {
     local gcc
     gcc=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-libgcc-file-name)")
-    printf '%s\n' --target=x86_64-w64-mingw32 -std=c++20 -Wno-everything \
+    printf '%s\n' --target=x86_64-w64-mingw32 -std=c++20 -Wno-everything -Xclang -analyzer-opt-analyze-headers \
         -isystem "$gcc/include/c++" -isystem "$gcc/include/c++/x86_64-w64-mingw32" \
         -DUNICODE -D_UNICODE -DNOMINMAX -DSTRICT -D_WIN32_WINNT=0x0A00 -DKNAV_BUILDING -DZOUI_BUILDING \
         -I"$root" -I"$root/include" -I"$root/host" -include "$root/cmake/pch.h"
@@ -44,23 +45,86 @@ stale_sources() {
     done | sort -u -k1,1
 }
 
-# analyse SOURCE HASH
-analyse() {
+# group_sources: from lines "source hash" makes lines "source hash source hash ...". The sources of a line are analysed
+# as one, because most of the time goes into the system's headers. Those that have a name of their own in common (a
+# definition at the left margin of an unnamed namespace, or a main function) are kept apart.
+group_sources() {
+    awk -v root="$root/" -v most=20 '
+        function names_of(file, names,    line, inside) {
+            split("", names)
+            inside = 0
+            while ((getline line < (root file)) > 0) {
+                if (line ~ /^int w?main\(/) names["main"]
+                if (line ~ /^namespace \{/) inside = 1
+                else if (line ~ /^\}  \/\/ namespace$/) inside = 0
+                else if (inside && line ~ /^[A-Za-z]/ && line !~ /^(template|public|private|protected|static_assert)/) {
+                    sub(/[({=;\[].*/, "", line)
+                    sub(/ (:|final|noexcept).*/, "", line)
+                    sub(/ +$/, "", line)
+                    sub(/.*[ *&:]/, "", line)
+                    names[line]
+                }
+            }
+            close(root file)
+        }
+        {
+            names_of($1, names)
+            for (group = 1; group <= groups; ++group) {
+                fits = size[group] < most
+                for (name in names) if ((group, name) in taken) fits = 0
+                if (fits) break
+            }
+            if (group > groups) groups = group
+            for (name in names) taken[group, name]
+            ++size[group]
+            members[group] = members[group] " " $1 " " $2
+        }
+        END { for (group = 1; group <= groups; ++group) print substr(members[group], 2) }'
+}
+
+passed() { printf '%s' "$2" >"$(state_of "$1")"; }
+
+run_tidy() {
     local flags
     mapfile -t flags <"$analysis/flags"
-    cd "$root" && clang-tidy --quiet "$1" -- "${flags[@]}" 2>/dev/null && printf '%s' "$2" >"$(state_of "$1")"
+    clang-tidy --quiet --header-filter="^$root/[a-z]" "$1" -- "${flags[@]}" 2>/dev/null
+}
+
+# analyse NUMBER SOURCE HASH [SOURCE HASH]...: one group. Sources that do not go together after all are analysed alone.
+analyse() {
+    local number=$1 group=$analysis/group-$1.cpp findings=$analysis/group-$1.txt code
+    shift
+    printf '#include "'"$root"'/%s"  // %s\n' "$@" >"$group"
+    run_tidy "$group" >"$findings"
+    code=$?
+    if [ $# -gt 2 ] && grep -q '\[clang-diagnostic-error' "$findings"; then
+        code=0
+        while [ $# -gt 0 ]; do
+            analyse "$number-$#" "$1" "$2" || code=1
+            shift 2
+        done
+        return "$code"
+    fi
+    cat "$findings"
+    while [ $# -gt 0 ]; do
+        [ "$code" != 0 ] && grep -q "^$root/$1:\|\.h:[0-9]" "$findings" || passed "$1" "$2"
+        shift 2
+    done
+    return "$code"
 }
 
 check_analysis() {
-    local stale total
+    local stale groups total
     mkdir -p "$analysis"
+    rm -f "$analysis"/group-*
     analysis_flags >"$analysis/flags"
     stale=$(stale_sources)
     [ -n "$stale" ] || return 0
-    total=$(printf '%s\n' "$stale" | wc -l)
+    groups=$(printf '%s\n' "$stale" | group_sources)
+    total=$(printf '%s\n' "$groups" | wc -l)
     export root analysis
-    export -f analyse state_of
+    export -f analyse state_of passed run_tidy
     # The numbers in front are for the display of the progress.
-    printf '%s\n' "$stale" | awk -v total="$total" '{ print NR, total, $0 }' |
-        xargs -P "$(nproc)" -L 1 bash -c 'printf "[%s/%s] %s\n" "$1" "$2" "$3"; analyse "$3" "$4"' _
+    printf '%s\n' "$groups" | awk -v total="$total" '{ print NR, total, $0 }' |
+        xargs -P "$(nproc)" -L 1 bash -c 'printf "[%s/%s]\n" "$1" "$2"; number=$1; shift 2; analyse "$number" "$@"' _
 }
