@@ -37,7 +37,6 @@ public:
 
     BOOL IsDialogMessage(MSG* message) { return ::IsDialogMessageW(m_hWnd, message); }
     void NextDlgCtrl() const { SendMessage(WM_NEXTDLGCTL, FALSE, FALSE); }
-    void PrevDlgCtrl() const { SendMessage(WM_NEXTDLGCTL, TRUE, FALSE); }
     void GotoDlgCtrl(CWnd* control) const {
         SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(SafeHwnd(control)), TRUE);
     }

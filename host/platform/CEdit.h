@@ -29,11 +29,6 @@ public:
     }
     BOOL GetModify() const { return static_cast<BOOL>(SendMessage(EM_GETMODIFY)); }
     void SetModify(BOOL modified = TRUE) { SendMessage(EM_SETMODIFY, static_cast<WPARAM>(modified)); }
-    BOOL SetCueBanner(const wchar_t* text, BOOL showFocused = FALSE) {
-        return static_cast<BOOL>(
-            SendMessage(EM_SETCUEBANNER, static_cast<WPARAM>(showFocused), reinterpret_cast<LPARAM>(text)));
-    }
-    void SetPasswordChar(wchar_t shown) { SendMessage(EM_SETPASSWORDCHAR, shown); }
     BOOL CanUndo() const { return static_cast<BOOL>(SendMessage(EM_CANUNDO)); }
     BOOL Undo() { return static_cast<BOOL>(SendMessage(EM_UNDO)); }
     void Cut() { SendMessage(WM_CUT); }

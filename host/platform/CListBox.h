@@ -44,7 +44,6 @@ public:
     int SetTopIndex(int index) { return number(LB_SETTOPINDEX, index); }
     // The item nearest to a client position; `outside` tells that the position is not on an item.
     UINT ItemFromPoint(POINT point, BOOL& outside) const;
-    void SetHorizontalExtent(int pixels) { SendMessage(LB_SETHORIZONTALEXTENT, at(pixels)); }
 
     // For owner-drawn lists. The base draws nothing, keeps the item height and treats all items as equal.
     virtual void DrawItem(DRAWITEMSTRUCT* item);

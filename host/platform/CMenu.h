@@ -49,12 +49,6 @@ public:
     // The previous state, or -1 (as UINT) when there is no such entry.
     UINT EnableMenuItem(UINT item, UINT flags) { return static_cast<UINT>(::EnableMenuItem(m_hMenu, item, flags)); }
     UINT CheckMenuItem(UINT item, UINT flags) { return ::CheckMenuItem(m_hMenu, item, flags); }
-    BOOL CheckMenuRadioItem(UINT first, UINT last, UINT item, UINT flags) {
-        return ::CheckMenuRadioItem(m_hMenu, first, last, item, flags);
-    }
-    BOOL SetDefaultItem(UINT item, BOOL byPosition = FALSE) {
-        return ::SetMenuDefaultItem(m_hMenu, item, static_cast<UINT>(byPosition));
-    }
 
     int GetMenuItemCount() const { return ::GetMenuItemCount(m_hMenu); }                   // -1 on failure
     UINT GetMenuItemID(int position) const { return ::GetMenuItemID(m_hMenu, position); }  // -1 (as UINT): a submenu

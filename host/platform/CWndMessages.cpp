@@ -58,11 +58,7 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (m_binding == nullptr) {
-        return 0;
-    }
-    return m_binding->subclassed ? DefSubclassProc(m_hWnd, message, wParam, lParam)
-                                 : ::DefWindowProcW(m_hWnd, message, wParam, lParam);
+    return m_binding != nullptr ? m_binding->passOn(message, wParam, lParam) : 0;
 }
 
 LRESULT CWnd::Default() {

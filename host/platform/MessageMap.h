@@ -160,7 +160,6 @@ protected:                                        \
 
 // Notifications of child controls, by code.
 #define ON_CONTROL(code, id, handler) {WM_COMMAND, (code), (id), (id), &zoui::callCommand<handler>},
-#define ON_CONTROL_RANGE(code, first, last, handler) {WM_COMMAND, (code), (first), (last), &zoui::callCommand<handler>},
 #define ON_BN_CLICKED(id, handler) ON_CONTROL(BN_CLICKED, id, handler)
 #define ON_EN_CHANGE(id, handler) ON_CONTROL(EN_CHANGE, id, handler)
 #define ON_CBN_SELCHANGE(id, handler) ON_CONTROL(CBN_SELCHANGE, id, handler)
@@ -169,8 +168,6 @@ protected:                                        \
 #define ON_LBN_DBLCLK(id, handler) ON_CONTROL(LBN_DBLCLK, id, handler)
 #define ON_NOTIFY(code, id, handler) {WM_NOTIFY, LOWORD(code), (id), (id), &zoui::callNotify<handler>},
 #define ON_NOTIFY_EX(code, id, handler) {WM_NOTIFY, LOWORD(code), (id), (id), &zoui::callNotify<handler, true>},
-#define ON_NOTIFY_RANGE(code, first, last, handler) \
-    {WM_NOTIFY, LOWORD(code), (first), (last), &zoui::callNotify<handler>},
 
 // The same notifications, handled by the control's own class before its parent sees them. The parent does not see them
 // at all, except that an _EX handler that returns 0 lets it.

@@ -4,6 +4,8 @@
 
 #include <platform/Resources.h>
 
+#include "platform/CentredBox.h"
+
 namespace {
 
 struct HandlerSlot {
@@ -47,6 +49,7 @@ HWND activeWindow() noexcept {
 }
 
 int showMessageBox(const ZoPrompt& prompt) {
+    const zoui::CentredBox centred(prompt.owner);
     return ::MessageBoxW(prompt.owner, prompt.text, prompt.caption, prompt.flags);
 }
 

@@ -38,8 +38,9 @@ ZOUI_API ZoPromptHandler ZoSetPromptHandler(ZoPromptHandler handler);
 // Asks the handler, else calls `show`. Whatever shows a prompt in another form goes through this.
 ZOUI_API int ZoAsk(const ZoPrompt& prompt, const std::function<int(const ZoPrompt&)>& show);
 
-// A message box over the thread's active window, with the program's name as caption. Without an icon in `flags` it gets
-// a question mark when it asks (any kind of Yes or Retry button) and a warning sign otherwise. Returns the button's id.
+// A message box in the middle of the thread's active window, with the program's name as caption. Without an icon in
+// `flags` it gets a question mark when it asks (any kind of Yes or Retry button) and a warning sign otherwise. Returns
+// the button's id.
 ZOUI_API int AfxMessageBox(const wchar_t* text, UINT flags = MB_OK);
 ZOUI_API int AfxMessageBox(UINT textId, UINT flags = MB_OK);
 

@@ -1,6 +1,7 @@
 #include "platform/WindowBinding.h"
 
 #include <cwchar>
+#include <unordered_map>
 #include <utility>
 
 namespace zoui {
@@ -19,6 +20,20 @@ const wchar_t* propertyName() noexcept {
         return GlobalAddAtomW(name);
     }();
     return MAKEINTATOM(atom);
+}
+
+// Messages are intercepted by an own window procedure. The system's list of subclasses looks itself up on the window
+// three times for each message, which on some systems are calls to another process and half of what opening a dialog
+// costs. Where a window is in that list already, though, it has to be used: it takes its procedure off the window in
+// the end without regard to what came later.
+struct Interception {
+    WNDPROC next;
+    WindowBinding* binding;  // null when the object has let go but somebody came in front of us since
+};
+thread_local std::unordered_map<HWND, Interception> t_interceptions;
+
+bool isInSystemList(HWND window) noexcept {
+    return GetPropW(window, L"CC32SubclassInfo") != nullptr;
 }
 
 // The system's subclass list is not for windows of other threads, but does not always refuse them.
@@ -66,11 +81,11 @@ WindowBinding* WindowBinding::make(CWnd& object, HWND window, bool subclass, boo
         return nullptr;
     }
     auto binding = std::make_unique<WindowBinding>(WindowBinding{&object, window, subclass, created});
-    if (subclass && !SetWindowSubclass(window, procedure, kSubclassId, reinterpret_cast<DWORD_PTR>(binding.get()))) {
+    if (subclass && !binding->intercept()) {
         return nullptr;
     }
     if (!SetPropW(window, propertyName(), binding.get())) {
-        RemoveWindowSubclass(window, procedure, kSubclassId);
+        binding->stopIntercepting();
         return nullptr;
     }
     return binding.release();
@@ -85,9 +100,7 @@ void WindowBinding::letGo(CWnd& object) noexcept {
     // A merely attached window may have ended unnoticed and its handle may be in use again.
     if (of(binding->window) == binding) {
         RemovePropW(binding->window, propertyName());
-        if (binding->subclassed) {
-            RemoveWindowSubclass(binding->window, procedure, kSubclassId);
-        }
+        binding->stopIntercepting();
     }
     binding->object = nullptr;
     if (binding->depth == 0) {
@@ -95,10 +108,73 @@ void WindowBinding::letGo(CWnd& object) noexcept {
     }
 }
 
-LRESULT CALLBACK WindowBinding::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                          DWORD_PTR data) {
-    auto& binding = *reinterpret_cast<WindowBinding*>(data);
-    const Frame frame(binding, MSG{window, message, wParam, lParam, 0, {}});
+bool WindowBinding::intercept() noexcept try {
+    if (!created && isInSystemList(window)) {
+        return SetWindowSubclass(window, listedProcedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
+    }
+    Interception& entry = t_interceptions[window];
+    if (entry.next == nullptr) {
+        const LONG_PTR before = SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&procedure));
+        entry.next = reinterpret_cast<WNDPROC>(before);
+    }
+    if (entry.next == nullptr) {
+        t_interceptions.erase(window);
+        return false;
+    }
+    entry.binding = this;
+    next = entry.next;
+    return true;
+} catch (...) {
+    return false;
+}
+
+void WindowBinding::stopIntercepting() noexcept {
+    if (!subclassed) {
+        return;
+    }
+    if (next == nullptr) {
+        RemoveWindowSubclass(window, listedProcedure, kSubclassId);
+        return;
+    }
+    const auto entry = t_interceptions.find(window);
+    if (entry == t_interceptions.end()) {
+        return;
+    }
+    if (GetWindowLongPtrW(window, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&procedure)) {
+        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(next));
+        t_interceptions.erase(entry);
+    } else {
+        entry->second.binding = nullptr;
+    }
+}
+
+LRESULT WindowBinding::passOn(UINT message, WPARAM wParam, LPARAM lParam) const noexcept {
+    return next != nullptr ? CallWindowProcW(next, window, message, wParam, lParam)
+           : subclassed    ? DefSubclassProc(window, message, wParam, lParam)
+                           : ::DefWindowProcW(window, message, wParam, lParam);
+}
+
+LRESULT CALLBACK WindowBinding::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto entry = t_interceptions.find(window);
+    if (entry == t_interceptions.end()) {
+        return ::DefWindowProcW(window, message, wParam, lParam);
+    }
+    const Interception found = entry->second;
+    const LRESULT result = found.binding != nullptr ? receive(*found.binding, message, wParam, lParam)
+                                                    : CallWindowProcW(found.next, window, message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+        t_interceptions.erase(window);
+    }
+    return result;
+}
+
+LRESULT CALLBACK WindowBinding::listedProcedure(HWND, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                                DWORD_PTR data) {
+    return receive(*reinterpret_cast<WindowBinding*>(data), message, wParam, lParam);
+}
+
+LRESULT WindowBinding::receive(WindowBinding& binding, UINT message, WPARAM wParam, LPARAM lParam) {
+    const Frame frame(binding, MSG{binding.window, message, wParam, lParam, 0, {}});
     const LRESULT result = handle(binding, message, wParam, lParam);
     if (message == WM_NCDESTROY && binding.object != nullptr) {
         windowEnded(binding);
@@ -114,7 +190,7 @@ LRESULT WindowBinding::handle(WindowBinding& binding, UINT message, WPARAM wPara
         case WM_CREATE:
             return -1;
         case WM_NCDESTROY:
-            return DefSubclassProc(binding.window, message, wParam, lParam);
+            return binding.passOn(message, wParam, lParam);
         default:
             return 0;
     }

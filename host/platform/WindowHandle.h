@@ -86,12 +86,11 @@ public:
     }
     void SetRedraw(BOOL redraw = TRUE) const { SendMessage(WM_SETREDRAW, redraw); }
 
-    // Timers without callback, and buttons of a group.
+    // Timers without callback, and check boxes.
     UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds) const { return ::SetTimer(m_hWnd, id, milliseconds, nullptr); }
     BOOL KillTimer(UINT_PTR id) const { return ::KillTimer(m_hWnd, id); }
     void CheckDlgButton(int id, UINT check) const { ::CheckDlgButton(m_hWnd, id, check); }
     UINT IsDlgButtonChecked(int id) const { return ::IsDlgButtonChecked(m_hWnd, id); }
-    void CheckRadioButton(int first, int last, int checked) const { ::CheckRadioButton(m_hWnd, first, last, checked); }
 
 private:
     static POINT* asPoints(RECT* rectangle) noexcept { return reinterpret_cast<POINT*>(rectangle); }

@@ -1,4 +1,5 @@
 #include <ry/FileSystem.h>
+#include <ry/RyBackground.h>
 
 #include <chrono>
 #include <future>
@@ -14,49 +15,20 @@ constexpr DWORD kLimit = 2000;
 
 enum class Answer { folder, noFolder, none };
 
-// What the prober needs; it outlives whichever of the two threads is done first.
-struct Question {
-    FolderProbe probe;
-    std::wstring path;
-    std::promise<bool> answer;
-};
-
-void CALLBACK ask(PTP_CALLBACK_INSTANCE, void* context) noexcept {
-    const std::unique_ptr<Question> question(static_cast<Question*>(context));
-    try {
-        question->answer.set_value(question->probe(question->path));
-    } catch (...) {
-        question->answer.set_exception(std::current_exception());
-    }
-}
-
-// The environment of one callback: it may take long, and this module stays loaded until it has returned.
-class LongCallback {
-public:
-    LongCallback() noexcept {
-        InitializeThreadpoolEnvironment(&m_environment);
-        SetThreadpoolCallbackRunsLong(&m_environment);
-        SetThreadpoolCallbackLibrary(&m_environment, zoui::ownModule());
-    }
-    ~LongCallback() { DestroyThreadpoolEnvironment(&m_environment); }
-    LongCallback(const LongCallback&) = delete;
-    LongCallback& operator=(const LongCallback&) = delete;
-
-    bool submit(PTP_SIMPLE_CALLBACK callback, void* context) noexcept {
-        return TrySubmitThreadpoolCallback(callback, context, &m_environment);
-    }
-
-private:
-    TP_CALLBACK_ENVIRON m_environment;
-};
-
 Answer askInTime(const std::wstring& path, FolderProbe probe, DWORD limit) {
-    std::unique_ptr<Question> question(new Question{std::move(probe), path, {}});
-    std::future<bool> answer = question->answer.get_future();
-    if (!LongCallback().submit(&ask, question.get())) {
+    // Shared: it outlives whichever of the two threads is done first.
+    const auto promise = std::make_shared<std::promise<bool>>();
+    std::future<bool> answer = promise->get_future();
+    const auto ask = [promise, path, probe = std::move(probe)] {
+        try {
+            promise->set_value(probe(path));
+        } catch (...) {
+            promise->set_exception(std::current_exception());
+        }
+    };
+    if (!ryRunInBackground(zoui::ownModule(), ask)) {
         return Answer::none;
     }
-    static_cast<void>(question.release());  // the callback owns it now
     if (answer.wait_for(std::chrono::milliseconds(limit)) != std::future_status::ready) {
         return Answer::none;
     }
@@ -78,20 +50,23 @@ std::wstring fullPath(const wchar_t* path) {
     return full;
 }
 
+bool isOnFixedDisk(const std::wstring& path) {
+    wchar_t root[] = L"C:\\";
+    root[0] = path[0];
+    return path.size() > 2 && path[1] == L':' && GetDriveTypeW(root) == DRIVE_FIXED;
+}
+
 bool isFolder(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-}  // namespace
-
-namespace Kelvara::Tessary::PAL::FileSystem {
-
-std::wstring networkAwareChangeDir(const wchar_t* path, bool isDesktopKeyword) {
-    return networkAwareChangeDir(path, isDesktopKeyword, &isFolder, kLimit);
+Answer askDisk(const std::wstring& path) {
+    return isFolder(path) ? Answer::folder : Answer::noFolder;
 }
 
-std::wstring networkAwareChangeDir(const wchar_t* path, bool isDesktopKeyword, FolderProbe probe, DWORD limit) {
+template <class Ask>
+std::wstring changeDir(const wchar_t* path, bool isDesktopKeyword, Ask ask) {
     if (isDesktopKeyword || path == nullptr || *path == 0) {
         return {};
     }
@@ -99,7 +74,7 @@ std::wstring networkAwareChangeDir(const wchar_t* path, bool isDesktopKeyword, F
     if (wanted.empty()) {
         return {};
     }
-    switch (askInTime(wanted, std::move(probe), limit)) {
+    switch (ask(wanted)) {
         case Answer::folder:
             SetCurrentDirectoryW(wanted.c_str());
             return {};
@@ -111,6 +86,22 @@ std::wstring networkAwareChangeDir(const wchar_t* path, bool isDesktopKeyword, F
     std::wstring programFolder = zoui::folderOfModule(nullptr);
     SetCurrentDirectoryW(programFolder.c_str());
     return programFolder;
+}
+
+}  // namespace
+
+namespace Kelvara::Tessary::PAL::FileSystem {
+
+std::wstring networkAwareChangeDir(const wchar_t* path, bool isDesktopKeyword) {
+    // A disk of this machine answers at once, and needs no thread for it.
+    return changeDir(path, isDesktopKeyword, [](const std::wstring& wanted) {
+        return isOnFixedDisk(wanted) ? askDisk(wanted) : askInTime(wanted, &isFolder, kLimit);
+    });
+}
+
+std::wstring networkAwareChangeDir(const wchar_t* path, bool isDesktopKeyword, FolderProbe probe, DWORD limit) {
+    return changeDir(path, isDesktopKeyword,
+                     [&](const std::wstring& wanted) { return askInTime(wanted, std::move(probe), limit); });
 }
 
 }  // namespace Kelvara::Tessary::PAL::FileSystem

@@ -3,6 +3,9 @@
 namespace zoui {
 namespace {
 
+// Some systems make a tip a little narrower than its text; a blank is what is cut off then.
+constexpr wchar_t kEndRoom[] = L" ";
+
 // The size without the last member, which the classic version of the control does not know.
 TOOLINFOW toolOf(HWND control, const RECT& area, const std::wstring& text) noexcept {
     TOOLINFOW tool{};
@@ -25,13 +28,13 @@ RowTip::~RowTip() {
     }
 }
 
-bool RowTip::create(HWND control) {
+bool RowTip::create(HWND control, const std::wstring& shown) {
     m_tip = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0,
                             0, control, nullptr, nullptr, nullptr);
     if (m_tip == nullptr) {
         return false;
     }
-    tell(m_tip, TTM_ADDTOOLW, toolOf(control, m_area, m_text));
+    tell(m_tip, TTM_ADDTOOLW, toolOf(control, m_area, shown));
     return true;
 }
 
@@ -45,10 +48,11 @@ void RowTip::pointTo(HWND control, const RECT& area, const std::wstring& text) {
     }
     m_area = text.empty() ? RECT{} : area;
     m_text = text;
-    if (m_tip == nullptr && (text.empty() || !create(control))) {
+    const std::wstring shown = text.empty() ? text : text + kEndRoom;
+    if (m_tip == nullptr && (text.empty() || !create(control, shown))) {
         return;
     }
-    const TOOLINFOW tool = toolOf(control, m_area, m_text);
+    const TOOLINFOW tool = toolOf(control, m_area, shown);
     SendMessageW(m_tip, TTM_POP, 0, 0);
     tell(m_tip, TTM_NEWTOOLRECTW, tool);
     tell(m_tip, TTM_UPDATETIPTEXTW, tool);

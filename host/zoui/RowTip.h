@@ -22,7 +22,7 @@ public:
     void relay(HWND control, UINT message, WPARAM wParam, LPARAM lParam) const;
 
 private:
-    bool create(HWND control);
+    bool create(HWND control, const std::wstring& shown);
 
     HWND m_tip = nullptr;
     RECT m_area{};

@@ -4,6 +4,7 @@
 #include <platform/Prompt.h>
 #include <platform/Resources.h>
 
+#include "platform/CentredBox.h"
 #include "zoui/TaskDialogText.h"
 #include "zoui/ThemedControls.h"
 
@@ -33,6 +34,14 @@ const wchar_t* systemIcon(zoui::TaskDialogIcon icon) noexcept {
     return nullptr;
 }
 
+// Not every system keeps to TDF_POSITION_RELATIVE_TO_WINDOW.
+HRESULT CALLBACK placeOverOwner(HWND window, UINT notification, WPARAM, LPARAM, LONG_PTR owner) noexcept {
+    if (notification == TDN_CREATED) {
+        zoui::centreOver(window, reinterpret_cast<HWND>(owner));
+    }
+    return S_OK;
+}
+
 TASKDIALOGCONFIG configOf(const zoui::TaskDialogText& dialog, HWND owner) noexcept {
     TASKDIALOGCONFIG config{};
     config.cbSize = sizeof(config);
@@ -47,6 +56,8 @@ TASKDIALOGCONFIG configOf(const zoui::TaskDialogText& dialog, HWND owner) noexce
     config.pszMainInstruction = dialog.mainInstruction;
     config.pszContent = dialog.content;
     config.nDefaultButton = dialog.defaultButton;
+    config.pfCallback = &placeOverOwner;
+    config.lpCallbackData = reinterpret_cast<LONG_PTR>(owner);
     return config;
 }
 

@@ -9,21 +9,19 @@
 #include <stdexcept>
 #include <vector>
 
-#include "host/MemoryTemplate.h"
+#include "support/DialogTemplate.h"
 
 namespace {
 
-using knav::test::MemoryTemplate;
+using knav::test::DialogTemplate;
 using testing::ElementsAre;
 
 constexpr WORD kEditId = 10;
 constexpr UINT WM_STEP = WM_APP + 1;
 
-const MemoryTemplate& sampleTemplate() {
-    static const MemoryTemplate made = MemoryTemplate(L"sample")
-                                           .add(MemoryTemplate::Edit, kEditId, L"")
-                                           .add(MemoryTemplate::Button, IDOK, L"OK", BS_DEFPUSHBUTTON | WS_TABSTOP)
-                                           .add(MemoryTemplate::Button, IDCANCEL, L"Cancel");
+const DialogTemplate& sampleTemplate() {
+    static const DialogTemplate made =
+        DialogTemplate(L"sample").control(WC_EDITW, L"", kEditId, WS_TABSTOP, 5).okAndCancel();
     return made;
 }
 

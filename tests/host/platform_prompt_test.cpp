@@ -74,6 +74,49 @@ TEST(Prompt, HandlerMayAskAndReplaceItself) {
     EXPECT_EQ(outerCalls, 1);
 }
 
+/// Looks for a box over `owner`, notes where it is, and closes it.
+struct BoxWatcher {
+    HWND owner = nullptr;
+    RECT box{};
+
+    static void CALLBACK look(HWND window, UINT, UINT_PTR watcher, DWORD) {
+        auto& self = *reinterpret_cast<BoxWatcher*>(watcher);
+        const HWND box = GetLastActivePopup(window);
+        if (box != window && IsWindowVisible(box)) {
+            GetWindowRect(box, &self.box);
+            PostMessageW(box, WM_COMMAND, IDOK, 0);
+        }
+    }
+};
+
+TEST(Prompt, MessageBoxStandsInTheMiddleOfItsOwnerButOnTheScreen) {
+    struct Row {
+        const char* why;
+        int x, y;
+        bool middle;
+    };
+    constexpr Row rows[] = {{"a window away from the middle of the screen", 40, 60, true},
+                            {"a window that is partly off the screen", -550, 60, false}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.why);
+        const HWND owner = CreateWindowExW(0, L"#32770", L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, row.x, row.y, 600,
+                                           300, nullptr, nullptr, nullptr, nullptr);
+        BoxWatcher watcher{owner};
+        SetTimer(owner, reinterpret_cast<UINT_PTR>(&watcher), 20, &BoxWatcher::look);
+        EXPECT_EQ(ZoMessageBox(owner, L"Done", L"Caption", MB_OK), IDOK);
+        RECT place{};
+        GetWindowRect(owner, &place);
+        DestroyWindow(owner);
+        const LONG middle = (watcher.box.left + watcher.box.right) / 2;
+        EXPECT_GE(watcher.box.left, 0);
+        EXPECT_GT(watcher.box.right, watcher.box.left);
+        if (row.middle) {
+            EXPECT_NEAR(middle, (place.left + place.right) / 2, 1);
+            EXPECT_NEAR((watcher.box.top + watcher.box.bottom) / 2, (place.top + place.bottom) / 2, 1);
+        }
+    }
+}
+
 TEST(FormatText, ReplacesNumberedPlacesInOnePass) {
     const struct {
         const char* why;

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-#include "host/MemoryTemplate.h"
+#include "support/DialogTemplate.h"
 #include "support/ScopedTempFolder.h"
 
 namespace {
@@ -44,7 +44,7 @@ public:
         UpdateResourceW(update, RT_STRING, MAKEINTRESOURCEW(kFirstString / 16 + 1), kNeutral, strings.data(),
                         static_cast<DWORD>(strings.size() * sizeof(WORD)));
         if (withDialog) {
-            const knav::test::MemoryTemplate dialog(L"from the module");
+            const knav::test::DialogTemplate dialog(L"from the module");
             UpdateResourceW(update, RT_DIALOG, MAKEINTRESOURCEW(kDialogId), kNeutral,
                             const_cast<DLGTEMPLATE*>(dialog.get()), static_cast<DWORD>(dialog.byteCount()));
         }

@@ -217,6 +217,30 @@ TEST(Subclassing, EndsInTheMiddleOfOthers) {
     EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 110);
 }
 
+WNDPROC g_procedureBelow = nullptr;
+
+LRESULT CALLBACK addTen(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return CallWindowProcW(g_procedureBelow, window, message, wParam, lParam) + (message == WM_APP ? 10 : 0);
+}
+
+TEST(Subclassing, EndsAndBeginsAnewBelowAnotherProcedure) {
+    const RawWindow raw;
+    Probe probe;
+    ASSERT_TRUE(probe.SubclassWindow(raw));
+    probe.action = [] {};
+    g_procedureBelow =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrW(raw, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&addTen)));
+    EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 15);
+    EXPECT_EQ(probe.UnsubclassWindow(), static_cast<HWND>(raw));
+    EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 10);
+    Probe second;
+    ASSERT_TRUE(second.SubclassWindow(raw));
+    second.action = [] {};
+    EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 15);
+    ::DestroyWindow(raw);
+    EXPECT_EQ(second.m_hWnd, nullptr);
+}
+
 TEST(WindowFromHandle, GivesTheObjectOrOneTemporary) {
     EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
     HWND ended = nullptr;

@@ -5,13 +5,13 @@
 
 #include <gtest/gtest.h>
 
-#include "host/DialogTemplate.h"
 #include "support/DialogDriver.h"
+#include "support/DialogTemplate.h"
 #include "support/Printers.h"
 #include "support/RegistryRedirect.h"
 
 using knav::test::DialogDriver;
-using zoui::test::DialogTemplate;
+using knav::test::DialogTemplate;
 
 std::ostream& operator<<(std::ostream& out, const RECT& rect) {
     return out << '(' << rect.left << ',' << rect.top << ' ' << rect.right - rect.left << 'x' << rect.bottom - rect.top

@@ -4,54 +4,25 @@
 
 #include <cstring>
 
+#include "support/DialogTemplate.h"
 #include "support/ScriptedPrompts.h"
 
 using knav::test::DialogDriver;
+using knav::test::DialogTemplate;
 using knav::test::ScriptedPrompts;
 
 namespace {
 
-constexpr UINT kEdit = 100;
-constexpr UINT kCombo = 101;
+constexpr WORD kEdit = 100;
+constexpr WORD kCombo = 101;
 
-// A dialog template in memory: an edit field, a drop-down list, OK and Cancel.
-class Template {
-public:
-    Template() {
-        put(DLGTEMPLATE{WS_POPUP | WS_CAPTION | WS_VISIBLE | DS_MODALFRAME, 0, 4, 10, 10, 120, 80});
-        text(L"");
-        text(L"");
-        text(L"Driven");
-        control(0x0081, kEdit, WS_BORDER, 10);
-        control(0x0085, kCombo, CBS_DROPDOWNLIST, 30);
-        control(0x0080, IDOK, BS_DEFPUSHBUTTON, 50);
-        control(0x0080, IDCANCEL, BS_PUSHBUTTON, 65);
-    }
-    const DLGTEMPLATE* get() const { return reinterpret_cast<const DLGTEMPLATE*>(m_bytes.data()); }
-
-private:
-    template <class Value>
-    void put(const Value& value) {
-        const auto* const bytes = reinterpret_cast<const char*>(&value);
-        m_bytes.insert(m_bytes.end(), bytes, bytes + sizeof value);
-    }
-    void text(std::wstring_view content) {
-        for (const wchar_t character : content) {
-            put(character);
-        }
-        put(L'\0');
-    }
-    void control(WORD windowClass, UINT id, DWORD style, short top) {
-        m_bytes.resize((m_bytes.size() + 3) / 4 * 4);
-        put(DLGITEMTEMPLATE{WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 5, top, 60, 14, static_cast<WORD>(id)});
-        put(WORD{0xFFFF});
-        put(windowClass);
-        text(L"");
-        put(WORD{0});
-    }
-
-    std::vector<char> m_bytes;
-};
+// An edit field, a drop-down list, OK and Cancel.
+DialogTemplate drivenTemplate() {
+    return DialogTemplate(L"Driven", WS_VISIBLE | DS_MODALFRAME)
+        .control(WC_EDITW, L"", kEdit, WS_BORDER | WS_TABSTOP, 10)
+        .control(WC_COMBOBOXW, L"", kCombo, CBS_DROPDOWNLIST | WS_TABSTOP, 30)
+        .okAndCancel();
+}
 
 struct Result {
     std::wstring text;
@@ -84,7 +55,7 @@ INT_PTR CALLBACK dialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lPa
 }
 
 INT_PTR show(Result& result) {
-    const Template dialog;
+    const DialogTemplate dialog = drivenTemplate();
     return DialogBoxIndirectParamW(GetModuleHandleW(nullptr), dialog.get(), nullptr, &dialogProc,
                                    reinterpret_cast<LPARAM>(&result));
 }

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "support/FaultReport.h"
+#include "support/LevelCheck.h"
 #include "support/ObjectCounts.h"
 #include "support/Printers.h"
 #include "support/RegistryRedirect.h"
@@ -28,6 +29,22 @@ TEST(ObjectCounts, EachKindOfLeakIsSeenAndEndsWhenFreed) {
     EXPECT_EQ(grown.gdi, 1);
     EXPECT_EQ(grown.handles, 1);
     EXPECT_EQ(ObjectCounts::now() - before, ObjectCounts{});
+}
+
+TEST(LevelCheck, SeesWhatARepetitionLeavesBehind) {
+    bool grew = false;
+    knav::test::LevelCheck check(grew);
+    testing::TestEventListener& listener = check;
+    const testing::UnitTest& tests = *testing::UnitTest::GetInstance();
+    void* const cached = CoTaskMemAlloc(8);
+    listener.OnTestIterationEnd(tests, 0);
+    listener.OnTestIterationEnd(tests, 1);
+    EXPECT_FALSE(grew) << "the first one may keep what it likes";
+    void* const lost = CoTaskMemAlloc(8);
+    listener.OnTestIterationEnd(tests, 2);
+    EXPECT_TRUE(grew);
+    CoTaskMemFree(lost);
+    CoTaskMemFree(cached);
 }
 
 TEST(ObjectCounts, ShellListsAndReallocatedBlocksBalance) {
@@ -75,7 +92,8 @@ TEST(RegistryRedirect, ValuesStayInsideAndDoNotReachTheNextRedirect) {
 
 TEST(FaultReport, FaultEndsTheProgramWithItsCodeAndAStack) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    int* volatile nowhere = nullptr;
+    // Not null, which a checked build would report before the processor does.
+    int* volatile nowhere = reinterpret_cast<int*>(std::uintptr_t{16});
     EXPECT_EXIT(*nowhere = 1, testing::ExitedWithCode(knav::test::kFaultExit),
                 AllOf(HasSubstr("unhandled fault 0xc0000005"), HasSubstr("#0  test_selftest")));
     EXPECT_EXIT(std::terminate(), testing::ExitedWithCode(knav::test::kFaultExit), "uncaught exception");

@@ -181,6 +181,8 @@ public:
         m_items.push_back({std::move(name), attributes, std::move(folder)});
         return *this;
     }
+    /// Takes the items out. A folder that holds itself is only freed after this.
+    void clear() { m_items.clear(); }
     using Conducts::calls;
     using Conducts::set;
     using Conducts::setAll;

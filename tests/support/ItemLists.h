@@ -12,6 +12,7 @@
 #include "shell/ItemListDebug.h"
 #include "shell/ListWalk.h"
 #include "support/AllocationSpy.h"
+#include "support/MemoryEnd.h"
 #include "support/Printers.h"
 
 namespace knav {
@@ -68,25 +69,15 @@ void expectNoTaskMemoryLeft(Body&& body) {
     EXPECT_EQ(AllocationSpy::live(), before);
 }
 
-/// A page of memory that ends where no memory is; `put` places bytes so that they end with it.
+/// A list whose bytes end where no memory is.
 class PageEnd {
 public:
-    PageEnd() : m_pages(static_cast<BYTE*>(VirtualAlloc(nullptr, 2 * kPage, MEM_RESERVE, PAGE_NOACCESS))) {
-        VirtualAlloc(m_pages, kPage, MEM_COMMIT, PAGE_READWRITE);
-    }
-    PageEnd(const PageEnd&) = delete;
-    PageEnd& operator=(const PageEnd&) = delete;
-    ~PageEnd() { VirtualFree(m_pages, 0, MEM_RELEASE); }
-
     ITEMIDLIST* put(const BYTE* bytes, std::size_t count) {
-        BYTE* const begin = m_pages + kPage - count;
-        std::memcpy(begin, bytes, count);
-        return reinterpret_cast<ITEMIDLIST*>(begin);
+        return reinterpret_cast<ITEMIDLIST*>(m_memory.put(bytes, count));
     }
 
 private:
-    static constexpr std::size_t kPage = 4096;
-    BYTE* m_pages;
+    MemoryEnd m_memory;
 };
 
 }  // namespace knav::test

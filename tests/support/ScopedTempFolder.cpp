@@ -1,5 +1,6 @@
 #include "support/ScopedTempFolder.h"
 
+#include <algorithm>
 #include <atomic>
 #include <filesystem>
 #include <fstream>
@@ -12,6 +13,22 @@ std::filesystem::path tempRoot() {
     wchar_t longPath[MAX_PATH + 1];
     const DWORD length = GetLongPathNameW(shortPath, longPath, MAX_PATH + 1);
     return length == 0 || length > MAX_PATH ? shortPath : longPath;
+}
+
+// Before Wine makes a file it looks through the whole folder for the name in another case, so that many files take
+// minutes. It does not where the name is one of the system below it, which this gives. Elsewhere the path is as good.
+std::wstring pathWithoutSearch(const CString& folder) {
+    using GetUnixFileName = char*(CDECL*)(const wchar_t*);
+    const auto getUnixFileName = reinterpret_cast<GetUnixFileName>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), "wine_get_unix_file_name")));
+    char* const name = getUnixFileName != nullptr ? getUnixFileName(folder) : nullptr;
+    if (name == nullptr) {
+        return folder.GetString();
+    }
+    std::wstring path = L"\\\\?\\unix" + std::filesystem::path(name).wstring();
+    HeapFree(GetProcessHeap(), 0, name);
+    std::ranges::replace(path, L'/', L'\\');
+    return path;
 }
 
 }  // namespace
@@ -40,6 +57,16 @@ CString knav::test::ScopedTempFolder::addFile(const wchar_t* relative, std::stri
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << content;
     return file.wstring();
+}
+
+void knav::test::ScopedTempFolder::addFiles(int count, const wchar_t* format) const {
+    const std::wstring folder = pathWithoutSearch(m_path) + L"\\";
+    for (int number = 0; number < count; ++number) {
+        CString name;
+        name.Format(format, number);
+        const std::wstring path = folder + name.GetString();
+        CloseHandle(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    }
 }
 
 CString knav::test::ScopedTempFolder::addFolder(const wchar_t* relative) const {

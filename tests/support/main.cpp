@@ -7,6 +7,7 @@
 
 #include "support/AllocationSpy.h"
 #include "support/FaultReport.h"
+#include "support/LevelCheck.h"
 #include "support/Watchdog.h"
 
 // Switches off the automation library's cache of strings, whose blocks would look like leaks. Not in its header.
@@ -32,10 +33,12 @@ int main(int argc, char** argv) {
     if (const DWORD limit = testLimitMs(); limit != 0) {
         testing::UnitTest::GetInstance()->listeners().Append(new knav::test::Watchdog(limit));
     }
+    bool grew = false;
+    testing::UnitTest::GetInstance()->listeners().Append(new knav::test::LevelCheck(grew));
     const HRESULT ole = OleInitialize(nullptr);
     const int result = RUN_ALL_TESTS();
     if (SUCCEEDED(ole)) {
         OleUninitialize();
     }
-    return result;
+    return grew ? 1 : result;
 }

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace zoui::test {
+namespace knav::test {
 
 class DialogTemplate {
 public:
@@ -36,6 +36,7 @@ public:
     }
 
     const DLGTEMPLATE* get() const { return reinterpret_cast<const DLGTEMPLATE*>(m_bytes.data()); }
+    std::size_t byteCount() const { return m_bytes.size(); }
 
 private:
     template <class Value>
@@ -54,4 +55,4 @@ private:
     std::vector<char> m_bytes;
 };
 
-}  // namespace zoui::test
+}  // namespace knav::test
