@@ -3,16 +3,18 @@
 #include "data/ApiEdge.h"
 #include "data/FilterText.h"
 #include "data/NamePattern.h"
+#include "data/NeverDestroyed.h"
 
 #include <algorithm>
 #include <map>
 
 namespace {
 
-// Keyed by the object's address. Never destroyed: a host's static filters may go later than anything of ours.
-std::map<const CNavFilter*, int>& multiSelectFlags() {
-    static auto& flags = *new std::map<const CNavFilter*, int>;
-    return flags;
+// Keyed by the object's address.
+using MultiSelectFlags = std::map<const CNavFilter*, int>;
+
+MultiSelectFlags& multiSelectFlags() noexcept {
+    return knav::neverDestroyed<MultiSelectFlags>();
 }
 
 }  // namespace
@@ -84,7 +86,7 @@ void CNavFilter::SetFullDescription(const wchar_t* description) {
 }
 
 void CNavFilter::GetFullDescription(CString& text) const {
-    knav::atApiEdge([&] {
+    text = knav::atApiEdge(CString(), [this] {
         CString shown = m_description;
         if (m_fullDescription == 0 && !IsEmpty()) {
             const wchar_t* separator = L" (";
@@ -95,7 +97,7 @@ void CNavFilter::GetFullDescription(CString& text) const {
             }
             shown += L')';
         }
-        text = std::move(shown);
+        return shown;
     });
 }
 

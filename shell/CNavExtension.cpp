@@ -116,7 +116,9 @@ ITEMIDLIST* CNavExtension::GetID() const {
 }
 
 void CNavExtension::SetID(ITEMIDLIST* list) {
-    knav::ItemList::adopt(std::exchange(m_id, list)).reset();
+    if (list != m_id) {
+        knav::ItemList::adopt(std::exchange(m_id, list)).reset();
+    }
 }
 
 int CNavExtension::CreateID() {

@@ -112,9 +112,11 @@ CNavNode* CNavNode::FindName(const wchar_t* name) {
 
 void CNavNode::Dump(int level) const {
     for (const CNavNode* node = this; node != nullptr; node = node->m_next) {
-        CString line(L' ', level);
-        CString name;
-        line += node->GetNameInFolder(name) ? name : CString(L"???");
+        knav::atApiEdge([&] {
+            CString line(L' ', level);
+            CString name;
+            line += node->GetNameInFolder(name) ? name : CString(L"???");
+        });
         if (node->m_child != nullptr) {
             node->m_child->Dump(level + 1);
         }

@@ -1,4 +1,5 @@
 #include <knav/CNavPathname.h>
+#include <knav/NavNames.h>
 
 #include <algorithm>
 #include <cstring>
@@ -13,14 +14,19 @@
 #include "shell/ListWalk.h"
 #include "shell/SiteLocation.h"
 #include "shell/SpecialItems.h"
+#include "shell/TextRules.h"
 
 namespace {
+
+// Both lists start with the same bytes. The counts of a damaged list can promise more than there is.
+bool startAlike(const ITEMIDLIST* a, const ITEMIDLIST* b, std::size_t bytes) {
+    return knav::guardedTrue([=] { return std::memcmp(a, b, bytes) == 0; });
+}
 
 // `item` as its folder knows it: callers give it with or without `parent`, the list of the folder, in front.
 const ITEMIDLIST* itemInFolder(const ITEMIDLIST* item, const ITEMIDLIST* parent) {
     const std::size_t skipped = knav::measureList(parent).bytes;
-    const bool hasParent =
-        skipped > 0 && knav::measureList(item).bytes > skipped && std::memcmp(item, parent, skipped) == 0;
+    const bool hasParent = skipped > 0 && knav::measureList(item).bytes > skipped && startAlike(item, parent, skipped);
     return hasParent ? reinterpret_cast<const ITEMIDLIST*>(reinterpret_cast<const BYTE*>(item) + skipped) : item;
 }
 
@@ -43,20 +49,26 @@ CNavPathname::CNavPathname() = default;
 CNavPathname::~CNavPathname() = default;
 
 CNavPathname::CNavPathname(const CNavPathname& other)
-    : CZoUiPathname(other),
+    : CZoUiPathname(),
       m_isExtension(other.m_isExtension),
       m_isUrl(other.m_isUrl),
       m_isShortCut(other.m_isShortCut),
-      m_location(other.m_location),
       m_id(other.m_id),
       m_attached(other.m_attached) {
+    knav::atApiEdge([&] {
+        CZoUiPathname::AssignCopy(other);
+        m_location = other.m_location;
+    });
 }
 
 CNavPathname& CNavPathname::operator=(const CNavPathname& other) {
-    AssignCopy(other);
-    m_isExtension = other.m_isExtension;
-    m_isUrl = other.m_isUrl;
-    m_location = other.m_location;
+    knav::atApiEdge([&] {
+        CString location = other.m_location;
+        AssignCopy(other);
+        std::swap(m_location, location);
+        m_isExtension = other.m_isExtension;
+        m_isUrl = other.m_isUrl;
+    });
     return *this;
 }
 
@@ -72,6 +84,18 @@ PathErr CNavPathname::Parse(const wchar_t* text, bool allowWildcards) {
             return PathErr::NotFileSystem;
         }
         return CZoUiPathname::Parse(text, allowWildcards);
+    });
+}
+
+int CNavPathname::SetURL(const wchar_t* url) {
+    if (!NavIsURL(url)) {
+        return 0;
+    }
+    return knav::atApiEdge(0, [&] {
+        m_location = knav::withLowerScheme(knav::trimmed(url));
+        m_isExtension = true;
+        m_isUrl = true;
+        return 1;
     });
 }
 
@@ -217,15 +241,9 @@ int CNavPathname::GetAttachedPrefix(CString& prefix) const {
                    ? m_attached->QueryInterface(IID_IUniformResourceLocatorW, reinterpret_cast<void**>(object))
                    : E_NOINTERFACE;
     });
-    wchar_t* url = nullptr;
-    if (!locator || FAILED(knav::guarded([&] { return locator->GetURL(&url); }))) {
-        return 0;
-    }
-    const std::unique_ptr<wchar_t, decltype(&CoTaskMemFree)> owner(url, &CoTaskMemFree);
-    return knav::atApiEdge(0, [&] {
-        prefix = CString(url);
-        return prefix.IsEmpty() ? 0 : 1;
-    });
+    STRRET url{STRRET_WSTR, {}};
+    const bool hasUrl = locator && SUCCEEDED(knav::guarded([&] { return locator->GetURL(&url.pOleStr); }));
+    return hasUrl ? NavConvertToString(nullptr, url, prefix) : 0;
 }
 
 void CNavPathname::ExtractString(const wchar_t* text, unsigned long count, CString& out) {

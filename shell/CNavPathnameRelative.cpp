@@ -22,10 +22,10 @@ bool isRoot(const CNavNode& node) {
     return type == NavNodeExtensionRoot || type == NavNodeInternetRoot || type == NavNodeWebFoldersRoot;
 }
 
-// The location text of a site: its name as its own folder gives it, or else the desktop.
+// The location text of a site: its name as its own folder gives it, or else the desktop, which knows no extension.
 CString locationOf(CNavNode& site, const knav::ItemList& qualified) {
     CString location;
-    if (!site.GetNameForParsing(location)) {
+    if (!site.GetNameForParsing(location) && !site.IsExtensionType()) {
         NavGetItemDisplayNameInDesktop(SHGDN_FORPARSING, qualified.get(), location);
     }
     return location;
@@ -86,7 +86,7 @@ PathErr CNavPathname::parseInSite(const wchar_t* text, const CNavPathname* base,
             return result;
         }
     }
-    auto qualified = knav::ItemList::adopt(site.CalculateQualifiedItemList());
+    const auto qualified = knav::ItemList::adopt(site.CalculateQualifiedItemList());
     std::wstring place(locationOf(site, qualified).view());
     std::optional<std::wstring> location = knav::locationInSite(place, text);
     if (place.empty() || !location) {
@@ -102,17 +102,16 @@ PathErr CNavPathname::parseInSite(const wchar_t* text, const CNavPathname* base,
         return PathErr::TooLong;
     }
     setLocation(CString(*location));
-    findInSite(site, qualified.release(), std::wstring(knav::nameBelowSite(place, *location)).c_str());
+    findInSite(site, qualified.get(), std::wstring(knav::nameBelowSite(place, *location)).c_str());
     return PathErr::None;
 }
 
 // Asks the site's folder about `name`; what it does not know is taken for a file, which may be about to be saved.
 void CNavPathname::findInSite(CNavNode& site, ITEMIDLIST* siteList, const wchar_t* name) {
-    const auto qualified = knav::ItemList::adopt(siteList);
     DWORD attributes = 0;
     const knav::ItemList found = knav::parseName(site.GetFolder(), name, SFGAO_FOLDER | SFGAO_FILESYSTEM, &attributes);
     if (found || name[0] == L'\0') {
-        ownID(knav::ItemList::join(qualified.get(), found.get()).release());
+        ownID(knav::ItemList::join(siteList, found.get()).release());
     }
     const bool isFolder = name[0] == L'\0' || (attributes & SFGAO_FOLDER) != 0;
     m_type = isFolder ? Directory : ExistingFile;

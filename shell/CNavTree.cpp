@@ -66,9 +66,15 @@ void CNavTree::DeleteNode(CNavNode* node) {
         m_currentPath = nullptr;
     }
     // The following siblings are destroyed with the node, so nothing may lead to them either.
+    for (CNavNode* other = m_root; other != nullptr; other = CNavNode::EnumerateNextNode(other)) {
+        if (other->GetDisplayNode() != nullptr && knav::goesWith(other->GetDisplayNode(), *node)) {
+            other->SetDisplayNode(nullptr);
+        }
+    }
+    CNavNode* const parent = node->GetParent();
     if (CNavNode* const previous = node->GetPrev()) {
         previous->SetNext(nullptr);
-    } else if (CNavNode* const parent = node->GetParent()) {
+    } else if (parent != nullptr && parent->GetChild() == node) {
         parent->SetChild(nullptr);
     }
     const std::unique_ptr<CNavNode> destroyed(node);

@@ -1,5 +1,7 @@
 #include "shell/HostApplication.h"
 
+#include "data/ApiEdge.h"
+
 namespace {
 
 class DefaultHostApplication final : public CNavHostApplication {};
@@ -10,13 +12,17 @@ CNavHostApplication* g_host = &g_default;
 }  // namespace
 
 int CNavHostApplication::GetExtensionsKey(CString& key) {
-    key = L"Software\\Kelvara";
-    return 1;
+    return knav::atApiEdge(0, [&] {
+        key = L"Software\\Kelvara";
+        return 1;
+    });
 }
 
 int CNavHostApplication::GetExtensionsDisableKey(CString& key) {
-    key = L"Software\\Kelvara\\Dialogs\\AllNavDialogs";
-    return 1;
+    return knav::atApiEdge(0, [&] {
+        key = L"Software\\Kelvara\\Dialogs\\AllNavDialogs";
+        return 1;
+    });
 }
 
 int NavSetHostApplication(CNavHostApplication* host) {

@@ -60,6 +60,13 @@ const ITEMIDLIST* nextElement(const ITEMIDLIST* list) noexcept {
     });
 }
 
+bool areSameBytes(const ITEMIDLIST* a, const ITEMIDLIST* b) noexcept {
+    const ListMeasure first = measureList(a);
+    const ListMeasure second = measureList(b);
+    return first.terminated && second.terminated && first.bytes == second.bytes &&
+           guardedTrue([&] { return std::memcmp(a, b, first.bytes) == 0; });
+}
+
 bool copyListBytes(void* to, const void* from, std::size_t bytes) noexcept {
     return bytes == 0 || guardedRun([=] { std::memcpy(to, from, bytes); });
 }

@@ -28,6 +28,9 @@ int elementSize(const ITEMIDLIST* list) noexcept;
 /// The list from the second element on; null when there is none.
 const ITEMIDLIST* nextElement(const ITEMIDLIST* list) noexcept;
 
+/// The lists hold the same bytes. False when one is null or cannot be read up to its terminator.
+bool areSameBytes(const ITEMIDLIST* a, const ITEMIDLIST* b) noexcept;
+
 /// Copies bytes that may not be readable; false when they are not.
 bool copyListBytes(void* to, const void* from, std::size_t bytes) noexcept;
 

@@ -51,7 +51,8 @@ zoui::UniqueIcon iconByType(const CNavNode& node) {
 int CNavNode::GetAttributes() {
     IShellFolder* const parentFolder = GetParentFolder();
     IShellFolder* const folder = parentFolder != nullptr ? parentFolder : m_folder;
-    const auto attributes = folder != nullptr ? knav::attributesOf(folder, m_id, kAttributeMask) : std::nullopt;
+    const bool canAsk = folder != nullptr && m_id != nullptr;
+    const auto attributes = canAsk ? knav::attributesOf(folder, m_id, kAttributeMask) : std::nullopt;
     if (!attributes) {
         return 0;
     }

@@ -13,6 +13,10 @@
 
 namespace {
 
+// Deeper than any place is. What destroys or shows a tree goes down level by level, so none may be as deep as a list of
+// a broken extension is long.
+constexpr int kDeepestChain = 1000;
+
 // Children of a root are sites, and everything below a site is an item.
 NavNodeType childType(NavNodeType parent) {
     switch (parent) {
@@ -37,20 +41,56 @@ NavNodeType childType(NavNodeType parent) {
     return NavNodeShell;
 }
 
+// An item of a folder on a disk is an ordinary one. To compare it with the special ones takes the shell longer than all
+// the rest of its node.
+bool holdsOrdinaryItems(const CNavNode& parent) {
+    return parent.GetType() == NavNodeShell && parent.IsInFileSystem() && parent.GetParent() != nullptr;
+}
+
+// The types of items of one node, which is looked at once for all of them.
+class ChildTypes {
+public:
+    explicit ChildTypes(const CNavNode& parent)
+        : m_usual(childType(parent.GetType())), m_below(NavGetNextItemElement(parent.GetID())) {
+        const auto root = holdsOrdinaryItems(parent) ? knav::ItemList() : knav::ItemList::firstOf(parent.GetID());
+        m_isInDrives = root && NavIsDrives(root.get());
+    }
+
+    NavNodeType of(ITEMIDLIST* item) const {
+        const bool isWebFolders = m_isInDrives && knav::isWebFoldersInDrives(m_below != nullptr ? m_below : item);
+        return isWebFolders ? NavNodeWebFoldersRoot : m_usual;
+    }
+
+private:
+    NavNodeType m_usual;
+    ITEMIDLIST* m_below;  // what of the parent itself lies below the first element
+    bool m_isInDrives;
+};
+
 // The type of a node for one element of a list below `parent`.
 NavNodeType elementType(const CNavNode& parent, ITEMIDLIST* element) {
     if (NavIsExtensionRootItem(element)) {
         return NavNodeExtensionRoot;
     }
-    if (NavIsInternetRoot(element)) {
+    if (!holdsOrdinaryItems(parent) && NavIsInternetRoot(element)) {
         return NavNodeInternetRoot;
     }
-    const auto joined = knav::ItemList::join(parent.GetID(), element);
-    return NavIsWebFoldersItem(joined.get()) ? NavNodeWebFoldersRoot : childType(parent.GetType());
+    return ChildTypes(parent).of(element);
 }
 
 bool isShown(const CNavNode& parent, const CNavNode& node) {
     return parent.IsExtensionType() || node.IsFileSystemAncestor() || node.IsInFileSystem() || node.IsWebFoldersType();
+}
+
+// The last of the siblings that is the Network location; null when none is.
+CNavNode* networkAmong(CNavNode* node) {
+    CNavNode* network = nullptr;
+    for (; node != nullptr; node = node->GetNext()) {
+        if (node->IsFolder() && NavIsNetwork(node->GetID())) {
+            network = node;
+        }
+    }
+    return network;
 }
 
 std::unique_ptr<CNavNode> newNode(CNavShell& shell, CNavNode* parent, ITEMIDLIST* id) {
@@ -73,22 +113,14 @@ bool CNavNode::bindAsFolder() {
     return !IsFolder() || m_folder != nullptr;
 }
 
-// Takes the item over; null when it is not shown.
-CNavNode* CNavNode::appendEnumerated(ITEMIDLIST* item, bool alwaysShown, bool foldersOnly) {
+// A node for an enumerated item, which it takes over; not linked yet.
+std::unique_ptr<CNavNode> CNavNode::makeChild(ITEMIDLIST* item) {
     std::unique_ptr<CNavNode> node = newNode(m_shell, this, item);
-    if (!node) {
-        return nullptr;
+    if (node) {
+        node->SetExtensionName(m_extensionName);
+        node->GetAttributes();
     }
-    const auto joined = knav::ItemList::join(m_id, item);
-    node->m_type = NavIsWebFoldersItem(joined.get()) ? NavNodeWebFoldersRoot : childType(m_type);
-    node->SetExtensionName(m_extensionName);
-    node->GetAttributes();
-    const bool qualifies = (alwaysShown || isShown(*this, *node)) && (!foldersOnly || node->IsFolder());
-    if (!qualifies || !node->bindAsFolder()) {
-        return nullptr;
-    }
-    knav::appendChild(*this, *node);
-    return node.release();
+    return node;
 }
 
 int CNavNode::ExpandFolder(HWND owner, int foldersOnly, DWORD shcontf) {
@@ -97,20 +129,23 @@ int CNavNode::ExpandFolder(HWND owner, int foldersOnly, DWORD shcontf) {
         return 0;
     }
     const bool isDesktop = NavIsDesktop(m_id) != 0;
+    const ChildTypes types(*this);
     CNavNode* internet = nullptr;
-    CNavNode* network = nullptr;
     while (knav::ItemList item = knav::nextItem(items)) {
-        const bool isInternet = isDesktop && NavIsInternetRoot(item.get());
-        CNavNode* const node = appendEnumerated(item.release(), isInternet, foldersOnly != 0);
-        if (node != nullptr && isInternet) {
-            internet = node;
+        std::unique_ptr<CNavNode> node = makeChild(item.release());
+        if (!node) {
+            return 0;
         }
-        if (node != nullptr && node->IsFolder() && NavIsNetwork(node->m_id)) {
-            network = node;
+        node->m_type = types.of(node->m_id);
+        const bool isInternet = isDesktop && !node->IsInFileSystem() && NavIsInternetRoot(node->m_id);
+        const bool qualifies = (isInternet || isShown(*this, *node)) && (!foldersOnly || node->IsFolder());
+        if (qualifies && node->bindAsFolder()) {
+            internet = isInternet ? node.get() : internet;
+            knav::appendChild(*this, *node.release());
         }
     }
-    if (internet != nullptr && network != nullptr) {
-        internet->SetDisplayNode(network);
+    if (internet != nullptr) {
+        internet->SetDisplayNode(networkAmong(m_child));
     }
     return 1;
 }
@@ -136,7 +171,7 @@ CNavNode* CNavNode::appendElement(ITEMIDLIST* element) {
 }
 
 CNavNode* CNavNode::ExpandNode(ITEMIDLIST* list, CNavNode** first) {
-    if (list == nullptr || NavIsDesktop(list)) {
+    if (list == nullptr || NavIsDesktop(list) || knav::measureList(list).count > kDeepestChain) {
         return nullptr;
     }
     CNavNode* parent = this;
@@ -165,7 +200,11 @@ CNavNode* CNavNode::FindOrAddItemList(ITEMIDLIST* list, int add, CNavNode** firs
     const auto desktop = GetParentFolder() == nullptr ? knav::desktopFolder() : nullptr;
     IShellFolder* const folder = desktop ? desktop.get() : GetParentFolder();
     CNavNode* match = this;
-    while (match != nullptr && NavCompareFolderItems(folder, match->m_id, element.get()) != 0) {
+    const auto isMatch = [&](const CNavNode& node) {
+        return knav::areSameBytes(node.m_id, element.get()) ||
+               NavCompareFolderItems(folder, node.m_id, element.get()) == 0;
+    };
+    while (match != nullptr && !isMatch(*match)) {
         match = match->m_next;
     }
     ITEMIDLIST* const rest = NavGetNextItemElement(list);

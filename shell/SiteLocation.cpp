@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "shell/TextRules.h"
+
 namespace {
 
 constexpr std::wstring_view kSchemeEnd = L"://";
@@ -14,17 +16,12 @@ bool isSeparator(wchar_t character) {
     return kSeparators.find(character) != std::wstring_view::npos;
 }
 
-bool sameText(std::wstring_view a, std::wstring_view b) {
-    return CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(), static_cast<int>(b.size()), TRUE) ==
-           CSTR_EQUAL;
-}
-
 // `location` is `place` or lies below it.
 bool liesIn(std::wstring_view location, std::wstring_view place) {
     while (!place.empty() && isSeparator(place.back())) {
         place.remove_suffix(1);
     }
-    return location.size() >= place.size() && sameText(location.substr(0, place.size()), place) &&
+    return knav::startsWithNoCase(location, place) &&
            (location.size() == place.size() || isSeparator(location[place.size()]));
 }
 
@@ -34,6 +31,15 @@ namespace knav {
 
 bool isUrlLocation(std::wstring_view text) noexcept {
     return text.starts_with(L"ftp://") || text.starts_with(L"http://") || text.starts_with(L"https://");
+}
+
+std::wstring withLowerScheme(std::wstring_view url) {
+    std::wstring result(url);
+    const auto end = std::ranges::find(result, L':');
+    std::transform(result.begin(), end, result.begin(), [](wchar_t character) {
+        return character >= L'A' && character <= L'Z' ? static_cast<wchar_t>(character | 0x20) : character;
+    });
+    return result;
 }
 
 std::wstring_view sitePrefix(std::wstring_view location) noexcept {

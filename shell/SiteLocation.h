@@ -10,6 +10,9 @@ namespace knav {
 /// Begins with one of the schemes that make a URL of a typed text, in lower case.
 bool isUrlLocation(std::wstring_view text) noexcept;
 
+/// The URL with its scheme, which ends at the first ":", in lower case.
+std::wstring withLowerScheme(std::wstring_view url);
+
 /// Scheme, "://" and host, without what follows the host; empty when there is no "://" with something behind it.
 std::wstring_view sitePrefix(std::wstring_view location) noexcept;
 

@@ -33,15 +33,17 @@ int NavIsInternetSiteItem(ITEMIDLIST* list) {
     return root && NavIsInternetRoot(root.get());
 }
 
+bool knav::isWebFoldersInDrives(ITEMIDLIST* list) noexcept {
+    const auto item = knav::ItemList::firstOf(list);
+    const auto drives = knav::ComPtr<IShellFolder>::adopt(item ? NavGetDrivesFolder() : nullptr);
+    return item && knav::atApiEdge(false, [&] {
+               CString name;
+               return NavGetItemNameForParsing(drives.get(), item.get(), name) && isWebFoldersName(name);
+           });
+}
+
 int NavIsWebFoldersItem(ITEMIDLIST* list) {
-    const auto root = knav::ItemList::firstOf(list);
-    const auto item = knav::ItemList::firstOf(knav::nextElement(list));
-    if (!root || !item || !NavIsDrives(root.get())) {
-        return 0;
-    }
-    const auto drives = knav::ComPtr<IShellFolder>::adopt(NavGetDrivesFolder());
-    return knav::atApiEdge(false, [&] {
-        CString name;
-        return NavGetItemNameForParsing(drives.get(), item.get(), name) && isWebFoldersName(name);
-    });
+    ITEMIDLIST* const item = NavGetNextItemElement(list);
+    const auto root = item != nullptr ? knav::ItemList::firstOf(list) : knav::ItemList();
+    return root && NavIsDrives(root.get()) && knav::isWebFoldersInDrives(item);
 }

@@ -15,6 +15,10 @@ constexpr std::size_t kLongScheme = 7;
 constexpr std::wstring_view kShortSchemes[] = {L"ftp://", L"http:/", L"https:", L"file:/"};
 constexpr std::wstring_view kLongSchemes[] = {L"mailto:", L"gopher:"};
 
+bool isSpace(wchar_t character) noexcept {
+    return std::iswspace(character) != 0;
+}
+
 bool hasKnownScheme(std::wstring_view text) noexcept {
     const auto begins = [text](std::wstring_view scheme) { return knav::startsWithNoCase(text, scheme); };
     return (text.size() >= kShortScheme && std::ranges::any_of(kShortSchemes, begins)) ||
@@ -33,21 +37,27 @@ bool isUrlSyntax(const wchar_t* text) {
 
 namespace knav {
 
+std::wstring_view trimmedLeft(std::wstring_view text) noexcept {
+    return {std::ranges::find_if_not(text, isSpace), text.end()};
+}
+
 std::wstring_view trimmed(std::wstring_view text) noexcept {
-    const auto isSpace = [](wchar_t character) { return std::iswspace(character) != 0; };
-    const auto first = std::ranges::find_if_not(text, isSpace);
-    const auto last = std::find_if_not(text.rbegin(), std::make_reverse_iterator(first), isSpace).base();
-    return {first, last};
+    text = trimmedLeft(text);
+    return {text.begin(), std::find_if_not(text.rbegin(), text.rend(), isSpace).base()};
 }
 
 int compareNoCase(const wchar_t* a, const wchar_t* b) noexcept {
     return CompareStringOrdinal(a != nullptr ? a : L"", -1, b != nullptr ? b : L"", -1, TRUE) - CSTR_EQUAL;
 }
 
+bool equalNoCase(std::wstring_view a, std::wstring_view b) noexcept {
+    const auto length = static_cast<int>(a.size());
+    return a.size() == b.size() &&
+           (a.empty() || CompareStringOrdinal(a.data(), length, b.data(), length, TRUE) == CSTR_EQUAL);
+}
+
 bool startsWithNoCase(std::wstring_view text, std::wstring_view prefix) noexcept {
-    const auto length = static_cast<int>(prefix.size());
-    return text.size() >= prefix.size() &&
-           CompareStringOrdinal(text.data(), length, prefix.data(), length, TRUE) == CSTR_EQUAL;
+    return equalNoCase(text.substr(0, prefix.size()), prefix);
 }
 
 }  // namespace knav

@@ -24,6 +24,10 @@ public:
     UINT GetPictureId() const;
     void SetPictureId(UINT id);
 
+    /// Whether the picture points in the direction of reading, and so the other way in a mirrored dialog. Default 0.
+    int GetPictureDirectional() const;
+    void SetPictureDirectional(int directional);
+
     /// The tip that the pointer brings up; name the shortcut in it. Empty: none. Default empty.
     const wchar_t* GetTipText() const;
     void SetTipText(const wchar_t* text);

@@ -56,8 +56,7 @@ public:
     int BrowseObject(ITEMIDLIST* list, UINT flags);
     /// Shows the current folder anew; after changes of the view mode, the filter or the options. Zero without one.
     int BrowseCurrentObject();
-    /// Has the current view read its folder again. Use it rather than the view's own Refresh: the windows are given
-    /// back for as long as it takes, which costs far less on a large folder. Zero without a view and when it fails.
+    /// Has the current view read its folder again. Zero without a view and when it fails.
     int RefreshView();
     /// Destroys the current view; nonzero `saveState` first saves its columns as a browse would. The current folder
     /// stays known, so BrowseCurrentObject makes a new view. Safe to call without a view.
@@ -71,9 +70,8 @@ public:
     /// User name and password of the FTP or Web Folders site shown; zero and empty texts when there is none.
     int GetCurrentLogin(CString& user, CString& password);
 
-    /// View mode: 1 large icons, 2 small icons, 3 list, 4 details, 5 thumbnails, 6 tiles. Get asks the list that is
-    /// shown. Set with another mode switches the list and shows the folder anew; StoreViewMode only keeps the value,
-    /// for a caller that switches the list itself.
+    /// View mode, a NavViewMode. Get asks the list that is shown. Set with another mode switches the list and shows the
+    /// folder anew; StoreViewMode only keeps the value, for a caller that switches the list itself.
     unsigned int GetViewMode();
     void SetViewMode(unsigned int mode);
     void StoreViewMode(unsigned int mode);

@@ -16,17 +16,19 @@ class CNavPathname;
 /// a setter that runs out of memory leaves the old value. Used on the dialog's thread.
 class KNAV_API CNavData {
 public:
+    /// An item without type, list and texts, and with an empty path name.
     CNavData();
     CNavData(const CNavData&) = delete;
     CNavData& operator=(const CNavData&) = delete;
     virtual ~CNavData();
 
+    /// What the item is; it decides what else of it is set.
     NAV_DATA_TYPE GetDataType() const { return m_type; }
     void SetDataType(NAV_DATA_TYPE type) { m_type = type; }
 
     /// The shell's identity of the item, relative to the desktop; null when it has none. The item keeps the ownership.
     ITEMIDLIST* GetID() const { return m_id.get(); }
-    /// Takes over `id`, which comes from the shell's task allocator, and frees the list held before.
+    /// Takes over `id`, which comes from the shell's task allocator, or null, and frees the list held before.
     void SetID(ITEMIDLIST* id);
 
     /// The item as the user sees or typed it. Setting it cuts leading white space; white space at the end stays.
@@ -37,7 +39,8 @@ public:
     const wchar_t* GetTextInFolder() const { return m_textInFolder; }
     void SetTextInFolder(const wchar_t* text);
 
-    /// The parsed location, empty at first; owned by the item. May be changed in place.
+    /// The parsed location, empty at first; owned by the item. May be changed in place. Null only when there was no
+    /// memory for it.
     CNavPathname* GetPathname() const { return m_pathname.get(); }
     /// Assigns the given path name to the item's own one. The pointer is not kept; null is ignored.
     void SetPathname(CNavPathname* pathname);

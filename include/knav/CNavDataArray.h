@@ -10,6 +10,7 @@
 /// empties it before it fills it. Items belong to the array and live until it is emptied or destroyed.
 class KNAV_API CNavDataArray : public CNavArray<CNavData> {
 public:
+    /// No items.
     CNavDataArray();
     ~CNavDataArray() override;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <knav/CNavExtensionPolicy.h>
 #include <knav/NavToolsMenuItem.h>
 #include <knav/OkHandlerErr.h>
 #include <knav/export.h>
@@ -22,10 +23,11 @@ class CNavListCtrl;
 /// the dialog object. To take part in what the dialog does, derive from it and override the hooks (the protected
 /// virtual functions); the library always calls them through this class.
 ///
-/// Everything runs on the thread that calls DoModal(), which the dialog initialises for OLE. Nothing here throws.
-/// Flags are ints used as booleans; operations report success as nonzero; indices are zero-based, -1 means none. An
-/// operation whose control does not exist yet returns a neutral value and does nothing.
-class KNAV_API CNavDialog : public CZoUiDialog {
+/// Everything runs on the thread that calls DoModal(), which the dialog initialises for OLE. Nothing here throws but
+/// the constructor, which may throw std::bad_alloc; an operation that runs out of memory counts as failed. Flags are
+/// ints used as booleans; operations report success as nonzero; indices are zero-based, -1 means none. An operation
+/// whose control does not exist yet returns a neutral value and does nothing.
+class KNAV_API CNavDialog : public CZoUiDialog, public CNavExtensionPolicy {
     DECLARE_DYNAMIC(CNavDialog)
 
 public:
@@ -98,7 +100,8 @@ public:
     /// Names whose extension belongs to no file type are accepted as typed. Default 0.
     int GetAcceptAnyFileExtension() const;
     void SetAcceptAnyFileExtension(int accept);
-    /// Whether flags registered for an extension are honoured. Default 1.
+    /// Whether navigation extensions that were switched off on this machine are left out, of the Places list and of
+    /// the folder hierarchy. Default 1.
     int GetUseRegExtensionFlags() const;
     void SetUseRegExtensionFlags(int use);
     /// Index of the chosen file type. Set acts only while the dialog is shown and the index exists.
@@ -138,7 +141,7 @@ public:
 
     // --- view and controls ---------------------------------------------------------------------------------------
 
-    /// View mode of the list: 1 large icons, 2 small icons, 3 list, 4 details, 5 thumbnails, 6 tiles.
+    /// View mode of the list, a NavViewMode.
     unsigned int GetViewMode() const;
     void SetViewMode(unsigned int mode);
     /// The list control that takes over the shell's list. The host keeps a control of its own alive; null is ignored.
@@ -267,6 +270,9 @@ protected:
     virtual void UpdateUIState();
     /// A row of the Places list was chosen.
     virtual void OnPlacesChanged();
+
+    /// What the folder hierarchy asks: the option UseRegExtensionFlags.
+    int LeavesOutDisabledExtensions() const override;
 
     // --- framework -----------------------------------------------------------------------------------------------
 

@@ -10,7 +10,9 @@
 /// the failure value, and a setter leaves the old value. Used on the dialog's thread.
 class KNAV_API CNavFilter : public CStringArray {
 public:
+    /// A file type without description and patterns, which allows every name.
     CNavFilter();
+    /// Forgets whether several items may be chosen with it, too.
     ~CNavFilter() override;
 
     /// Takes description and patterns from the pair at `text`: a description, a zero, patterns separated by ";", a
@@ -31,19 +33,22 @@ public:
     /// is matched by PathMatchSpecW after every "**" has been taken out of it.
     int IsAllowed(const wchar_t* name) const;
 
+    /// The description without the patterns; valid until the next change of it.
     const wchar_t* GetDescription() const { return m_description; }
     /// Sets a description that is shown followed by the patterns.
     void SetDescription(const wchar_t* description);
     /// Sets a description that is shown as it stands.
     void SetFullDescription(const wchar_t* description);
-    /// The text to show: the description, where wanted followed by the patterns as in "Text (*.txt, *.csv)".
+    /// The text to show: the description, where wanted followed by the patterns as in "Text (*.txt, *.csv)". Empty when
+    /// memory is short.
     void GetFullDescription(CString& text) const;
 
     /// Position in the list of file types, counted from 1; 0 for one that was not made from a list.
     __int64 GetTagIndex() const { return m_tagIndex; }
     void SetTagIndex(__int64 index) { m_tagIndex = index; }
 
-    /// Whether several items may be chosen while this file type is in force. 0 unless set.
+    /// Whether several items may be chosen while this file type is in force. 0 unless set; kept outside of the object,
+    /// for the object at this address.
     int GetMultiSelectAllowed() const;
     void SetMultiSelectAllowed(int allowed);
 

@@ -9,6 +9,7 @@
 /// Made by the host, which keeps it alive as long as the dialog. Nothing here throws. Used on the dialog's thread.
 class KNAV_API CNavFilterArray : public CNavArray<CNavFilter> {
 public:
+    /// No file types.
     CNavFilterArray();
     ~CNavFilterArray() override;
 
@@ -18,7 +19,8 @@ public:
     /// left out together with all that follow.
     void SetFrom(const wchar_t* list, int fullDescription);
 
-    /// Index of the first file type that has a pattern equal to `pattern`, ignoring case; -1 when there is none.
+    /// Index of the first file type that has a pattern equal to `pattern`, ignoring case; -1 when there is none, and
+    /// for null.
     int Find(const wchar_t* pattern) const;
     /// The same, but -1 when the file type found has other patterns too.
     int FindExact(const wchar_t* pattern) const;

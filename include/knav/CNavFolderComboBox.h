@@ -5,13 +5,13 @@
 #include <platform/CString.h>
 
 #include <memory>
-#include <unordered_map>
 
 class CNavPathname;
 
 namespace knav {
 class ItemList;
-class OverlayIcons;
+class ComboItems;
+class RowIcons;
 }  // namespace knav
 
 /// The Look-in combo: the folder hierarchy as an indented list with small shell icons. It owns the tree; each item's
@@ -96,10 +96,11 @@ private:
     void widenDroppedList();
     int pictureLeft(const CNavNode& node, bool selectionField) const;
     void drawPicture(const DRAWITEMSTRUCT& item, const CNavNode& node, int left) const;
+    const knav::ComboItems& items() const;
 
     CNavTree m_tree;
-    std::unordered_map<const CNavNode*, int> m_overlays;
-    std::unique_ptr<knav::OverlayIcons> m_overlayIcons;
+    std::unique_ptr<knav::RowIcons> m_icons;
+    std::unique_ptr<knav::ComboItems> m_items;
     bool m_treeIsStandard = false;
     int m_noFtp = 0;
     int m_noExtraExtensions = 0;

@@ -71,6 +71,8 @@ public:
     /// or -1. The list is copied.
     int AddDroppedItem(const ITEMIDLIST* list, POINT point);
     int AddDroppedItem(const wchar_t* path, POINT point);
+    /// Adds the folder that the dialog shows, in the same way: the index of its row, also when it had one; or -1.
+    int AddCurrentFolder(POINT point);
     /// Moves a row: its new index, or -1 when `from` is no row.
     int MoveItemFromIndex(int from, int to) override;
 

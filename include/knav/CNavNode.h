@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <knav/NavNodeAttributes.h>
 #include <knav/NavNodeType.h>
 #include <knav/export.h>
@@ -43,10 +45,12 @@ public:
     /// The node to show in place of this one, or null; not owned.
     CNavNode* GetDisplayNode() const { return m_displayNode; }
     void SetDisplayNode(CNavNode* node) { m_displayNode = node; }
+    /// What the node stands for.
     NavNodeType GetType() const { return m_type; }
     void SetType(NavNodeType type) { m_type = type; }
 
-    /// Links: first child and next sibling are owned, parent and previous sibling are not.
+    /// Links: first child and next sibling are owned, parent and previous sibling are not; null where there is none.
+    /// A setter changes one link only, not the one that leads back.
     CNavNode* GetChild() const { return m_child; }
     void SetChild(CNavNode* node) { m_child = node; }
     CNavNode* GetNext() const { return m_next; }
@@ -56,7 +60,7 @@ public:
     CNavNode* GetPrev() const { return m_prev; }
     void SetPrev(CNavNode* node) { m_prev = node; }
 
-    /// What GetAttributes() found out; all 0 before it.
+    /// What GetAttributes() found out, 1 or 0; all 0 before it.
     int CanCopy() const { return m_attributes.canCopy; }
     int CanDelete() const { return m_attributes.canDelete; }
     int CanLink() const { return m_attributes.canLink; }
@@ -73,6 +77,7 @@ public:
     int IsOnRemovableMedia() const { return m_attributes.isOnRemovableMedia; }
     int IsShared() const { return m_attributes.isShared; }
 
+    /// Nonzero for the root, the sites and the items of an extension, of the internet, of the Web Folders.
     int IsExtensionType() const { return m_type >= NavNodeExtensionRoot && m_type <= NavNodeExtensionItem; }
     int IsInternetType() const { return m_type >= NavNodeInternetRoot && m_type <= NavNodeInternetItem; }
     int IsWebFoldersType() const { return m_type >= NavNodeWebFoldersRoot && m_type <= NavNodeWebFolderItem; }
@@ -94,10 +99,11 @@ public:
     /// The node behind `node` in pre-order; null at the end and for null.
     static CNavNode* EnumerateNextNode(CNavNode* node);
 
-    /// The name shown in the parent's folder, and the full name. The root of an extension is named by its own folder.
+    /// The name shown in the parent's folder, and the full name (in the desktop, without a parent that has a folder).
+    /// The root of an extension is named by its own folder. Zero, and an empty text, when there is no name.
     int GetNameInFolder(CString& name) const;
     int GetNameForParsing(CString& name) const;
-    /// A new qualified list of the node, which the caller frees.
+    /// A new qualified list of the node, which the caller frees; null when memory is short.
     ITEMIDLIST* CalculateQualifiedItemList() const;
 
     /// Asks the shell for the attributes and has the icon taken anew. Zero, with everything as it was, when it fails.
@@ -106,22 +112,26 @@ public:
     void SetIcon();
 
     /// Makes `node`, or a new node for null, the only child of the deepest first child, or the last sibling. Returns
-    /// the node that was added.
+    /// the node that was added, which belongs to its new parent or sibling; null when memory is short.
     CNavNode* AddChild(CNavNode* node);
     CNavNode* AddNode(CNavNode* node);
 
     /// Appends a node for each item of the node's folder that the hierarchy shows; with `foldersOnly` for folders only.
-    /// `shcontf` chooses what is enumerated (SHCONTF_...). Zero when the folder cannot be enumerated.
+    /// `shcontf` chooses what is enumerated (SHCONTF_...); `owner` may be null, it is for questions of the shell. Zero
+    /// when the folder cannot be enumerated or memory is short; what was appended until then stays.
     int ExpandFolder(HWND owner, int foldersOnly, DWORD shcontf);
     /// Appends a chain of nodes, one for each element of `list`, which is relative to this node. Returns the last one;
-    /// null when it cannot be reached. The first node made is stored in `first` unless that is null.
+    /// null when it cannot be reached, for the desktop, and for a list of more than 1000 elements. The first node made
+    /// is stored in `first` unless that is null; it stays when the chain ends early.
     CNavNode* ExpandNode(ITEMIDLIST* list, CNavNode** first);
 
-    /// Among this node, its next siblings and what is below them, the node of a list relative to their parent.
+    /// Among this node, its next siblings and what is below them, the node of a list relative to their parent; null
+    /// when there is none.
     CNavNode* FindItemList(ITEMIDLIST* list);
     /// The same; with `add` the chain below the deepest match is made when it is missing. See ExpandNode for `first`.
     CNavNode* FindOrAddItemList(ITEMIDLIST* list, int add, CNavNode** first);
-    /// Among this node and its next siblings, the one of that name, ignoring case.
+    /// Among this node and its next siblings, the first of that name in its folder, ignoring case; null when there is
+    /// none.
     CNavNode* FindName(const wchar_t* name);
 
     /// Composes a line for each node from here on, for a debugger to stop at; writes nothing.
@@ -130,7 +140,7 @@ public:
 private:
     HICON takeIcon() const;
     int nameInParent(DWORD shgdn, CString& name) const;
-    CNavNode* appendEnumerated(ITEMIDLIST* item, bool alwaysShown, bool foldersOnly);
+    std::unique_ptr<CNavNode> makeChild(ITEMIDLIST* item);
     CNavNode* appendElement(ITEMIDLIST* element);
     bool bindAsFolder();
 

@@ -15,23 +15,27 @@ class CNavNode;
 /// a fresh object. The kind of the path is GetType(); for a location held as text that is ExistingFile, Directory, or
 /// what it was before when the text of a URL was all there was to go by.
 ///
-/// Nothing here throws but copying and assigning, which may throw std::bad_alloc. Calls into folders are guarded.
-/// Used on the user-interface thread.
+/// Nothing here throws. Calls into folders are guarded. Used on the user-interface thread.
 class KNAV_API CNavPathname : public CZoUiPathname {
 public:
     CNavPathname();
     /// Copies all there is. The item list and the attached object are only referred to, not copied: the copy must not
-    /// use them when the original is gone.
+    /// use them when the original is gone. Without the memory for it the copy has no path and no location text.
     CNavPathname(const CNavPathname& other);
     ~CNavPathname() override;
     /// Copies the path, IsExtension, IsURL and the location text. The shortcut flag, the item list and the attached
-    /// object of the target stay as they are. A null pointer changes nothing.
+    /// object of the target stay as they are. A null pointer, or too little memory, changes nothing.
     CNavPathname& operator=(const CNavPathname& other);
     CNavPathname& operator=(const CNavPathname* other);
 
     /// A text that begins with "ftp://", "http://" or "https://", in lower case, is a URL: it is stored and the result
     /// is PathErr::NotFileSystem, which is 4. Anything else is parsed by the base class.
     PathErr Parse(const wchar_t* text, bool allowWildcards) override;
+
+    /// Takes a URL with the scheme ftp, http, https, file, mailto or gopher, in upper or lower case. It is stored
+    /// trimmed and with its scheme in lower case, so that Parse knows it again. Nonzero on success; 0, and nothing
+    /// changed, for any other text.
+    int SetURL(const wchar_t* url);
 
     /// Parses an item that a view or a tree shows. `item` is relative to `folder`, or starts with `parent`, the item
     /// list of that folder; each may be null. `displayName` is the item's parsing name. Items of extensions and

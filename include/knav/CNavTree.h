@@ -13,6 +13,7 @@ class CWnd;
 /// User-interface thread only.
 class KNAV_API CNavTree : public CNavShell {
 public:
+    /// An empty tree.
     CNavTree();
     CNavTree(const CNavTree&) = delete;
     CNavTree& operator=(const CNavTree&) = delete;
@@ -22,7 +23,7 @@ public:
     CNavNode* GetRootNode() const { return m_root; }
 
     /// Adds `node`, or a new one for null, below the deepest first child, or as last sibling of the root; the first
-    /// node becomes the root. Returns the node that was added. The tree owns it.
+    /// node becomes the root. Returns the node that was added, which the tree owns; null when memory is short.
     CNavNode* AddChild(CNavNode* node);
     CNavNode* AddNode(CNavNode* node);
 
@@ -32,7 +33,7 @@ public:
 
     /// The first time: builds desktop, extensions and drives. Each time: replaces the chain to the folder shown before
     /// by the one to `current`, unless that is null. `dialog` may be null; see AddExtensionsToDesktop. The hide flags
-    /// count the first time only.
+    /// count the first time only. Zero when desktop or drives cannot be listed.
     int BuildStandardHierarchy(HWND owner, CWnd* dialog, int hideFtp, int hideExtensions, ITEMIDLIST* current);
 
     /// Makes sure that the tree has the chain to a qualified list, or to what it is a shortcut to. Always nonzero.
@@ -42,8 +43,10 @@ public:
     /// is a CNavExtensionPolicy may leave out those that were switched off on this machine.
     int AddExtensionsToDesktop(CWnd* dialog, CNavNode* desktop);
 
-    /// Removes and destroys a node together with its following siblings; the root takes the whole tree with it.
+    /// Removes and destroys a node together with its following siblings; the root takes the whole tree with it. Null is
+    /// ignored.
     void DeleteNode(CNavNode* node);
+    /// Empties the tree.
     void DeleteAllNodes();
 
     /// See CNavNode::Dump.

@@ -1,7 +1,7 @@
 #pragma once
 
 /// What a result item is (see CNavData).
-enum NAV_DATA_TYPE {
+enum NAV_DATA_TYPE : int {
     NAV_DATA_UNKNOWN = 0,    ///< not yet classified
     NAV_DATA_FILE = 1,       ///< a path in the file system
     NAV_DATA_URL = 2,        ///< a URL

@@ -6,6 +6,8 @@
 // were terminated there. Lists passed in are never freed or changed; lists returned by the functions that build or copy
 // are new, belong to the caller and are freed with NavFreeItemList. An element pointer points into the list that was
 // passed in. Nothing throws; failure is null or 0.
+//
+// Any thread may call them, but NavFreeItemList, which shares the allocator as CNavShell does, only one at a time.
 #pragma once
 
 #include <knav/export.h>

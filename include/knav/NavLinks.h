@@ -1,4 +1,4 @@
-// Targets of shortcuts.
+// Targets of shortcuts. Nothing throws. Any thread where COM is initialised.
 #pragma once
 
 #include <knav/export.h>
@@ -7,8 +7,9 @@
 /// The target of the shortcut file that the qualified `list` names, after the shell has looked for a target that moved.
 /// With `silent` 0 the shell shows nothing; with any other value it may show its search window. The value is thus the
 /// opposite of its name, and callers rely on it. Null when it is no shortcut or cannot be resolved. The caller frees
-/// the result. COM must be initialised on the thread.
+/// the result.
 KNAV_API ITEMIDLIST* NavResolveLink(ITEMIDLIST* list, int silent);
 
-/// The target that the shortcut file records, whether or not it still exists.
+/// The target that the shortcut file records, whether or not it still exists; null when it is no shortcut. The caller
+/// frees the result.
 KNAV_API ITEMIDLIST* NavGetLinkIDList(ITEMIDLIST* list);

@@ -2,7 +2,8 @@
 //
 // Lists passed in are neither freed nor changed; lists returned belong to the caller and are freed with
 // NavFreeItemList. Name functions empty `name` first and return nonzero when they produced a non-empty name. Nothing
-// throws; a folder that fails or faults yields failure.
+// throws; a folder that fails or faults yields failure. Call them on the thread that the folder belongs to, those that
+// take none on a thread where COM is initialised.
 #pragma once
 
 #include <knav/export.h>

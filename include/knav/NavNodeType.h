@@ -1,7 +1,7 @@
 #pragma once
 
 /// What a node of the folder hierarchy stands for. A site is a direct child of one of the special roots.
-enum NavNodeType {
+enum NavNodeType : int {
     NavNodeShell = 0,           ///< ordinary shell item
     NavNodeExtensionRoot = 1,   ///< root of a navigation extension
     NavNodeExtensionSite = 2,   ///< direct child of an extension root

@@ -1,4 +1,4 @@
-// URLs for people and for the browser.
+// URLs for people and for the browser. Nothing throws. Any thread.
 #pragma once
 
 #include <knav/export.h>

@@ -27,9 +27,11 @@
 #include <knav/CNavToolsButton.h>
 #include <knav/CNavTree.h>
 #include <knav/FileDialogAllowReturnFolderEnabler.h>
+#include <knav/NavExtensions.h>
 #include <knav/NavFolders.h>
 #include <knav/NavItemList.h>
 #include <knav/NavLinks.h>
 #include <knav/NavNames.h>
 #include <knav/NavPlaces.h>
 #include <knav/NavUrl.h>
+#include <knav/NavViewMode.h>

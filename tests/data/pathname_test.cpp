@@ -2,7 +2,6 @@
 
 #include <intshcut.h>
 
-#include "data/Scrambler.h"
 #include "data/SiteFolderFake.h"
 #include "shell/ExtensionItems.h"
 #include "shell/ItemList.h"
@@ -16,7 +15,6 @@ namespace {
 using knav::ItemList;
 using knav::test::AllocationSpy;
 using knav::test::ScopedTempFolder;
-using knav::test::Scrambler;
 using knav::test::SiteFolderFake;
 
 CString fullPath(const CNavPathname& pathname) {
@@ -63,6 +61,29 @@ TEST(CNavPathname, TakesThreeSchemesInLowerCaseForUrls) {
             EXPECT_EQ(pathname.GetPathString(), nullptr);
             EXPECT_EQ(pathname.Exists(), 0);
         }
+    }
+}
+
+TEST(CNavPathname, TakesUrlsOfEverySchemeWhenToldThatTheyAre) {
+    struct Row {
+        const wchar_t* text;
+        const wchar_t* stored;  // null: refused
+    };
+    constexpr Row rows[] = {
+        {L"HTTP://Host/A.dwg", L"http://Host/A.dwg"},
+        {L" Ftp://host/a ", L"ftp://host/a"},
+        {L"file:///C:/plan.dwg", L"file:///C:/plan.dwg"},
+        {L"MAILTO:A@b", L"mailto:A@b"},
+        {L"C:\\plan.dwg", nullptr},
+        {L"http://", nullptr},
+        {nullptr, nullptr},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.text != nullptr ? knav::test::utf8(row.text) : "null");
+        CNavPathname pathname;
+        EXPECT_EQ(pathname.SetURL(row.text) != 0, row.stored != nullptr);
+        EXPECT_EQ(pathname.GetIsURL() && pathname.GetIsExtension(), row.stored != nullptr);
+        EXPECT_EQ(fullPath(pathname), row.stored);
     }
 }
 
@@ -261,19 +282,39 @@ ItemList inStore(const wchar_t* name) {
     return ItemList::join(storeRoot().get(), item.get());
 }
 
-TEST(CNavPathname, TakesItemsOfExtensionsAsTheyAre) {
+ItemList internetRoot() {
+    ITEMIDLIST* list = nullptr;
+    SHGetSpecialFolderLocation(nullptr, CSIDL_INTERNET, &list);
+    return ItemList::adopt(list);
+}
+
+ItemList webFolders() {
+    constexpr wchar_t path[] = L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{BDEADF00-C265-11D0-BCED-00A0C90AB50F}";
+    ITEMIDLIST* list = nullptr;
+    SHParseDisplayName(path, nullptr, &list, 0, nullptr);
+    return ItemList::adopt(list);
+}
+
+TEST(CNavPathname, TakesItemsOfExtensionsAndSitesAsTheyAre) {
     struct Row {
         const char* why;
         ItemList item;
         ItemList parent;
         CZoUiPathname::Type type;
+        bool isUrl = false;
     };
+    const ItemList drawer = ItemList::adopt(SiteFolderFake::itemOf(L"drawer"));
     const Row rows[] = {
         {"the root", storeRoot(), {}, CZoUiPathname::ExistingFile},
         {"a child item that its folder does not know", inStore(L"shelf"), {}, CZoUiPathname::ExistingFile},
         {"a child item that its folder knows", inStore(L"drawer"), storeRoot(), CZoUiPathname::Directory},
         {"a site, known by its parent", ItemList::adopt(SiteFolderFake::itemOf(L"shelf")), storeRoot(),
          CZoUiPathname::Directory},
+        {"an internet site", ItemList::join(internetRoot().get(), drawer.get()), internetRoot(),
+         CZoUiPathname::Directory, true},
+        {"the Web Folders", webFolders(), {}, CZoUiPathname::ExistingFile, true},
+        {"an item below the Web Folders", ItemList::join(webFolders().get(), drawer.get()), webFolders(),
+         CZoUiPathname::Directory, true},
     };
     SiteFolderFake folder(L"");
     folder.add(L"drawer", SFGAO_FOLDER);
@@ -282,8 +323,8 @@ TEST(CNavPathname, TakesItemsOfExtensionsAsTheyAre) {
         CNavPathname pathname;
         CString name = L"store://shelf";
         EXPECT_EQ(pathname.Parse(row.item.get(), &folder, row.parent.get(), name), PathErr::None);
-        EXPECT_TRUE(pathname.GetIsExtension());
-        EXPECT_FALSE(pathname.GetIsURL());
+        EXPECT_EQ(pathname.GetIsExtension(), !row.isUrl);
+        EXPECT_EQ(pathname.GetIsURL(), row.isUrl);
         EXPECT_EQ(pathname.GetType(), row.type);
         EXPECT_EQ(pathname.Exists(), 1);
         EXPECT_EQ(fullPath(pathname), L"store://shelf");
@@ -338,46 +379,6 @@ TEST(CNavPathname, ExtractsShortTextsOnly) {
     EXPECT_EQ(out.GetLength(), 259);
     pathname.ExtractString(L"ab", 100, out);
     EXPECT_EQ(out, L"ab") << "not behind the end of the text";
-}
-
-TEST(SiteLocationFuzz, KeepsCanonicalLocationsInTheirSite) {
-    Scrambler scramble(32);
-    int canonicalised = 0;
-    for (int round = 0; round < 700'000; ++round) {
-        const std::wstring location = scramble.text(round % 16 != 0 ? 24 : 300);
-        const std::optional<std::wstring> canonical = knav::canonicalLocation(location);
-        if (!canonical) {
-            continue;
-        }
-        ++canonicalised;
-        const std::wstring prefix(knav::sitePrefix(location));
-        ASSERT_LT(canonical->size(), std::size_t{MAX_PATH});
-        ASSERT_TRUE(canonical->size() == prefix.size() || (*canonical)[prefix.size()] == L'/')
-            << knav::test::utf8(location) << " became " << knav::test::utf8(*canonical);
-        ASSERT_EQ(canonical->find(L'\\'), std::wstring::npos);
-        const bool plainDots = location.find(L"...") == std::wstring::npos;  // the path functions stumble over more
-        ASSERT_TRUE(!plainDots || (*canonical + L'/').find(L"/../", prefix.size()) == std::wstring::npos)
-            << knav::test::utf8(location) << " became " << knav::test::utf8(*canonical);
-    }
-    EXPECT_GT(canonicalised, 100'000);
-}
-
-TEST(CNavPathnameFuzz, SurvivesAnyText) {
-    Scrambler scramble(32);
-    for (int round = 0; round < 20'000; ++round) {
-        const std::wstring text = scramble.text(round % 8 != 0 ? 30 : 700);
-        CNavPathname pathname;
-        const PathErr result = pathname.Parse(text.c_str(), round % 2 != 0);
-        ASSERT_TRUE(!pathname.GetIsURL() || fullPath(pathname) == text.c_str());
-        ASSERT_EQ(result == PathErr::None, pathname.GetPathString() != nullptr) << knav::test::utf8(text);
-        wchar_t out[MAX_PATH + 1];
-        out[MAX_PATH] = L'!';
-        pathname.NavPathCanonicalize(out, text.c_str());
-        ASSERT_EQ(out[MAX_PATH], L'!');
-        CString part;
-        pathname.GetServerName(part);
-        pathname.GetBasename(part);
-    }
 }
 
 }  // namespace

@@ -225,6 +225,8 @@ TEST_F(Extensions, OwnTheirFolderAndTheirItem) {
         extension.SetRootFolder(m_root.get());
         extension.SetID(makeList({"a"}).release());
         extension.SetID(makeList({"b"}).release());
+        extension.SetID(extension.GetID());
+        EXPECT_THAT(extension.GetID(), HoldsSameBytes(makeList({"b"}).get()));
         EXPECT_EQ(m_root->references(), references + 1);
     });
     EXPECT_EQ(m_root->references(), references);

@@ -22,7 +22,7 @@ void writeNowhere() {
     *reinterpret_cast<volatile int*>(kNowhere) = 1;
 }
 
-[[gnu::no_sanitize_undefined]] void divideByZero() {
+__attribute__((no_sanitize("undefined"))) void divideByZero() {
     g_sink = g_sink / g_zero;
 }
 

@@ -2,29 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/ComPtr.h"
-#include "support/ItemLists.h"
-#include "support/ScopedTempFolder.h"
+#include "support/RealNamespace.h"
 
 namespace {
 
 using namespace knav;
 using namespace knav::test;
 
-ItemList parsed(const wchar_t* path) {
-    ITEMIDLIST* list = nullptr;
-    return SUCCEEDED(SHParseDisplayName(path, nullptr, &list, 0, nullptr)) ? ItemList::adopt(list) : ItemList();
-}
-
 class Links : public testing::Test {
 protected:
-    ItemList makeLink(const wchar_t* name, const CString& target) {
-        const CString path = m_temp.path(name);
-        const auto link = createInProcess<IShellLinkW>(CLSID_ShellLink);
-        const auto file = link.as<IPersistFile>();
-        EXPECT_TRUE(SUCCEEDED(link->SetPath(target)) && SUCCEEDED(file->Save(path, TRUE)));
-        return parsed(path);
-    }
+    ItemList makeLink(const wchar_t* name, const CString& target) { return parsed(addShortcut(m_temp, name, target)); }
 
     ScopedTempFolder m_temp;
     CString m_folder = m_temp.addFolder(L"target \u00e4");

@@ -5,45 +5,12 @@
 #include <gtest/gtest.h>
 
 #include "shell/FolderCalls.h"
-#include "support/ItemLists.h"
-#include "support/ScopedTempFolder.h"
+#include "support/RealNamespace.h"
 
 namespace {
 
 using namespace knav;
 using namespace knav::test;
-
-ItemList parsed(const wchar_t* path) {
-    ITEMIDLIST* list = nullptr;
-    return SUCCEEDED(SHParseDisplayName(path, nullptr, &list, 0, nullptr)) ? ItemList::adopt(list) : ItemList();
-}
-
-ItemList special(int csidl) {
-    ITEMIDLIST* list = nullptr;
-    return SUCCEEDED(SHGetSpecialFolderLocation(nullptr, csidl, &list)) ? ItemList::adopt(list) : ItemList();
-}
-
-bool isSame(const ItemList& a, const ItemList& b) {
-    return a && b && ILIsEqual(a.get(), b.get());
-}
-
-// Where the folder itself says that it is.
-ItemList placeOf(IShellFolder* folder) {
-    const auto place = ComPtr<IShellFolder>::retain(folder).as<IPersistFolder2>();
-    ITEMIDLIST* list = nullptr;
-    return place && SUCCEEDED(place->GetCurFolder(&list)) ? ItemList::adopt(list) : ItemList();
-}
-
-// A child item and its folder, as the system splits a qualified list.
-struct Child {
-    const ITEMIDLIST* list = nullptr;
-    ComPtr<IShellFolder> folder;
-
-    explicit Child(const ItemList& qualified)
-        : folder(ComPtr<IShellFolder>::from([&](IShellFolder** result) {
-              return SHBindToParent(qualified.get(), IID_IShellFolder, reinterpret_cast<void**>(result), &list);
-          })) {}
-};
 
 class Namespace : public testing::Test {
 protected:
@@ -86,59 +53,19 @@ TEST_F(Namespace, PredicatesKnowTheirLocationOnly) {
     }
 }
 
-TEST_F(Namespace, FolderOfAListIsWhereTheListSays) {
-    for (const CString& path : {CString(L"C:\\"), m_temp.path(), m_deep}) {
-        const ItemList list = parsed(path);
-        const auto folder = ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(list.get()));
-        EXPECT_TRUE(isSame(placeOf(folder.get()), list)) << utf8(path.view());
-    }
-    const auto desktop = ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(listArgument(emptyList())));
+TEST_F(Namespace, FoldersAreBoundWhereTheyCanBe) {
+    const auto desktop = ComPtr<IShellFolder>::adopt(NavGetDesktopFolder());
     EXPECT_TRUE(isSame(placeOf(desktop.get()), makeList({})));
     const auto drives = ComPtr<IShellFolder>::adopt(NavGetDrivesFolder());
     EXPECT_TRUE(isSame(placeOf(drives.get()), special(CSIDL_DRIVES)));
-
     EXPECT_EQ(NavGetFolderFromDesktop(nullptr), nullptr);
-    EXPECT_EQ(NavGetFolderFromDesktop(parsed(m_file).get()), nullptr) << "a file is no folder";
     EXPECT_EQ(NavGetFolderFromItem(nullptr, parsed(m_deep).get()), nullptr);
     EXPECT_EQ(NavGetFolderFromItem(desktop.get(), nullptr), nullptr);
     NavReleaseFolder(nullptr);
-}
 
-TEST_F(Namespace, NamesAreThoseOfTheDisk) {
-    for (const CString& path : {m_temp.path(), m_deep, m_file}) {
-        const ItemList list = parsed(path);
-        const Child child(list);
-        const CString leaf = path.Mid(path.ReverseFind(L'\\') + 1);
-        wchar_t systemPath[MAX_PATH];
-        ASSERT_TRUE(SHGetPathFromIDListW(list.get(), systemPath));
-
-        CString name = L"old";
-        EXPECT_TRUE(NavGetItemNameForParsing(child.folder.get(), listArgument(child.list), name));
-        EXPECT_EQ(name, systemPath);
-        EXPECT_TRUE(NavGetItemNameForParsing(nullptr, list.get(), name));
-        EXPECT_EQ(name, systemPath);
-        EXPECT_TRUE(NavGetItemDisplayNameInDesktop(SHGDN_FORPARSING, list.get(), name));
-        EXPECT_EQ(name, systemPath);
-        EXPECT_TRUE(NavGetItemNameWithExtensionInFolder(child.folder.get(), listArgument(child.list), name));
-        EXPECT_EQ(name, leaf);
-        EXPECT_TRUE(NavGetItemNameInFolder(child.folder.get(), listArgument(child.list), name));
-        EXPECT_EQ(leaf.Find(name), 0);
-    }
     CString name = L"old";
     EXPECT_FALSE(NavGetItemDisplayName(SHGDN_NORMAL, nullptr, parsed(m_file).get(), name));
     EXPECT_TRUE(name.IsEmpty());
-}
-
-TEST_F(Namespace, QualifiedListIsTheSameItemSeenFromTheDesktop) {
-    CNavShell shell;
-    const ItemList list = parsed(m_file);
-    const Child child(list);
-    ITEMIDLIST* const relative = listArgument(child.list);
-    EXPECT_TRUE(isSame(ItemList::adopt(NavGetQualifiedItemList(shell, child.folder.get(), relative)), list));
-    EXPECT_TRUE(isSame(ItemList::adopt(shell.GetQualifiedItemList(child.folder.get(), relative)), list));
-    EXPECT_EQ(NavGetQualifiedItemList(nullptr, child.folder.get(), relative), nullptr);
-    EXPECT_EQ(NavGetQualifiedItemList(shell, nullptr, relative), nullptr);
-    EXPECT_EQ(NavGetQualifiedItemList(shell, child.folder.get(), nullptr), nullptr);
 }
 
 TEST_F(Namespace, PathsAreParsedUpToTheirLimit) {
@@ -177,17 +104,18 @@ TEST_F(Namespace, PathsAreParsedUpToTheirLimit) {
     EXPECT_EQ(NavGetQualifiedItemListFromFolderFullPath(nullptr), nullptr);
 }
 
-TEST_F(Namespace, ComparisonIsAnOrder) {
-    const auto desktop = ComPtr<IShellFolder>::adopt(NavGetDesktopFolder());
-    const ItemList a = parsed(m_temp.addFolder(L"a"));
-    const ItemList b = parsed(m_temp.addFolder(L"b"));
-    const ItemList upperA = parsed(m_temp.path(L"A"));
-    EXPECT_EQ(NavCompareFolderItems(desktop.get(), a.get(), upperA.get()), 0);
-    EXPECT_LT(NavCompareFolderItems(desktop.get(), a.get(), b.get()), 0);
-    EXPECT_GT(NavCompareFolderItems(desktop.get(), b.get(), a.get()), 0);
-    EXPECT_LT(NavCompareFolderItems(desktop.get(), nullptr, a.get()), 0);
-    EXPECT_GT(NavCompareFolderItems(desktop.get(), a.get(), nullptr), 0);
-    EXPECT_EQ(NavCompareFolderItems(nullptr, a.get(), b.get()), 0);
+TEST_F(Namespace, ListsAreShownToPeople) {
+    EXPECT_EQ(describe(nullptr), L"no list");
+    EXPECT_EQ(describe(emptyList()), L"the desktop (empty list)");
+    const std::wstring shown = describe(parsed(m_file).get());
+    EXPECT_TRUE(shown.starts_with(L"\"" + std::wstring(m_file.view()) + L"\" [20: ")) << utf8(shown);
+    PageEnd page;
+    const std::vector<BYTE> whole = listBytes({"abcdef", "a payload of more than a dozen bytes"});
+    EXPECT_TRUE(describe(page.put(whole.data(), whole.size()))
+                    .ends_with(L" [8: 61 62 63 64 65 66] "
+                               L"[38: 61 20 70 61 79 6c 6f 61 64 20 6f 66 ...]"));
+    EXPECT_TRUE(describe(page.put(whole.data(), 12)).ends_with(L" [8: 61 62 63 64 65 66] [38: unreadable]"));
+    EXPECT_EQ(testing::PrintToString(parsed(m_file)), utf8(shown));
 }
 
 TEST_F(Namespace, SystemImageListHasSmallIcons) {
@@ -216,25 +144,6 @@ TEST_F(Namespace, NothingIsLeftInTaskMemory) {
         NavIsDesktop(list.get());
         NavIsNetwork(list.get());
         NavUpdateShellCache();
-    });
-}
-
-// A list that somebody stored and damaged: whatever the shell makes of it, the process and the memory survive.
-TEST_F(Namespace, DamagedListsAreHarmless) {
-    const std::vector<BYTE> whole = bytesOf(parsed(m_file).get());
-    PageEnd page;
-    expectNoTaskMemoryLeft([&] {
-        for (std::size_t cut = 0; cut < whole.size(); cut += cut < 80 ? 1 : 7) {
-            ITEMIDLIST* const list = page.put(whole.data(), cut);
-            CString name;
-            CNavShell shell;
-            NavGetItemNameForParsing(nullptr, list, name);
-            NavIsDesktop(list);
-            NavIsDrives(list);
-            NavReleaseFolder(NavGetFolderFromDesktop(list));
-            const auto desktop = ComPtr<IShellFolder>::adopt(NavGetDesktopFolder());
-            ItemList::adopt(NavGetQualifiedItemList(shell, desktop.get(), list)).reset();
-        }
     });
 }
 

@@ -9,6 +9,7 @@
 #include "shell/SpecialItems.h"
 #include "support/ItemLists.h"
 #include "support/ObjectCounts.h"
+#include "support/ScopedTempFolder.h"
 #include "support/TestExtension.h"
 
 namespace {
@@ -144,6 +145,23 @@ TEST_F(NavNode, EachShellAttributeSetsItsFlagOnly) {
     }
 }
 
+TEST_F(NavNode, FolderOfTheParentIsAskedAboutANodeAndItsOwnWithoutOne) {
+    const auto outer = FakeFolder::make(L"outer");
+    const auto inner = FakeFolder::make(L"inner");
+    outer->add(L"item", SFGAO_CANCOPY);
+    inner->add(L"item", SFGAO_CANMOVE);
+    const auto parent = nodeOver(outer);
+    const auto child = nodeOver(inner);
+    freeList(*child);
+    child->SetID(FakeFolder::item(L"item").release());
+    ASSERT_TRUE(child->GetAttributes());
+    EXPECT_TRUE(child->CanMove());
+    child->SetParent(parent.get());
+    ASSERT_TRUE(child->GetAttributes());
+    EXPECT_TRUE(child->CanCopy());
+    EXPECT_FALSE(child->CanMove());
+}
+
 TEST_F(NavNode, FailedAttributeQueryLeavesTheFlags) {
     const auto folder = FakeFolder::make(L"root");
     folder->add(L"item", SFGAO_FOLDER);
@@ -157,6 +175,11 @@ TEST_F(NavNode, FailedAttributeQueryLeavesTheFlags) {
     EXPECT_TRUE(child.IsFolder());
     CNavNode alone(m_shell);
     EXPECT_FALSE(alone.GetAttributes()) << "without a folder there is nobody to ask";
+    const int asked = folder->calls(FolderCall::GetAttributesOf);
+    CNavNode nameless(m_shell);
+    nameless.SetParent(parent.get());
+    EXPECT_FALSE(nameless.GetAttributes());
+    EXPECT_EQ(folder->calls(FolderCall::GetAttributesOf), asked) << "without an item there is nothing to ask for";
 }
 
 TEST_F(NavNode, ExtensionRootIsAFolderWithoutAPath) {
@@ -260,6 +283,14 @@ TEST_F(NavNode, InternetRootIsShownOnTheDesktopAndPresentedByTheNetwork) {
     EXPECT_EQ(internet->GetDisplayNode(), network);
     EXPECT_EQ(network->GetNext(), nullptr);
 
+    const auto file = FakeFolder::make(L"desktop");
+    file->add(nameLike(CSIDL_INTERNET), 0);
+    const auto shallow = nodeOver(file);
+    freeList(*shallow);
+    shallow->SetID(makeList({}).release());
+    ASSERT_TRUE(shallow->ExpandFolder(nullptr, 1, SHCONTF_FOLDERS));
+    EXPECT_EQ(shallow->GetChild(), nullptr) << "only folders were wanted";
+
     const auto elsewhere = nodeOver(folder);
     ASSERT_TRUE(elsewhere->ExpandFolder(nullptr, 1, SHCONTF_FOLDERS));
     EXPECT_EQ(elsewhere->GetChild()->GetNext(), nullptr) << "only the desktop shows the internet root";
@@ -334,6 +365,23 @@ TEST_F(NavNode, ChainHasANodeForEachElement) {
     EXPECT_EQ(node->ExpandNode(nullptr, &first), nullptr);
     EXPECT_EQ(node->ExpandNode(makeList({}).get(), &first), nullptr);
     EXPECT_EQ(first, nullptr);
+}
+
+TEST_F(NavNode, ChainDeeperThanAnyPlaceIsRefused) {
+    const auto endless = FakeFolder::make(L"endless");
+    endless->add(L"x", SFGAO_FOLDER, endless);
+    const auto chain = [](std::size_t depth) {
+        std::wstring path = L"x";
+        for (std::size_t level = 1; level < depth; ++level) {
+            path += L"/x";
+        }
+        return FakeFolder::item(path);
+    };
+    const auto node = nodeOver(endless);
+    EXPECT_NE(node->ExpandNode(chain(300).get(), nullptr), nullptr);
+    EXPECT_EQ(node->ExpandNode(chain(30'000).get(), nullptr), nullptr);
+    EXPECT_EQ(node->GetChild()->GetNext(), nullptr);
+    endless->clear();
 }
 
 TEST_F(NavNode, FindingAddsOnlyBelowAMatch) {
@@ -449,6 +497,52 @@ TEST_F(NavNode, IconComesFromTheExtractorOrFromTheModuleItNames) {
     const auto root = nodeOver(folder, NavNodeExtensionRoot);
     root->SetIcon();
     EXPECT_TRUE(folder->askedForItself());
+}
+
+// A copy of the framework with the system's first icon under a name that looks like a number.
+CString addModuleWithNamedIcon(const ScopedTempFolder& temp, const wchar_t* name) {
+    const HMODULE source = LoadLibraryW(L"shell32.dll");
+    const auto bytesOf = [source](const wchar_t* id, const wchar_t* type) {
+        const HRSRC found = FindResourceW(source, id, type);
+        const auto* const bytes = static_cast<const BYTE*>(LockResource(LoadResource(source, found)));
+        return std::vector<BYTE>(bytes, bytes + SizeofResource(source, found));
+    };
+    std::vector<BYTE> group = bytesOf(MAKEINTRESOURCEW(1), RT_GROUP_ICON);
+    const CString path = temp.path(L"named.dll");
+    wchar_t framework[MAX_PATH];
+    GetModuleFileNameW(GetModuleHandleW(L"zoui.dll"), framework, MAX_PATH);
+    CopyFileW(framework, path, FALSE);
+    const HANDLE update = BeginUpdateResourceW(path, FALSE);
+    constexpr WORD neutral = MAKELANGID(LANG_NEUTRAL, SUBLANG_NEUTRAL);
+    const auto put = [&](const wchar_t* type, const wchar_t* id, std::vector<BYTE>& bytes) {
+        UpdateResourceW(update, type, id, neutral, bytes.data(), static_cast<DWORD>(bytes.size()));
+    };
+    put(RT_GROUP_ICON, name, group);
+    constexpr std::size_t header = 6;
+    constexpr std::size_t entry = 14;  // its last two bytes are the picture's id
+    for (std::size_t end = header + entry; end <= group.size(); end += entry) {
+        const wchar_t* const id = MAKEINTRESOURCEW(MAKEWORD(group[end - 2], group[end - 1]));
+        std::vector<BYTE> picture = bytesOf(id, RT_ICON);
+        put(RT_ICON, id, picture);
+    }
+    EndUpdateResourceW(update, FALSE);
+    FreeLibrary(source);
+    return path;
+}
+
+TEST_F(NavNode, IconOfAModuleIsFoundByItsNumberAsANameToo) {
+    const ScopedTempFolder temp;
+    const CString module = addModuleWithNamedIcon(temp, L"777");
+    const auto folder = FakeFolder::make(L"root");
+    const auto parent = nodeOver(folder);
+    for (const int index : {777, 778}) {
+        folder->setIcon({module.GetString(), index, E_FAIL});
+        CNavNode child(m_shell);
+        child.SetParent(parent.get());
+        child.SetType(NavNodeExtensionSite);
+        child.SetIcon();
+        EXPECT_EQ(child.GetIcon() != nullptr, index == 777);
+    }
 }
 
 TEST_F(NavNode, IconIsTakenWhenItIsAskedForAndOnlyOnce) {

@@ -5,10 +5,13 @@
 #include <knav/NavFolders.h>
 #include <knav/NavNames.h>
 #include <platform/CWnd.h>
+#include <platform/Resources.h>
+#include <ry/RyUtResource.h>
 
 #include "shell/ComPtr.h"
 #include "support/ItemLists.h"
 #include "support/ObjectCounts.h"
+#include "support/RealNamespace.h"
 #include "support/ScopedTempFolder.h"
 #include "support/ScratchHive.h"
 #include "support/TestExtension.h"
@@ -17,11 +20,6 @@ namespace {
 
 using namespace knav;
 using namespace knav::test;
-
-ItemList parsed(const wchar_t* path) {
-    ITEMIDLIST* list = nullptr;
-    return SUCCEEDED(SHParseDisplayName(path, nullptr, &list, 0, nullptr)) ? ItemList::adopt(list) : ItemList();
-}
 
 int countNodes(const CNavTree& tree) {
     int count = 0;
@@ -70,14 +68,6 @@ std::vector<CString> childNames(const CNavNode& node) {
 
 class NavTree : public testing::Test {
 protected:
-    CString makeLink(const wchar_t* name, const CString& target) {
-        const CString path = m_temp.path(name);
-        const auto link = createInProcess<IShellLinkW>(CLSID_ShellLink);
-        const auto file = link.as<IPersistFile>();
-        EXPECT_TRUE(SUCCEEDED(link->SetPath(target)) && SUCCEEDED(file->Save(path, TRUE)));
-        return path;
-    }
-
     RegisteredForTest m_registered;
     ScopedTempFolder m_temp;
     CString m_deep = m_temp.addFolder(L"one\\two\\three \u00c4");
@@ -125,7 +115,7 @@ TEST_F(NavTree, OnlyTheLastLocationKeepsItsChain) {
 }
 
 TEST_F(NavTree, ShortcutToAFolderLeadsToItsTarget) {
-    const ItemList link = parsed(makeLink(L"short.lnk", m_other));
+    const ItemList link = parsed(addShortcut(m_temp, L"short.lnk", m_other));
     ASSERT_TRUE(m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, link.get()));
     EXPECT_NE(find(m_tree, parsed(m_other)), nullptr);
     EXPECT_EQ(find(m_tree, link), nullptr);
@@ -210,6 +200,21 @@ TEST_F(NavTree, DeferredExtensionIsShownWithoutItsFolder) {
     EXPECT_EQ(m_tree.AddExtensionsToDesktop(nullptr, nullptr), 0);
 }
 
+TEST_F(NavTree, DeferredExtensionHasAnIconWhenItsSettingIsOne) {
+    const HINSTANCE module = RyUtResource::loadDll(L"KnavRes.dll");
+    ASSERT_NE(module, nullptr);
+    {
+        const CDynLinkLibrary pictures(module);
+        m_registered.add(L"FTPSites").SetDelayInit(1);
+        m_registered.add(L"ftpsites").SetDelayInit(2);
+        CNavNode desktop(m_tree);
+        ASSERT_EQ(m_tree.AddExtensionsToDesktop(nullptr, &desktop), 2);
+        EXPECT_NE(desktop.GetChild()->GetIcon(), nullptr) << "the picture of the FTP sites";
+        EXPECT_EQ(desktop.GetChild()->GetNext()->GetIcon(), nullptr);
+    }
+    RyUtResource::freeDll(module);
+}
+
 TEST_F(NavTree, DisabledExtensionIsLeftOutWhenTheDialogSaysSo) {
     const auto folder = FakeFolder::make(L"root");
     m_registered.add(L"Foo", folder);
@@ -250,6 +255,23 @@ TEST_F(NavTree, DeletingTakesTheFollowingSiblingsAndTheChainAlong) {
     m_tree.DeleteNode(nullptr);
     m_tree.DeleteNode(m_tree.GetRootNode());
     EXPECT_EQ(m_tree.GetRootNode(), nullptr);
+}
+
+TEST_F(NavTree, DeletingLeavesNothingThatPresentsTheNode) {
+    m_tree.AddChild(nullptr);
+    CNavNode* const presented = m_tree.AddChild(nullptr);
+    CNavNode* const deleted = presented->AddNode(nullptr);
+    CNavNode* const below = deleted->AddChild(nullptr);
+    m_tree.GetRootNode()->SetDisplayNode(presented);
+    presented->SetDisplayNode(below);
+    m_tree.DeleteNode(deleted);
+    EXPECT_EQ(presented->GetDisplayNode(), nullptr);
+    EXPECT_EQ(m_tree.GetRootNode()->GetDisplayNode(), presented);
+
+    auto* const detached = new CNavNode(m_tree);
+    detached->SetParent(m_tree.GetRootNode());
+    m_tree.DeleteNode(detached);
+    EXPECT_EQ(m_tree.GetRootNode()->GetChild(), presented) << "the parent's children are others";
 }
 
 TEST_F(NavTree, NodesAreAddedByHandToo) {

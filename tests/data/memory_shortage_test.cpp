@@ -1,0 +1,96 @@
+// When memory runs out, nothing is thrown at the host, and a text is the old one, the new one or empty.
+#include <knav/CNavDataArray.h>
+#include <knav/CNavFilterArray.h>
+#include <knav/CNavPathname.h>
+
+#include "support/MemoryShortage.h"
+
+namespace {
+
+using knav::test::withEachAllocationFailing;
+
+constexpr wchar_t kOld[] = L"an old text that is too long to be kept without memory";
+constexpr wchar_t kNew[] = L"  a new text that is too long to be kept without memory";
+
+TEST(DataMemoryShortage, TextsOfAnItemAreOldOrNew) {
+    using Set = void (CNavData::*)(const wchar_t*);
+    using Get = const wchar_t* (CNavData::*)() const;
+    const struct {
+        Set set;
+        Get get;
+        const wchar_t* set_to;
+    } rows[] = {
+        {&CNavData::SetText, &CNavData::GetText, kNew + 2},
+        {&CNavData::SetTextInFolder, &CNavData::GetTextInFolder, kNew + 2},
+        {&CNavData::SetUserName, &CNavData::GetUserName, kNew},
+        {&CNavData::SetPassword, &CNavData::GetPassword, kNew},
+        {&CNavData::SetExtensionName, &CNavData::GetExtensionName, kNew},
+    };
+    for (const auto& row : rows) {
+        int half = 0;
+        const int failures = withEachAllocationFailing([&] {
+            CNavData data;
+            (data.*row.set)(kOld);
+            (data.*row.set)(kNew);
+            const std::wstring_view text = (data.*row.get)();
+            half += text != row.set_to && text != kOld && !text.empty();
+        });
+        EXPECT_GT(failures, 0);
+        EXPECT_EQ(half, 0);
+    }
+}
+
+TEST(DataMemoryShortage, ItemsAreMadeOrNot) {
+    int wrong = 0;
+    EXPECT_GT(withEachAllocationFailing([&] {
+                  CNavDataArray array;
+                  const CNavData* const data = array.AddData();
+                  wrong += array.GetCount() != (data != nullptr ? 1 : 0);
+                  CString url;
+                  wrong += data != nullptr && data->GetPathname() == nullptr && data->GetURL(url) != 0;
+              }),
+              0);
+    EXPECT_EQ(wrong, 0);
+}
+
+TEST(DataMemoryShortage, FilterListsAreReadAsFarAsMemoryGoes) {
+    constexpr wchar_t list[] =
+        L"Drawings of a rather long name\0*.drawing-of-a-long-name;*.dwg\0Texts of a rather long name\0*.txt;*.csv\0";
+    int wrong = 0;
+    EXPECT_GT(withEachAllocationFailing([&] {
+                  CNavFilterArray filters;
+                  filters.SetFrom(list, 0);
+                  wrong += filters.GetCount() > 2;
+                  if (filters.GetCount() > 0) {
+                      filters[0]->SetMultiSelectAllowed(1);
+                      const int allowed = filters[0]->GetMultiSelectAllowed();
+                      wrong += allowed != 0 && allowed != 1;
+                      CString shown;
+                      filters[0]->GetFullDescription(shown);
+                      filters[0]->SetFullDescription(kNew);
+                  }
+                  filters.FindExact(L"*.csv");
+              }),
+              0);
+    EXPECT_EQ(wrong, 0);
+}
+
+TEST(DataMemoryShortage, NamesThatMatchAreAllowedOrNot) {
+    CNavFilter filter;
+    const std::wstring name(600, L'a');
+    filter.Add(CString(L"**" + name));
+    CString whole;
+    filter.GetFullDescription(whole);
+    int wrong = 0;
+    EXPECT_GT(withEachAllocationFailing([&] {
+                  wrong += filter.IsAllowed((name.substr(0, 3)).c_str()) != 0;
+                  filter.IsAllowed(name.c_str());
+                  CString shown;
+                  filter.GetFullDescription(shown);
+                  wrong += shown != whole && !shown.IsEmpty();
+              }),
+              0);
+    EXPECT_EQ(wrong, 0);
+}
+
+}  // namespace
