@@ -41,6 +41,7 @@ IShellView* CNavCommDlgBrowser::GetCurrentShellView() const {
 
 void CNavCommDlgBrowser::SetCurrentShellView(IShellView* view) {
     m_state->view = knav::ComPtr<IShellView>::retain(view);
+    m_state->viewHandle = knav::windowOfView(view);
 }
 
 IShellFolder* CNavCommDlgBrowser::GetCurrentFolder() const {

@@ -31,7 +31,7 @@ struct BrowserState {
     void setObjectId(ItemList id, ComPtr<IShellFolder> boundFolder = nullptr);
 
     ComPtr<BrowserSite> site;
-    unsigned viewMode = ViewList;
+    unsigned viewMode = NavViewList;
     int multiSelectAllowed = 0;
     int foldersOnly = 0;
     int forceBrowse = 0;
@@ -49,6 +49,7 @@ struct BrowserState {
 
     ItemList objectId;
     ComPtr<IShellView> view;
+    HWND viewHandle = nullptr;  // the view's window, so that the view need not be asked again
     ComPtr<IShellFolder> folder;
     Admission admission;
     ArrivalFilter arrivals;

@@ -5,6 +5,7 @@
 #include "view/BrowseOwner.h"
 #include "view/BrowseTarget.h"
 #include "view/BrowserState.h"
+#include "view/NewChildren.h"
 #include "view/ViewTakeover.h"
 
 #include <knav/CNavCommDlgBuddy.h>
@@ -68,14 +69,20 @@ struct NewView {
     ComPtr<IShellView> view;
     FOLDERSETTINGS settings{};
     RECT place{};
+    HWND window = nullptr;
 };
+
+FOLDERSETTINGS currentFolderSettings(const BrowserState& state) {
+    FOLDERSETTINGS settings{};
+    if (!state.view || SUCCEEDED(guarded([&] { return state.view->GetCurrentInfo(&settings); }))) {
+        return settings;
+    }
+    return state.folderSettings;
+}
 
 FOLDERSETTINGS nextFolderSettings(CNavCommDlgBrowser& browser) {
     const auto& state = browser.state();
-    FOLDERSETTINGS settings{};
-    if (state.view) {
-        guarded([&] { return state.view->GetCurrentInfo(&settings); });
-    }
+    FOLDERSETTINGS settings = currentFolderSettings(state);
     settings.ViewMode = browser.GetViewMode();
     settings.fFlags = state.multiSelectAllowed != 0 ? settings.fFlags & ~static_cast<UINT>(FWF_SINGLESEL)
                                                     : settings.fFlags | FWF_SINGLESEL;
@@ -89,17 +96,33 @@ RECT placeForView(const BrowserState& state) {
     return place;
 }
 
-bool createWindow(BrowserState& state, NewView& next) {
-    HWND window = nullptr;
+HRESULT createWindow(BrowserState& state, NewView& next) {
     IShellView* const previous = state.view.get();
     IShellBrowser* const site = state.site.get();
     if (const auto view2 = next.view.as<IShellView2>()) {
         SV2CVW2_PARAMS params{
             sizeof(params), previous, &next.settings, site, &next.place, &viewIdOf(next.settings.ViewMode), nullptr};
-        return SUCCEEDED(guarded([&] { return view2->CreateViewWindow2(&params); }));
+        const HRESULT result = guarded([&] { return view2->CreateViewWindow2(&params); });
+        next.window = params.hwndView;
+        return result;
     }
-    return SUCCEEDED(
-        guarded([&] { return next.view->CreateViewWindow(previous, &next.settings, site, &next.place, &window); }));
+    return guarded(
+        [&] { return next.view->CreateViewWindow(previous, &next.settings, site, &next.place, &next.window); });
+}
+
+// A view that breaks down while it is made, most likely while it reads its folder, has its window already; without one
+// there would be nothing to see. Either way the previous view stays, and nothing may lie on top of it.
+bool showNextView(BrowserState& state, NewView& next) {
+    const NewChildren windows(state.ownerHandle());
+    if (SUCCEEDED(createWindow(state, next))) {
+        next.window = IsWindow(next.window) ? next.window : windows.first();
+        if (next.window != nullptr) {
+            return true;
+        }
+    }
+    guarded([&next] { return next.view->DestroyViewWindow(); });
+    windows.destroy();
+    return false;
 }
 
 bool replaceView(CNavCommDlgBrowser& browser, BrowseTarget target, UINT flags) {
@@ -114,14 +137,15 @@ bool replaceView(CNavCommDlgBrowser& browser, BrowseTarget target, UINT flags) {
     next.settings = nextFolderSettings(browser);
     next.place = placeForView(state);
     ProvisionalId id(state, target);
-    if (!createWindow(state, next)) {
+    if (!showNextView(state, next)) {
         return false;
     }
     id.keep();
     {
         const FocusInView focus(state);
         releaseViewWindows(state);
-        state.retired.retire(std::exchange(state.view, std::move(next.view)));
+        state.retired.retire(std::exchange(state.view, std::move(next.view)),
+                             std::exchange(state.viewHandle, next.window));
         state.folder = std::move(target.folder);
         state.browseFlags = flags;
         state.folderSettings = next.settings;
@@ -174,15 +198,9 @@ int CNavCommDlgBrowser::BrowseCurrentObject() {
 int CNavCommDlgBrowser::RefreshView() {
     return knav::atApiEdge(0, [this] {
         const auto view = m_state->view;
-        if (!view) {
-            return 0;
-        }
-        knav::releaseViewWindows(*m_state);
-        const HRESULT result = knav::guarded([&view] { return view->Refresh(); });
-        if (m_state->view.get() == view.get()) {
-            knav::attachViewWindows(*this);
-        }
-        return SUCCEEDED(result) ? 1 : 0;
+        const bool done = view && SUCCEEDED(knav::guarded([&view] { return view->Refresh(); }));
+        m_state->arrivals.restart();  // all rows are new, and have been asked about
+        return done ? 1 : 0;
     });
 }
 
@@ -192,6 +210,6 @@ void CNavCommDlgBrowser::DestroyViewWindow(int saveState) {
             knav::saveView(*m_state);
         }
         knav::releaseViewWindows(*m_state);
-        m_state->retired.retire(std::exchange(m_state->view, nullptr));
+        m_state->retired.retire(std::exchange(m_state->view, nullptr), std::exchange(m_state->viewHandle, nullptr));
     });
 }

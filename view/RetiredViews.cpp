@@ -3,13 +3,6 @@
 #include <utility>
 
 namespace knav {
-namespace {
-
-void destroyViewWindow(IShellView* view) {
-    guarded([view] { return view->DestroyViewWindow(); });
-}
-
-}  // namespace
 
 RetiredViews::CallFromView::~CallFromView() {
     if (--m_views.m_calls == 0 && !m_views.m_views.empty()) {
@@ -17,23 +10,31 @@ RetiredViews::CallFromView::~CallFromView() {
     }
 }
 
-void RetiredViews::retire(ComPtr<IShellView> view) {
+void RetiredViews::destroy(const Retired& retired) {
+    guarded([&retired] { return retired.view->DestroyViewWindow(); });
+    if (IsWindow(retired.window)) {
+        guardedRun([&retired] { DestroyWindow(retired.window); });
+    }
+}
+
+void RetiredViews::retire(ComPtr<IShellView> view, HWND window) {
     if (!view) {
         return;
     }
+    Retired retired{std::move(view), window};
     if (m_calls == 0) {
-        destroyViewWindow(view.get());
+        destroy(retired);
         return;
     }
-    if (const HWND window = windowOfView(view.get())) {
+    if (IsWindow(window)) {
         ShowWindow(window, SW_HIDE);
     }
-    m_views.push_back(std::move(view));
+    m_views.push_back(std::move(retired));
 }
 
 void RetiredViews::destroyAll() {
-    for (const auto& view : std::exchange(m_views, {})) {
-        destroyViewWindow(view.get());
+    for (const Retired& retired : std::exchange(m_views, {})) {
+        destroy(retired);
     }
 }
 

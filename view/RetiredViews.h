@@ -27,8 +27,8 @@ public:
         RetiredViews& m_views;
     };
 
-    /// Takes over a view and destroys its window, now or as soon as it may.
-    void retire(ComPtr<IShellView> view);
+    /// Takes over a view and destroys its window, now or as soon as it may; also when the view itself does not.
+    void retire(ComPtr<IShellView> view, HWND window);
     /// For the end of the dialog, when no message loop follows.
     void destroyAll();
     bool empty() const { return m_views.empty(); }
@@ -36,7 +36,14 @@ public:
 private:
     void destroyIdle();
 
-    std::vector<ComPtr<IShellView>> m_views;
+    struct Retired {
+        ComPtr<IShellView> view;
+        HWND window;
+    };
+
+    static void destroy(const Retired& retired);
+
+    std::vector<Retired> m_views;
     DeferredCall m_destroyLater;
     int m_calls = 0;
 };

@@ -27,11 +27,12 @@ bool hasFocusedItem(IShellView* view) {
     return !folderView || (SUCCEEDED(guarded([&] { return folderView->GetFocusedItem(&index); })) && index >= 0);
 }
 
-std::vector<ItemList> selectedItems(IShellView* view) {
-    if (view == nullptr || !hasFocusedItem(view)) {
+std::vector<ItemList> selectedItems(const BrowserState& state) {
+    const auto view = state.view;
+    if (!view || !hasFocusedItem(view.get())) {
         return {};
     }
-    const auto object = ComPtr<IDataObject>::from([view](IDataObject** result) {
+    const auto object = ComPtr<IDataObject>::from([&view](IDataObject** result) {
         return view->GetItemObject(SVGIO_SELECTION, IID_IDataObject, reinterpret_cast<void**>(result));
     });
     return object ? itemsOf(object.get()) : std::vector<ItemList>();
@@ -93,7 +94,7 @@ private:
 
 bool readSelection(const BrowserState& state, CNavDataArray& data) {
     data.RemoveAllData();
-    const auto items = selectedItems(state.view.get());
+    const auto items = selectedItems(state);
     if (items.empty()) {
         return false;
     }
@@ -118,8 +119,12 @@ const ITEMIDLIST* inFolder(const ITEMIDLIST* list, ITEMIDLIST* folderId) {
     return NavCompareFolderItems(desktop.get(), parent.get(), folderId) == 0 ? measure.last : list;
 }
 
-// Not every view deselects for a null item, so the list is told too.
+// Not every view deselects for a null item, so the list is told too. Some go through all their rows for it, which takes
+// as long as filling the list; most of the time nothing is selected.
 void deselectAll(IShellView* view, HWND list) {
+    if (list != nullptr && ListView_GetSelectedCount(list) == 0) {
+        return;
+    }
     guarded([view] { return view->SelectItem(nullptr, SVSI_DESELECTOTHERS); });
     if (list != nullptr) {
         ListView_SetItemState(list, -1, 0, LVIS_SELECTED);
@@ -135,11 +140,11 @@ int CNavCommDlgBrowser::SendSelectionToData(CNavDataArray& data) {
 
 void CNavCommDlgBrowser::SyncToData(CNavDataArray& data) {
     knav::atApiEdge([&] {
-        IShellView* const view = m_state->view.get();
-        if (view == nullptr) {
+        const auto view = m_state->view;
+        if (!view) {
             return;
         }
-        knav::deselectAll(view, SafeHwnd(m_state->listCtrl));
+        knav::deselectAll(view.get(), SafeHwnd(m_state->listCtrl));
         for (INT_PTR index = 0; index < data.GetSize(); ++index) {
             if (ITEMIDLIST* const list = data.GetAt(index)->GetID()) {
                 const auto* const item = knav::inFolder(list, m_state->objectId.get());

@@ -16,13 +16,14 @@ struct ModeRow {
 };
 
 constexpr std::array kModes{
-    ModeRow{ViewLargeIcons, {0x0057D0E0, 0x3573, 0x11CF, {0xAE, 0x69, 8, 0, 0x2B, 0x2E, 0x12, 0x62}}, LV_VIEW_ICON},
+    ModeRow{NavViewLargeIcons, {0x0057D0E0, 0x3573, 0x11CF, {0xAE, 0x69, 8, 0, 0x2B, 0x2E, 0x12, 0x62}}, LV_VIEW_ICON},
     ModeRow{
-        ViewSmallIcons, {0x089000C0, 0x3573, 0x11CF, {0xAE, 0x69, 8, 0, 0x2B, 0x2E, 0x12, 0x62}}, LV_VIEW_SMALLICON},
-    ModeRow{ViewList, {0x0E1FA5E0, 0x3573, 0x11CF, {0xAE, 0x69, 8, 0, 0x2B, 0x2E, 0x12, 0x62}}, LV_VIEW_LIST},
-    ModeRow{ViewDetails, {0x137E7700, 0x3573, 0x11CF, {0xAE, 0x69, 8, 0, 0x2B, 0x2E, 0x12, 0x62}}, LV_VIEW_DETAILS},
-    ModeRow{ViewThumbnails, {0x8BEBB290, 0x52D0, 0x11D0, {0xB7, 0xF4, 0, 0xC0, 0x4F, 0xD7, 6, 0xEC}}, kListThumbnails},
-    ModeRow{ViewTiles, {0x65F125E5, 0x7BE1, 0x4810, {0xBA, 0x9D, 0xD2, 0x71, 0xC8, 0x43, 0x2C, 0xE3}}, LV_VIEW_TILE},
+        NavViewSmallIcons, {0x089000C0, 0x3573, 0x11CF, {0xAE, 0x69, 8, 0, 0x2B, 0x2E, 0x12, 0x62}}, LV_VIEW_SMALLICON},
+    ModeRow{NavViewList, {0x0E1FA5E0, 0x3573, 0x11CF, {0xAE, 0x69, 8, 0, 0x2B, 0x2E, 0x12, 0x62}}, LV_VIEW_LIST},
+    ModeRow{NavViewDetails, {0x137E7700, 0x3573, 0x11CF, {0xAE, 0x69, 8, 0, 0x2B, 0x2E, 0x12, 0x62}}, LV_VIEW_DETAILS},
+    ModeRow{
+        NavViewThumbnails, {0x8BEBB290, 0x52D0, 0x11D0, {0xB7, 0xF4, 0, 0xC0, 0x4F, 0xD7, 6, 0xEC}}, kListThumbnails},
+    ModeRow{NavViewTiles, {0x65F125E5, 0x7BE1, 0x4810, {0xBA, 0x9D, 0xD2, 0x71, 0xC8, 0x43, 0x2C, 0xE3}}, LV_VIEW_TILE},
 };
 
 const ModeRow* findMode(unsigned mode) {
@@ -34,7 +35,7 @@ const ModeRow* findMode(unsigned mode) {
 
 const GUID& viewIdOf(unsigned mode) {
     const auto* const row = findMode(mode);
-    return row != nullptr ? row->viewId : findMode(ViewThumbnails)->viewId;
+    return row != nullptr ? row->viewId : findMode(NavViewThumbnails)->viewId;
 }
 
 DWORD listViewOf(unsigned mode) {
@@ -44,21 +45,21 @@ DWORD listViewOf(unsigned mode) {
 
 unsigned modeOfList(const ListViewFacts& facts) {
     if (facts.windowData == kListThumbnails) {
-        return ViewThumbnails;
+        return NavViewThumbnails;
     }
     switch (facts.view) {
         case LV_VIEW_DETAILS:
-            return ViewDetails;
+            return NavViewDetails;
         case LV_VIEW_SMALLICON:
-            return ViewSmallIcons;
+            return NavViewSmallIcons;
         case LV_VIEW_LIST:
-            return ViewList;
+            return NavViewList;
         case LV_VIEW_TILE:
-            return ViewTiles;
+            return NavViewTiles;
         case LV_VIEW_ICON:
-            return facts.itemSpacing > facts.iconSpacing ? ViewThumbnails : ViewLargeIcons;
+            return facts.itemSpacing > facts.iconSpacing ? NavViewThumbnails : NavViewLargeIcons;
         default:
-            return ViewThumbnails;
+            return NavViewThumbnails;
     }
 }
 

@@ -3,16 +3,9 @@
 
 #include <platform/Windows.h>
 
-namespace knav {
+#include <knav/NavViewMode.h>
 
-enum ViewMode : unsigned {
-    ViewLargeIcons = 1,
-    ViewSmallIcons,
-    ViewList,
-    ViewDetails,
-    ViewThumbnails,
-    ViewTiles,
-};
+namespace knav {
 
 /// The view id that makes IShellView2 show a mode; thumbnails for an unknown one.
 const GUID& viewIdOf(unsigned mode);

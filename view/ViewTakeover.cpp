@@ -45,8 +45,8 @@ void takePlaceOf(CNavCommDlgBuddy& placeholder, HWND window) {
 
 // Where the list cannot show thumbnails it is marked, so that the mode is still what the user chose.
 void markThumbnails(HWND list, unsigned mode) {
-    if (mode == ViewThumbnails && readModeOfList(list) != ViewThumbnails) {
-        SetWindowLongPtrW(list, GWLP_USERDATA, static_cast<LONG_PTR>(listViewOf(ViewThumbnails)));
+    if (mode == NavViewThumbnails && readModeOfList(list) != NavViewThumbnails) {
+        SetWindowLongPtrW(list, GWLP_USERDATA, static_cast<LONG_PTR>(listViewOf(NavViewThumbnails)));
     }
 }
 
@@ -77,22 +77,20 @@ void viewWindowDestroyed(BrowserState& state, HWND window) {
     if (state.buddy != nullptr && SafeHwnd(state.buddy->GetBuddy()) == window) {
         state.buddy->SetBuddy(nullptr);
     }
+    if (state.viewHandle == window) {
+        state.viewHandle = nullptr;
+    }
 }
 
-void attachViewWindows(CNavCommDlgBrowser& browser) {
+void takeOverView(CNavCommDlgBrowser& browser) {
     auto& state = browser.state();
-    if (const HWND window = windowOfView(state.view.get())) {
+    if (const HWND window = state.viewHandle) {
         subclassView(browser, window);
         if (state.buddy != nullptr) {
             takePlaceOf(*state.buddy, window);
         }
     }
     state.arrivals.restart();
-}
-
-void takeOverView(CNavCommDlgBrowser& browser) {
-    attachViewWindows(browser);
-    auto& state = browser.state();
     if (const HWND list = SafeHwnd(state.listCtrl)) {
         markThumbnails(list, state.folderSettings.ViewMode);
     }
@@ -120,14 +118,14 @@ void subclassListCtrl(CNavCommDlgBrowser& browser, HWND viewWindow) {
 }
 
 FocusInView::FocusInView(const BrowserState& state) : m_state(state) {
-    const HWND window = windowOfView(state.view.get());
+    const HWND window = state.viewHandle;
     const HWND focus = GetFocus();
     m_hadFocus = window != nullptr && focus != nullptr && (focus == window || IsChild(window, focus));
 }
 
 FocusInView::~FocusInView() {
     if (m_hadFocus) {
-        SetFocus(windowOfView(m_state.view.get()));
+        SetFocus(m_state.viewHandle);
     }
 }
 

@@ -18,11 +18,8 @@ void releaseViewWindows(BrowserState& state);
 /// The window was destroyed by somebody else: nothing points to it any more.
 void viewWindowDestroyed(BrowserState& state, HWND window);
 
-/// Takes over the window and the list of the current view and puts it behind the placeholder in the tab order.
-void attachViewWindows(CNavCommDlgBrowser& browser);
-
-/// The same for a view that was just made: its list shows the mode that was asked for, and the owner restores its
-/// columns.
+/// Takes over the window and the list of a view that was just made and puts it behind the placeholder in the tab order.
+/// Its list shows the mode that was asked for, and the owner restores its columns.
 void takeOverView(CNavCommDlgBrowser& browser);
 
 /// Takes over the list in a view's window, after giving back the one held before.

@@ -6,12 +6,21 @@
 namespace knav::test {
 namespace {
 
-template <class... Interfaces>
+constexpr ViewCall after(ViewCall call, int steps) {
+    return static_cast<ViewCall>(static_cast<int>(call) + steps);
+}
+
+// `First` is the object's QueryInterface; AddRef and Release follow it.
+template <ViewCall First, class... Interfaces>
 class Counted : public Interfaces... {
 public:
     explicit Counted(ViewScript& script) : m_script(script) { ++script.liveObjects; }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
+    ULONG STDMETHODCALLTYPE AddRef() override {
+        m_script.enter(after(First, 1));
+        return ++m_references;
+    }
     ULONG STDMETHODCALLTYPE Release() override {
+        m_script.enter(after(First, 2));
         const ULONG left = --m_references;
         if (left == 0) {
             delete this;
@@ -22,20 +31,25 @@ public:
 protected:
     virtual ~Counted() { --m_script.liveObjects; }
     HRESULT give(IUnknown* object, void** result) {
-        *result = object;
+        *result = nullptr;
+        if (const HRESULT entered = m_script.enter(First); FAILED(entered)) {
+            return entered;
+        }
         if (object == nullptr) {
             return E_NOINTERFACE;
         }
-        object->AddRef();
+        ++m_references;
+        *result = object;
         return S_OK;
     }
+    HRESULT answer(ViewCall call, HRESULT worked = E_NOTIMPL) { return m_script.enter(call, worked); }
     ViewScript& m_script;
 
 private:
     ULONG m_references = 1;
 };
 
-class FakeData final : public Counted<IDataObject> {
+class FakeData final : public Counted<ViewCall::DataQueryInterface, IDataObject> {
 public:
     using Counted::Counted;
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
@@ -57,14 +71,20 @@ public:
         GlobalUnlock(medium->hGlobal);
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC*, STGMEDIUM*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetCanonicalFormatEtc(FORMATETC*, FORMATETC*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetData(FORMATETC*, STGMEDIUM*, BOOL) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD, IEnumFORMATETC**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE DAdvise(FORMATETC*, DWORD, IAdviseSink*, DWORD*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE DUnadvise(DWORD) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE EnumDAdvise(IEnumSTATDATA**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC*, STGMEDIUM*) override { return answer(ViewCall::GetDataHere); }
+    HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC*) override { return answer(ViewCall::QueryGetData); }
+    HRESULT STDMETHODCALLTYPE GetCanonicalFormatEtc(FORMATETC*, FORMATETC*) override {
+        return answer(ViewCall::GetCanonicalFormatEtc);
+    }
+    HRESULT STDMETHODCALLTYPE SetData(FORMATETC*, STGMEDIUM*, BOOL) override { return answer(ViewCall::SetData); }
+    HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD, IEnumFORMATETC**) override {
+        return answer(ViewCall::EnumFormatEtc);
+    }
+    HRESULT STDMETHODCALLTYPE DAdvise(FORMATETC*, DWORD, IAdviseSink*, DWORD*) override {
+        return answer(ViewCall::DAdvise);
+    }
+    HRESULT STDMETHODCALLTYPE DUnadvise(DWORD) override { return answer(ViewCall::DUnadvise); }
+    HRESULT STDMETHODCALLTYPE EnumDAdvise(IEnumSTATDATA**) override { return answer(ViewCall::EnumDAdvise); }
 
 private:
     std::vector<BYTE> array() const {
@@ -91,15 +111,12 @@ private:
     }
 };
 
-class FakeView final : public Counted<IShellView2, IFolderView> {
+class FakeView final : public Counted<ViewCall::QueryInterface, IShellView2, IFolderView> {
 public:
     using Counted::Counted;
     ULONG STDMETHODCALLTYPE AddRef() override { return Counted::AddRef(); }
     ULONG STDMETHODCALLTYPE Release() override { return Counted::Release(); }
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        if (const HRESULT result = m_script.enter(ViewCall::QueryInterface); FAILED(result)) {
-            return result;
-        }
         if (iid == IID_IFolderView) {
             return give(m_script.offersFolderView ? static_cast<IFolderView*>(this) : nullptr, object);
         }
@@ -113,26 +130,34 @@ public:
         *window = m_window;
         return result;
     }
-    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*) override { return S_FALSE; }
-    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE UIActivate(UINT) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE Refresh() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return answer(ViewCall::ContextSensitiveHelp); }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*) override {
+        return answer(ViewCall::TranslateAccelerator, S_FALSE);
+    }
+    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return answer(ViewCall::EnableModeless); }
+    HRESULT STDMETHODCALLTYPE UIActivate(UINT) override { return answer(ViewCall::UIActivate, S_OK); }
+    HRESULT STDMETHODCALLTYPE Refresh() override { return answer(ViewCall::Refresh, S_OK); }
     HRESULT STDMETHODCALLTYPE CreateViewWindow(IShellView* previous, LPCFOLDERSETTINGS settings, IShellBrowser* browser,
                                                RECT* place, HWND* window) override {
+        if (m_script.breaksAfterwards) {
+            create(previous, *settings, browser, *place, window);
+            return m_script.enter(ViewCall::CreateViewWindow);
+        }
         const HRESULT result = m_script.enter(ViewCall::CreateViewWindow);
         return SUCCEEDED(result) ? create(previous, *settings, browser, *place, window) : result;
     }
     HRESULT STDMETHODCALLTYPE DestroyViewWindow() override {
+        const HRESULT result = m_script.enter(ViewCall::DestroyViewWindow);
         DestroyWindow(m_window);
-        return m_script.enter(ViewCall::DestroyViewWindow);
+        return result;
     }
     HRESULT STDMETHODCALLTYPE GetCurrentInfo(LPFOLDERSETTINGS settings) override {
-        *settings = m_script.settings;
+        *settings =
+            m_script.of(ViewCall::GetCurrentInfo) == Conduct::Works ? m_script.settings : FOLDERSETTINGS{9, ~0U};
         return m_script.enter(ViewCall::GetCurrentInfo);
     }
     HRESULT STDMETHODCALLTYPE AddPropertySheetPages(DWORD, LPFNSVADDPROPSHEETPAGE, LPARAM) override {
-        return E_NOTIMPL;
+        return answer(ViewCall::AddPropertySheetPages);
     }
     HRESULT STDMETHODCALLTYPE SaveViewState() override { return m_script.enter(ViewCall::SaveViewState); }
     HRESULT STDMETHODCALLTYPE SelectItem(PCUITEMID_CHILD item, SVSIF flags) override {
@@ -147,39 +172,56 @@ public:
         return S_OK;
     }
 
-    HRESULT STDMETHODCALLTYPE GetView(SHELLVIEWID*, ULONG) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetView(SHELLVIEWID*, ULONG) override { return answer(ViewCall::GetView); }
     HRESULT STDMETHODCALLTYPE CreateViewWindow2(LPSV2CVW2_PARAMS params) override {
-        if (const HRESULT result = m_script.enter(ViewCall::CreateViewWindow2); FAILED(result)) {
+        const HRESULT result = m_script.breaksAfterwards ? S_OK : m_script.enter(ViewCall::CreateViewWindow2);
+        if (FAILED(result)) {
             return result;
         }
         m_script.paramsSize = params->cbSize;
         m_script.viewId = *params->pvid;
-        return create(params->psvPrev, *params->pfs, params->psbOwner, *params->prcView, &params->hwndView);
+        create(params->psvPrev, *params->pfs, params->psbOwner, *params->prcView, &params->hwndView);
+        return m_script.breaksAfterwards ? m_script.enter(ViewCall::CreateViewWindow2) : S_OK;
     }
-    HRESULT STDMETHODCALLTYPE HandleRename(PCUITEMID_CHILD) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SelectAndPositionItem(PCUITEMID_CHILD, UINT, POINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE HandleRename(PCUITEMID_CHILD) override { return answer(ViewCall::HandleRename); }
+    HRESULT STDMETHODCALLTYPE SelectAndPositionItem(PCUITEMID_CHILD, UINT, POINT*) override {
+        return answer(ViewCall::SelectAndPositionItem);
+    }
 
-    HRESULT STDMETHODCALLTYPE GetCurrentViewMode(UINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetCurrentViewMode(UINT) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetFolder(REFIID, void**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Item(int, PITEMID_CHILD*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE ItemCount(UINT, int*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Items(UINT, REFIID, void**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetSelectionMarkedItem(int*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetCurrentViewMode(UINT*) override { return answer(ViewCall::GetCurrentViewMode); }
+    HRESULT STDMETHODCALLTYPE SetCurrentViewMode(UINT) override { return answer(ViewCall::SetCurrentViewMode); }
+    HRESULT STDMETHODCALLTYPE GetFolder(REFIID, void**) override { return answer(ViewCall::GetFolder); }
+    HRESULT STDMETHODCALLTYPE Item(int, PITEMID_CHILD*) override { return answer(ViewCall::Item); }
+    HRESULT STDMETHODCALLTYPE ItemCount(UINT, int*) override { return answer(ViewCall::ItemCount); }
+    HRESULT STDMETHODCALLTYPE Items(UINT, REFIID, void**) override { return answer(ViewCall::Items); }
+    HRESULT STDMETHODCALLTYPE GetSelectionMarkedItem(int*) override { return answer(ViewCall::GetSelectionMarkedItem); }
     HRESULT STDMETHODCALLTYPE GetFocusedItem(int* item) override {
         *item = m_script.focusedItem;
         return m_script.enter(ViewCall::GetFocusedItem);
     }
-    HRESULT STDMETHODCALLTYPE GetItemPosition(PCUITEMID_CHILD, POINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetSpacing(POINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetDefaultSpacing(POINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetAutoArrange() override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SelectItem(int, DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetItemPosition(PCUITEMID_CHILD, POINT*) override {
+        return answer(ViewCall::GetItemPosition);
+    }
+    HRESULT STDMETHODCALLTYPE GetSpacing(POINT*) override { return answer(ViewCall::GetSpacing); }
+    HRESULT STDMETHODCALLTYPE GetDefaultSpacing(POINT*) override { return answer(ViewCall::GetDefaultSpacing); }
+    HRESULT STDMETHODCALLTYPE GetAutoArrange() override { return answer(ViewCall::GetAutoArrange); }
+    HRESULT STDMETHODCALLTYPE SelectItem(int, DWORD) override { return answer(ViewCall::SelectIndex); }
     HRESULT STDMETHODCALLTYPE SelectAndPositionItems(UINT, PCUITEMID_CHILD_ARRAY, POINT*, DWORD) override {
-        return E_NOTIMPL;
+        return answer(ViewCall::SelectAndPositionItems);
     }
 
 private:
+    static const wchar_t* standardClass() {
+        static const ATOM registered = [] {
+            WNDCLASSW look{};
+            look.lpfnWndProc = DefWindowProcW;
+            look.hInstance = GetModuleHandleW(nullptr);
+            look.lpszClassName = L"SHELLDLL_DefView";
+            return RegisterClassW(&look);
+        }();
+        return MAKEINTATOM(registered);
+    }
+
     HRESULT create(IShellView* previous, const FOLDERSETTINGS& settings, IShellBrowser* browser, const RECT& place,
                    HWND* window) {
         m_script.previous = previous;
@@ -187,9 +229,17 @@ private:
         m_script.place = place;
         HWND parent = nullptr;
         browser->GetWindow(&parent);
-        m_window =
-            CreateWindowExW(0, WC_STATICW, L"", WS_CHILD | WS_VISIBLE, place.left, place.top, place.right - place.left,
-                            place.bottom - place.top, parent, nullptr, nullptr, nullptr);
+        *window = nullptr;
+        if (!m_script.makesWindow) {
+            return S_OK;
+        }
+        const wchar_t* const kind = m_script.standardWindow ? standardClass() : WC_STATICW;
+        m_window = CreateWindowExW(0, kind, L"", WS_CHILD | WS_VISIBLE, place.left, place.top, place.right - place.left,
+                                   place.bottom - place.top, parent, nullptr, GetModuleHandleW(nullptr), nullptr);
+        if (m_script.standardWindow) {
+            CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_LIST, 0, 0, 100, 100, m_window, nullptr,
+                            nullptr, nullptr);
+        }
         *window = m_window;
         return S_OK;
     }
@@ -197,23 +247,29 @@ private:
     HWND m_window = nullptr;
 };
 
-class ViewFolder final : public Counted<IShellFolder> {
+class ViewFolder final : public Counted<ViewCall::FolderQueryInterface, IShellFolder> {
 public:
     using Counted::Counted;
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         return give(iid == IID_IShellFolder || iid == IID_IUnknown ? this : nullptr, object);
     }
     HRESULT STDMETHODCALLTYPE ParseDisplayName(HWND, IBindCtx*, LPWSTR, ULONG*, PIDLIST_RELATIVE*, ULONG*) override {
-        return E_NOTIMPL;
+        return answer(ViewCall::FolderParseDisplayName);
     }
-    HRESULT STDMETHODCALLTYPE EnumObjects(HWND, SHCONTF, IEnumIDList**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE EnumObjects(HWND, SHCONTF, IEnumIDList**) override {
+        return answer(ViewCall::FolderEnumObjects);
+    }
     HRESULT STDMETHODCALLTYPE BindToObject(PCUIDLIST_RELATIVE, IBindCtx*, REFIID iid, void** object) override {
-        return QueryInterface(iid, object);
+        *object = nullptr;
+        const HRESULT entered = answer(ViewCall::FolderBindToObject, S_OK);
+        return SUCCEEDED(entered) ? QueryInterface(iid, object) : entered;
     }
     HRESULT STDMETHODCALLTYPE BindToStorage(PCUIDLIST_RELATIVE, IBindCtx*, REFIID, void**) override {
-        return E_NOTIMPL;
+        return answer(ViewCall::FolderBindToStorage);
     }
-    HRESULT STDMETHODCALLTYPE CompareIDs(LPARAM, PCUIDLIST_RELATIVE, PCUIDLIST_RELATIVE) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE CompareIDs(LPARAM, PCUIDLIST_RELATIVE, PCUIDLIST_RELATIVE) override {
+        return answer(ViewCall::FolderCompareIDs, S_OK);
+    }
     HRESULT STDMETHODCALLTYPE CreateViewObject(HWND, REFIID, void** object) override {
         const HRESULT result = m_script.enter(ViewCall::CreateViewObject);
         if (SUCCEEDED(result)) {
@@ -223,24 +279,27 @@ public:
     }
     HRESULT STDMETHODCALLTYPE GetAttributesOf(UINT, PCUITEMID_CHILD_ARRAY, SFGAOF* attributes) override {
         *attributes = m_script.attributes;
-        return S_OK;
+        return answer(ViewCall::FolderGetAttributesOf, S_OK);
     }
     HRESULT STDMETHODCALLTYPE GetUIObjectOf(HWND, UINT, PCUITEMID_CHILD_ARRAY, REFIID, UINT*, void**) override {
-        return E_NOTIMPL;
+        return answer(ViewCall::FolderGetUIObjectOf);
     }
     // The element's payload is its name.
     HRESULT STDMETHODCALLTYPE GetDisplayNameOf(PCUITEMID_CHILD item, SHGDNF, STRRET* name) override {
+        if (const HRESULT entered = answer(ViewCall::FolderGetDisplayNameOf, S_OK); FAILED(entered)) {
+            return entered;
+        }
         name->uType = STRRET_WSTR;
         return SHStrDupW(reinterpret_cast<const wchar_t*>(item->mkid.abID), &name->pOleStr);
     }
     HRESULT STDMETHODCALLTYPE SetNameOf(HWND, PCUITEMID_CHILD, LPCWSTR, SHGDNF, PITEMID_CHILD*) override {
-        return E_NOTIMPL;
+        return answer(ViewCall::FolderSetNameOf);
     }
 };
 
 }  // namespace
 
-HRESULT ViewScript::enter(ViewCall call) {
+HRESULT ViewScript::enter(ViewCall call, HRESULT worked) {
     ++calls[call];
     switch (of(call)) {
         case Conduct::Fails:
@@ -251,7 +310,7 @@ HRESULT ViewScript::enter(ViewCall call) {
         case Conduct::Throws:
             throw std::runtime_error("view");
         default:
-            return S_OK;
+            return worked;
     }
 }
 

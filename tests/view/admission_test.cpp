@@ -4,6 +4,7 @@
 #include "shell/FolderCalls.h"
 #include "support/FakeFolder.h"
 #include "support/Printers.h"
+#include "support/RealNamespace.h"
 #include "support/ScopedTempFolder.h"
 #include "view/FakeView.h"
 
@@ -21,10 +22,6 @@ using namespace knav::test;
 constexpr SFGAOF kFile = SFGAO_FILESYSTEM;
 constexpr SFGAOF kFolder = SFGAO_FOLDER | SFGAO_FILESYSTEM;
 const wchar_t* const kComputersNearMe = L"::{d4480a50-ba28-11d1-8e75-00c04fa31a86}";
-
-ItemList special(int csidl) {
-    return ItemList::adopt(NavGetSpecialFolderItem(nullptr, csidl));
-}
 
 class AdmissionOf : public testing::Test {
 protected:
@@ -144,14 +141,9 @@ TEST_F(AdmissionOf, FilterChangedInPlace_CountsAtOnce) {
 TEST(AdmissionOfShortcuts, Target_Decides) {
     const ScopedTempFolder temp;
     temp.addFolder(L"place");
-    const auto makeLink = [&temp](const wchar_t* name, const CString& target) {
-        const auto link = createInProcess<IShellLinkW>(CLSID_ShellLink);
-        link->SetPath(target);
-        link.as<IPersistFile>()->Save(temp.path(name), TRUE);
-    };
-    makeLink(L"folder.lnk", temp.path(L"place"));
-    makeLink(L"drawing.lnk", temp.addFile(L"a.dwg"));
-    makeLink(L"text.lnk", temp.addFile(L"b.txt"));
+    addShortcut(temp, L"folder.lnk", temp.path(L"place"));
+    addShortcut(temp, L"drawing.lnk", temp.addFile(L"a.dwg"));
+    addShortcut(temp, L"text.lnk", temp.addFile(L"b.txt"));
     temp.addFile(L"damaged.lnk", "no shortcut at all");
 
     CNavFilter drawings;

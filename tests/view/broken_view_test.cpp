@@ -1,9 +1,7 @@
-#include "shell/ExtensionItems.h"
-#include "shell/RegisteredExtensions.h"
 #include "support/ItemLists.h"
 #include "support/ScopedTempFolder.h"
-#include "view/FakeView.h"
 #include "view/ViewHost.h"
+#include "view/ViewStore.h"
 
 #include <gmock/gmock.h>
 
@@ -18,29 +16,16 @@ using testing::ElementsAre;
 // A host that can show an ordinary folder and the root of an extension whose view is a test's.
 class BrokenView : public testing::Test {
 protected:
-    BrokenView() {
-        m_temp.addFile(L"a.dwg");
-        auto* const extension = registeredExtensions().AddData();
-        extension->SetName(L"Store");
-        extension->CreateID();
-        extension->SetRootFolder(makeViewFolder(m_script).get());
-        m_root = ItemList::copyOf(extension->GetID());
-    }
-    ~BrokenView() override { registeredExtensions().RemoveAllData(); }
+    BrokenView() { m_temp.addFile(L"a.dwg"); }
 
-    bool browseStore() { return m_host.browser.BrowseObject(m_root.get(), SBSP_ABSOLUTE) != 0; }
-
-    static ItemList named(const wchar_t* name) {
-        std::string payload(reinterpret_cast<const char*>(name), sizeof(wchar_t) * (wcslen(name) + 1));
-        return makeList({payload});
-    }
+    bool browseStore() { return m_host.browser.BrowseObject(m_store.root(), SBSP_ABSOLUTE) != 0; }
 
     static constexpr std::array kBad{Conduct::Fails, Conduct::Faults, Conduct::Throws};
 
     ScopedTempFolder m_temp;
-    ViewScript m_script;
+    ViewStore m_store;
+    ViewScript& m_script = m_store.script;
     ViewHost m_host;
-    ItemList m_root;
     CNavDataArray m_data;
 };
 
@@ -96,6 +81,48 @@ TEST_F(BrokenView, ViewThatCannotBeMade_LeavesThePreviousOneInPlace) {
     EXPECT_EQ(m_script.liveObjects, 1) << "the folder alone";
 }
 
+int childrenOf(HWND parent) {
+    int count = 0;
+    for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        ++count;
+    }
+    return count;
+}
+
+TEST_F(BrokenView, ViewThatBreaksWhenItsWindowIsThere_LeavesNoWindowOverThePreviousOne) {
+    ASSERT_TRUE(m_host.browse(m_temp.path()));
+    const int before = childrenOf(m_host.owner);
+    for (const bool view2 : {true, false}) {
+        m_script.offersView2 = view2;
+        for (const Conduct conduct : kBad) {
+            for (const Conduct destroying : {Conduct::Works, Conduct::Faults}) {
+                m_script.breaksAfterwards = true;
+                m_script.conduct = {{view2 ? ViewCall::CreateViewWindow2 : ViewCall::CreateViewWindow, conduct},
+                                    {ViewCall::DestroyViewWindow, destroying}};
+                EXPECT_FALSE(browseStore());
+                EXPECT_EQ(childrenOf(m_host.owner), before);
+                EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
+            }
+        }
+        m_script.conduct.clear();
+        m_script.breaksAfterwards = false;
+        m_script.makesWindow = false;
+        EXPECT_FALSE(browseStore()) << "there would be nothing to see";
+        EXPECT_EQ(childrenOf(m_host.owner), before);
+        m_script.makesWindow = true;
+    }
+}
+
+TEST_F(BrokenView, SettingsThatCannotBeRead_AreThoseTheViewWasMadeWith) {
+    ASSERT_TRUE(browseStore());
+    const UINT flags = m_script.settings.fFlags;
+    for (const Conduct conduct : kBad) {
+        m_script.conduct = {{ViewCall::GetCurrentInfo, conduct}};
+        ASSERT_TRUE(browseStore());
+        EXPECT_EQ(m_script.settings.fFlags, flags);
+    }
+}
+
 TEST_F(BrokenView, QueryInterfaceThatMisbehaves_MeansThatThereIsNoSuchInterface) {
     for (const Conduct conduct : kBad) {
         m_script.conduct = {{ViewCall::QueryInterface, conduct}};
@@ -113,11 +140,12 @@ TEST_F(BrokenView, ViewThatMisbehavesLater_CanBeLeft) {
             ASSERT_TRUE(browseStore());
             m_script.conduct = {{call, conduct}};
             m_data.RemoveAllData();
-            m_data.AddData()->SetID(ItemList::copyOf(m_root.get()).release());
+            m_data.AddData()->SetID(ItemList::copyOf(m_store.root()).release());
             m_host.browser.SyncToData(m_data);
             ASSERT_TRUE(m_host.browse(m_temp.path()));
             EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
             EXPECT_EQ(m_script.liveObjects, 1) << "the view is gone, the folder stays";
+            EXPECT_EQ(childrenOf(m_host.owner), 2) << "placeholder and view";
         }
     }
 }
@@ -142,7 +170,7 @@ TEST_F(BrokenView, SelectionThatCannotBeRead_GivesNoItems) {
 
 TEST_F(BrokenView, SelectionInAnExtension_KeepsItsOrderTextsAndLogin) {
     m_script.selection = {L" b ", L"a"};
-    const auto site = ItemList::join(m_root.get(), named(L"site").get());
+    const auto site = ItemList::join(m_store.root(), ViewStore::item(L"site").get());
     ASSERT_TRUE(m_host.browser.BrowseObject(site.get(), SBSP_ABSOLUTE));
     ASSERT_TRUE(m_host.browser.SendSelectionToData(m_data));
     ASSERT_EQ(m_data.GetCount(), 2);
@@ -153,7 +181,7 @@ TEST_F(BrokenView, SelectionInAnExtension_KeepsItsOrderTextsAndLogin) {
     EXPECT_STREQ(first.GetUserName(), L"anna");
     EXPECT_STREQ(first.GetPassword(), L"secret");
     EXPECT_EQ(m_host.browseOwner.askedSite, L"site");
-    EXPECT_THAT(first.GetID(), HoldsSameBytes(ItemList::join(site.get(), named(L" b ").get()).get()));
+    EXPECT_THAT(first.GetID(), HoldsSameBytes(ItemList::join(site.get(), ViewStore::item(L" b ").get()).get()));
     EXPECT_STREQ(m_data.GetData(1)->GetTextInFolder(), L"a");
 
     CString user;
@@ -166,9 +194,9 @@ TEST_F(BrokenView, SelectionInAnExtension_KeepsItsOrderTextsAndLogin) {
 
 TEST_F(BrokenView, SyncToData_DeselectsAllThenSelectsEach) {
     ASSERT_TRUE(browseStore());
-    m_data.AddData()->SetID(named(L"a").release());
+    m_data.AddData()->SetID(ViewStore::item(L"a").release());
     m_data.AddData();
-    m_data.AddData()->SetID(named(L"b").release());
+    m_data.AddData()->SetID(ViewStore::item(L"b").release());
     m_host.browser.SyncToData(m_data);
     ASSERT_EQ(m_script.selected.size(), 3u);
     EXPECT_EQ(m_script.selected[0], std::pair(static_cast<const ITEMIDLIST*>(nullptr), UINT(SVSI_DESELECTOTHERS)));

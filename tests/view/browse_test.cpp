@@ -2,6 +2,7 @@
 #include "shell/ItemList.h"
 #include "shell/ListWalk.h"
 #include "support/ObjectCounts.h"
+#include "support/RealNamespace.h"
 #include "support/ScopedTempFolder.h"
 #include "view/ViewHost.h"
 
@@ -16,16 +17,6 @@ namespace {
 using namespace knav;
 using namespace knav::test;
 using testing::ElementsAre;
-
-ItemList listOf(const CString& path) {
-    return ItemList::adopt(NavGetQualifiedItemListFromFolderFullPath(path));
-}
-
-void makeShortcut(const CString& file, const CString& target) {
-    const auto link = createInProcess<IShellLinkW>(CLSID_ShellLink);
-    link->SetPath(target);
-    link.as<IPersistFile>()->Save(file, TRUE);
-}
 
 class Browse : public testing::Test {
 protected:
@@ -58,7 +49,7 @@ TEST_F(Browse, Absolute_ShowsTheFolderAtThePlaceholderAndTakesItsWindowsOver) {
 
 TEST_F(Browse, RelativeAndParent_LeadFromTheFolderShown) {
     ASSERT_TRUE(m_host.browse(m_folder.path()));
-    const auto inner = listOf(m_folder.path(L"sub"));
+    const auto inner = parsed(m_folder.path(L"sub"));
     const auto relative = ItemList::copyOf(measureList(inner.get()).last);
     ASSERT_TRUE(m_host.browser.BrowseObject(relative.get(), SBSP_RELATIVE));
     EXPECT_THAT(m_host.rows(), ElementsAre(L"inner.dwg"));
@@ -74,7 +65,7 @@ TEST_F(Browse, RelativeAndParent_LeadFromTheFolderShown) {
 }
 
 TEST_F(Browse, ShortcutToFolder_ShowsItsTarget) {
-    makeShortcut(m_folder.path(L"go.lnk"), m_folder.path(L"sub"));
+    addShortcut(m_folder, L"go.lnk", m_folder.path(L"sub"));
     ASSERT_TRUE(m_host.browse(m_folder.path(L"go.lnk")));
     EXPECT_THAT(m_host.rows(), ElementsAre(L"inner.dwg"));
 }
@@ -84,14 +75,14 @@ TEST_F(Browse, FolderThatCannotBeShown_LeavesEverythingAsItWas) {
     const HWND view = m_host.viewHandle();
     m_host.browseOwner.log.clear();
     EXPECT_FALSE(m_host.browser.BrowseObject(nullptr, SBSP_ABSOLUTE));
-    EXPECT_FALSE(m_host.browser.BrowseObject(listOf(m_folder.path()).get(), SBSP_RELATIVE | SBSP_PARENT));
+    EXPECT_FALSE(m_host.browser.BrowseObject(parsed(m_folder.path()).get(), SBSP_RELATIVE | SBSP_PARENT));
     EXPECT_EQ(m_host.viewHandle(), view);
     EXPECT_EQ(m_host.shownPath().CompareNoCase(m_folder.path()), 0);
     EXPECT_THAT(m_host.browseOwner.log, ElementsAre("enter", "leave", "enter", "leave"));
 }
 
 TEST_F(Browse, WithoutOwnerOrPlaceholder_Fails) {
-    const auto list = listOf(m_folder.path());
+    const auto list = parsed(m_folder.path());
     CNavCommDlgBrowser bare;
     EXPECT_FALSE(bare.BrowseObject(list.get(), SBSP_ABSOLUTE));
     EXPECT_FALSE(bare.BrowseCurrentObject());
@@ -124,7 +115,7 @@ TEST_F(Browse, FromInsideAViewNotification_IsGuardedWithoutADialogToo) {
     RestlessBrowser browser;
     browser.SetBuddyWindow(&m_host.buddy);
     browser.SetViewOwnerWindow(&m_host.owner, nullptr);
-    ASSERT_TRUE(browser.BrowseObject(listOf(m_folder.path()).get(), SBSP_ABSOLUTE));
+    ASSERT_TRUE(browser.BrowseObject(parsed(m_folder.path()).get(), SBSP_ABSOLUTE));
     EXPECT_EQ(browser.asked, 4);
     EXPECT_EQ(browser.answer, 1);
     EXPECT_FALSE(NavIsDesktop(browser.GetCurrentObjectID()));
@@ -234,12 +225,12 @@ TEST_F(Browse, ViewCallsFromDefaultCommand_OldViewOutlivesTheCall) {
         bool oldAlive = false;
     } browser;
     browser.view = &m_host;
-    browser.target = listOf(m_folder.path(L"sub"));
+    browser.target = parsed(m_folder.path(L"sub"));
     browser.SetViewWindow(&m_host.viewWindow);
     browser.SetListCtrl(&m_host.listCtrl);
     browser.SetBuddyWindow(&m_host.buddy);
     browser.SetViewOwnerWindow(&m_host.owner, nullptr);
-    ASSERT_TRUE(browser.BrowseObject(listOf(m_folder.path()).get(), SBSP_ABSOLUTE));
+    ASSERT_TRUE(browser.BrowseObject(parsed(m_folder.path()).get(), SBSP_ABSOLUTE));
     const HWND old = m_host.viewHandle();
     m_host.select({L"sub"});
     SendMessageW(m_host.list(), WM_KEYDOWN, VK_RETURN, 0);
