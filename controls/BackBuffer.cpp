@@ -2,16 +2,15 @@
 
 namespace knav {
 
-BackBuffer::BackBuffer(HDC target, const RECT& area)
-    : m_target(target),
-      m_area(area),
-      m_bitmap(CreateCompatibleBitmap(target, area.right - area.left, area.bottom - area.top)),
-      m_memory(m_bitmap ? CreateCompatibleDC(target) : nullptr) {
+// A mirrored window is painted directly: not every system copies a mirrored picture into it the right way round.
+BackBuffer::BackBuffer(HDC target, const RECT& area) : m_target(target), m_area(area) {
+    if (GetLayout(target) & LAYOUT_RTL)
+        return;
+    m_bitmap.reset(CreateCompatibleBitmap(target, area.right - area.left, area.bottom - area.top));
+    m_memory.reset(m_bitmap ? CreateCompatibleDC(target) : nullptr);
     if (!m_memory)
         return;
     SelectObject(m_memory.get(), m_bitmap.get());
-    // Both sides mirrored alike, the copy at the end turns nothing round.
-    SetLayout(m_memory.get(), GetLayout(target));
     SelectObject(m_memory.get(), GetCurrentObject(target, OBJ_FONT));
     SetWindowOrgEx(m_memory.get(), area.left, area.top, nullptr);
 }

@@ -21,9 +21,9 @@ int width(const RECT& rect) {
 int pushButtonThemeState(const ButtonState& state) {
     if (state.disabled)
         return PBS_DISABLED;
-    if (state.pressed || state.dropped)
+    if (state.pressed)
         return PBS_PRESSED;
-    if (state.hot)
+    if (state.hot || state.dropped)  // a pressed part beside one that is not would look like another button
         return PBS_HOT;
     return state.isDefault ? PBS_DEFAULTED : PBS_NORMAL;
 }

@@ -17,6 +17,8 @@ TOOLINFOW ButtonTip::info() const {
 
 void ButtonTip::setText(std::wstring text) {
     m_text = std::move(text);
+    if (!m_text.empty())  // some systems make a tip a little narrower than its text
+        m_text += L' ';
     if (!m_window)
         return;
     TOOLINFOW tool = info();

@@ -3,6 +3,7 @@
 #include "controls/BackBuffer.h"
 #include "controls/ButtonPainter.h"
 #include "controls/ButtonTip.h"
+#include "controls/PaintMessages.h"
 #include "controls/Picture.h"
 
 namespace knav {
@@ -17,6 +18,7 @@ struct ToolButtonFace {
     ButtonTip tip;
     ButtonTheme theme;
     int checked = 0;
+    int directional = 0;
     bool hot = false;
 };
 
@@ -68,6 +70,16 @@ void CNavBitmapButton::SetPictureId(UINT id) {
     Invalidate(FALSE);
 }
 
+int CNavBitmapButton::GetPictureDirectional() const {
+    return m_face->directional;
+}
+
+void CNavBitmapButton::SetPictureDirectional(int directional) {
+    m_face->directional = directional;
+    m_face->loadedSize = 0;
+    Invalidate(FALSE);
+}
+
 const wchar_t* CNavBitmapButton::GetTipText() const {
     return m_face->tipText;
 }
@@ -99,17 +111,9 @@ int CNavBitmapButton::OnAutoLoad() {
 }
 
 LRESULT CNavBitmapButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (const auto painted = answerPaintMessage(m_hWnd, message, wParam, [this](HDC dc) { Paint(dc); }))
+        return *painted;
     switch (message) {
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_PAINT: {
-            const zoui::PaintDC paint(m_hWnd);
-            Paint(paint);
-            return 0;
-        }
-        case WM_PRINTCLIENT:
-            Paint(reinterpret_cast<HDC>(wParam));
-            return 0;
         case WM_LBUTTONDBLCLK:  // every click of a quick series counts
             message = WM_LBUTTONDOWN;
             break;
@@ -195,12 +199,15 @@ void CNavBitmapButton::PaintContent(HDC dc, const RECT& area, const ButtonState&
     if (m_face->pictureId != 0 && m_face->loadedSize != size) {
         m_face->picture = loadPicture(MAKEINTRESOURCEW(m_face->pictureId), size);
         m_face->loadedSize = size;
+        if (m_face->picture && m_face->directional && (GetExStyle() & WS_EX_LAYOUTRTL))
+            m_face->picture->RotateFlip(Gdiplus::RotateNoneFlipX);
     }
     const ButtonCaption caption = m_face->picture ? ButtonCaption{} : captionOf(m_hWnd);
     const SIZE content = m_face->picture ? SIZE{size, size} : sizeOfCaption(dc, caption);
     const ToolButtonParts parts = layOutToolButton(area, content, dpi, HasDropArrow() != 0);
     if (m_face->picture)
-        drawPicture(dc, *m_face->picture, parts.picture, state.disabled ? PictureTone::Faded : PictureTone::Plain);
+        drawPicture(dc, *m_face->picture, parts.picture,
+                    toneOn(GetSysColor(COLOR_BTNFACE), state.disabled ? PictureTone::Faded : PictureTone::Plain));
     else
         paintToolButtonText(dc, parts.picture, caption, state);
     if (HasDropArrow())

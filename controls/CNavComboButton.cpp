@@ -3,6 +3,7 @@
 #include "controls/BackBuffer.h"
 #include "controls/ButtonPainter.h"
 #include "controls/DropMenu.h"
+#include "controls/PaintMessages.h"
 
 using namespace knav;
 
@@ -123,17 +124,9 @@ LRESULT CNavComboButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
         DropMenu(message == WM_KEYDOWN || message == WM_SYSKEYDOWN);
         return 0;
     }
+    if (const auto painted = answerPaintMessage(m_hWnd, message, wParam, [this](HDC dc) { Paint(dc); }))
+        return *painted;
     switch (message) {
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_PAINT: {
-            const zoui::PaintDC paint(m_hWnd);
-            Paint(paint);
-            return 0;
-        }
-        case WM_PRINTCLIENT:
-            Paint(reinterpret_cast<HDC>(wParam));
-            return 0;
         case WM_LBUTTONDBLCLK:  // every click of a quick series counts
             message = WM_LBUTTONDOWN;
             break;
@@ -168,10 +161,10 @@ PushButtonLook CNavComboButton::Look() const {
     look.main.disabled = !IsWindowEnabled();
     look.main.isDefault = (GetStyle() & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
     look.menu = look.main;
-    // The parts belong together: the pointer over one of them lights up both.
-    look.main.hot = look.menu.hot = m_hotPart != NoPart;
+    // The parts belong together: the pointer over one of them, and the open menu, light up both.
+    look.main.hot = look.menu.hot = m_hotPart != NoPart || m_menuOpen;
     look.main.pressed = (SendMessage(BM_GETSTATE) & BST_PUSHED) != 0;
-    look.menu.pressed = m_pressedPart == MenuPart || (look.main.pressed && !look.menuExists);
+    look.menu.pressed = (m_pressedPart == MenuPart && !m_menuOpen) || (look.main.pressed && !look.menuExists);
     look.menu.dropped = m_menuOpen != 0;
     look.main.focusCue = ::GetFocus() == m_hWnd && !(SendMessage(WM_QUERYUISTATE) & UISF_HIDEFOCUS);
     return look;

@@ -10,7 +10,11 @@ void CNavFilterComboBox::FillWithFilterArray(CNavFilterArray& filters) {
         ResetContent();
         CString description;
         for (int index = 0; index < filters.GetCount(); ++index) {
-            filters.GetData(index)->GetFullDescription(description);
+            const CNavFilter* const filter = filters.GetData(index);  // null only if the host put it in
+            if (filter == nullptr) {
+                continue;
+            }
+            filter->GetFullDescription(description);
             if (!description.IsEmpty()) {
                 AddString(description);
             }

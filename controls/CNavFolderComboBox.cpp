@@ -1,6 +1,7 @@
 #include <knav/CNavFolderComboBox.h>
 
-#include "controls/OverlayIcons.h"
+#include "controls/ComboItems.h"
+#include "controls/RowIcons.h"
 #include "data/ApiEdge.h"
 #include "shell/ExtensionItems.h"
 #include "shell/FolderCalls.h"
@@ -34,7 +35,13 @@ void parseNode(CNavPathname& pathname, const CNavNode& node, ITEMIDLIST* list, C
 
 }  // namespace
 
-CNavFolderComboBox::CNavFolderComboBox() : m_overlayIcons(std::make_unique<knav::OverlayIcons>()) {
+CNavFolderComboBox::CNavFolderComboBox()
+    : m_icons(std::make_unique<knav::RowIcons>()), m_items(std::make_unique<knav::ComboItems>()) {
+}
+
+const knav::ComboItems& CNavFolderComboBox::items() const {
+    m_items->of(m_hWnd);
+    return *m_items;
 }
 
 CNavFolderComboBox::~CNavFolderComboBox() = default;
@@ -93,7 +100,7 @@ int CNavFolderComboBox::FindItemByList(ITEMIDLIST* list) {
         if (list == nullptr || !desktop) {
             return -1;
         }
-        for (int index = 0; index < GetCount(); ++index) {
+        for (int index = 0, count = items().count(); index < count; ++index) {
             const CNavNode* const node = GetNode(index);
             const auto other = knav::ItemList::adopt(node != nullptr ? node->CalculateQualifiedItemList() : nullptr);
             if (other && NavCompareFolderItems(desktop.get(), list, other.get()) == 0) {
@@ -110,11 +117,11 @@ int CNavFolderComboBox::FindParentItemIndex(int index) {
     while (parent >= 0 && GetItemIndent(parent) >= indent) {
         --parent;
     }
-    return index >= 0 && index < GetCount() ? parent : -1;
+    return index >= 0 && index < items().count() ? parent : -1;
 }
 
 int CNavFolderComboBox::GetExtensionRootIndex(const wchar_t* extensionName) {
-    for (int index = 0; extensionName != nullptr && index < GetCount(); ++index) {
+    for (int index = 0; extensionName != nullptr && index < items().count(); ++index) {
         const CNavNode* const node = GetNode(index);
         if (node == nullptr || node->GetType() != NavNodeExtensionRoot || *node->GetExtensionName() == L'\0') {
             continue;
@@ -128,7 +135,7 @@ int CNavFolderComboBox::GetExtensionRootIndex(const wchar_t* extensionName) {
 }
 
 CNavNode* CNavFolderComboBox::GetNode(int index) const {
-    return index >= 0 && index < GetCount() ? static_cast<CNavNode*>(GetItemDataPtr(index)) : nullptr;
+    return static_cast<CNavNode*>(items().data(index));
 }
 
 CNavNode* CNavFolderComboBox::GetSelectedNode() const {
@@ -143,9 +150,8 @@ int CNavFolderComboBox::GetItemIndent(int index) const {
 int CNavFolderComboBox::GetItemText(int index, CString& text) const {
     text.Empty();
     return knav::atApiEdge(0, [&] {
-        if ((GetStyle() & CBS_HASSTRINGS) != 0) {
-            GetLBText(index, text);
-        } else if (const CNavNode* const node = GetNode(index)) {
+        const CNavNode* const node = items().text(index, text) ? nullptr : GetNode(index);
+        if (node != nullptr) {
             node->GetNameInFolder(text);
         }
         return text.IsEmpty() ? 0 : 1;

@@ -10,14 +10,25 @@ bool isMirrored(HWND window) {
     return (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
 }
 
+bool isInFarHalf(HWND button, const RECT& at, bool mirrored) {
+    RECT dialog{};
+    GetWindowRect(GetParent(button), &dialog);
+    const bool right = at.left + at.right > dialog.left + dialog.right;
+    return right != mirrored;
+}
+
+// Under the near edge of the button; in the far half of the dialog under the far edge, so that the menu stays inside.
+// For a mirrored menu the system takes the alignments the other way round: "left" is the near edge.
 void trackBelow(HWND button, HMENU popup) {
     TPMPARAMS keepClear{};
     keepClear.cbSize = sizeof keepClear;
     GetWindowRect(button, &keepClear.rcExclude);
+    const RECT& at = keepClear.rcExclude;
     const bool mirrored = isMirrored(button);
-    const UINT flags = TPM_VERTICAL | (mirrored ? TPM_RIGHTALIGN | TPM_LAYOUTRTL : static_cast<UINT>(TPM_LEFTALIGN));
-    TrackPopupMenuEx(popup, flags, mirrored ? keepClear.rcExclude.right : keepClear.rcExclude.left,
-                     keepClear.rcExclude.bottom, GetParent(button), &keepClear);
+    const bool alignFar = isInFarHalf(button, at, mirrored);
+    const UINT flags =
+        TPM_VERTICAL | (alignFar ? TPM_RIGHTALIGN : static_cast<UINT>(TPM_LEFTALIGN)) | (mirrored ? TPM_LAYOUTRTL : 0u);
+    TrackPopupMenuEx(popup, flags, alignFar != mirrored ? at.right : at.left, at.bottom, GetParent(button), &keepClear);
 }
 
 void eatClosingClick(HWND button) {

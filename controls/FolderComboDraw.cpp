@@ -1,8 +1,9 @@
 // Drawing the items of the Look-in combo.
 #include <knav/CNavFolderComboBox.h>
 
+#include "controls/ComboItems.h"
 #include "controls/Dpi.h"
-#include "controls/OverlayIcons.h"
+#include "controls/RowIcons.h"
 #include "data/ApiEdge.h"
 
 #include <platform/GdiOwners.h>
@@ -30,6 +31,11 @@ void CNavFolderComboBox::DrawItem(DRAWITEMSTRUCT* item) {
         return;
     }
     knav::atApiEdge([&] {
+        const zoui::SavedDC saved(item->hDC);
+        if ((GetLayout(item->hDC) & LAYOUT_RTL) != 0) {  // not every system mirrors the clipping of the field too
+            SelectClipRgn(item->hDC, nullptr);
+            IntersectClipRect(item->hDC, item->rcItem.left, item->rcItem.top, item->rcItem.right, item->rcItem.bottom);
+        }
         const bool themed = isPaintedByTheme(*item);
         const bool selected = (item->itemState & ODS_SELECTED) != 0 && !themed;
         const zoui::SelectedObject font(item->hDC, GetFont());
@@ -44,7 +50,9 @@ void CNavFolderComboBox::DrawItem(DRAWITEMSTRUCT* item) {
         place.left = left + m_indentWidth + knav::scaled(2, knav::dpiOf(m_hWnd));
         CString text;
         GetItemText(static_cast<int>(item->itemID), text);
-        DrawTextW(item->hDC, text, text.GetLength(), &place, DT_SINGLELINE | DT_NOPREFIX | DT_VCENTER);
+        // A mirrored context clips a pixel too much of the text's end; the row itself is clipped already.
+        const UINT mirrored = (GetLayout(item->hDC) & LAYOUT_RTL) != 0 ? DT_NOCLIP : 0u;
+        DrawTextW(item->hDC, text, text.GetLength(), &place, DT_SINGLELINE | DT_NOPREFIX | DT_VCENTER | mirrored);
         if ((item->itemState & ODS_FOCUS) != 0) {
             DrawFocusRect(item->hDC, &item->rcItem);
         }
@@ -57,13 +65,15 @@ int CNavFolderComboBox::pictureLeft(const CNavNode& node, bool selectionField) c
 }
 
 void CNavFolderComboBox::drawPicture(const DRAWITEMSTRUCT& item, const CNavNode& node, int left) const {
-    const int top = item.rcItem.top;
-    if (const HICON icon = node.GetIcon()) {
-        DrawIconEx(item.hDC, left, top, icon, m_iconWidth, m_iconHeight, 0, nullptr, DI_NORMAL);
+    const POINT at{left, item.rcItem.top};
+    const SIZE size{m_iconWidth, m_iconHeight};
+    const knav::RowLook& look = m_icons->lookOf(node);
+    if (look.general) {
+        m_icons->draw(item.hDC, *look.general, at, size);
+    } else {
+        knav::drawIcon(item.hDC, look.icon ? look.icon.get() : node.GetIcon(), at, size);
     }
-    if (const auto overlay = m_overlays.find(&node); overlay != m_overlays.end()) {
-        m_overlayIcons->draw(item.hDC, overlay->second, left, top, {m_iconWidth, m_iconHeight});
-    }
+    m_icons->drawOverlay(item.hDC, look.overlay, at, size);
 }
 
 void CNavFolderComboBox::MeasureItem(MEASUREITEMSTRUCT* item) {

@@ -1,7 +1,9 @@
 // Dropping the Look-in combo down, and keeping up with drives that come and go.
 #include <knav/CNavFolderComboBox.h>
 
+#include "controls/ComboItems.h"
 #include "controls/Dpi.h"
+#include "controls/RowIcons.h"
 #include "data/ApiEdge.h"
 #include "shell/ItemList.h"
 
@@ -34,24 +36,31 @@ BOOL CNavFolderComboBox::OnDropDown() {
             fillStandardKeepingSelection();
         }
         widenDroppedList();
+        items().beginDrop();
     });
     return FALSE;
 }
 
 BOOL CNavFolderComboBox::OnCloseUp() {
     m_standardHierarchy = 0;
+    items().endDrop();
     return FALSE;
 }
 
 void CNavFolderComboBox::fillStandardKeepingSelection() {
     CNavNode* const selected = GetSelectedNode();
     const auto list = knav::ItemList::adopt(selected != nullptr ? selected->CalculateQualifiedItemList() : nullptr);
+    auto look = selected != nullptr ? m_icons->lookWithIcon(*selected) : knav::RowLook{};
     FillWithTopLevelFolders(selected);
-    if (GetCount() == 0) {  // without the whole, the chain is better than nothing
+    if (items().count() == 0) {  // without the whole, the chain is better than nothing
         m_standardHierarchy = 0;
         FillToFolder(list.get());
     }
-    SetCurSel(FindItemByList(list.get()));
+    const int index = FindItemByList(list.get());
+    if (const CNavNode* const node = GetNode(index); node != nullptr && selected != nullptr) {
+        m_icons->takeOver(*node, std::move(look));
+    }
+    SetCurSel(index);
 }
 
 void CNavFolderComboBox::widenDroppedList() {
@@ -60,7 +69,7 @@ void CNavFolderComboBox::widenDroppedList() {
     const UINT dpi = knav::dpiOf(m_hWnd);
     int widest = 0;
     CString text;
-    for (int index = 0; index < GetCount(); ++index) {
+    for (int index = 0, count = items().count(); index < count; ++index) {
         const CNavNode* const node = GetNode(index);
         SIZE size{};
         if (node != nullptr && GetItemText(index, text) && GetTextExtentPoint32W(dc, text, text.GetLength(), &size)) {

@@ -1,7 +1,8 @@
 // Mirroring the folder hierarchy into the items of the Look-in combo.
 #include <knav/CNavFolderComboBox.h>
 
-#include "controls/OverlayIcons.h"
+#include "controls/ComboItems.h"
+#include "controls/RowIcons.h"
 #include "data/ApiEdge.h"
 #include "shell/ItemList.h"
 
@@ -37,7 +38,7 @@ private:
 
 void CNavFolderComboBox::clear() {
     ResetContent();
-    m_overlays.clear();
+    m_icons->forgetRows();
 }
 
 void CNavFolderComboBox::FillWithTopLevelFolders(CNavNode* node) {
@@ -80,7 +81,7 @@ int CNavFolderComboBox::FillToFolder(ITEMIDLIST* list) {
             return -1;
         }
         FillFromTree(m_tree);
-        return GetCount() - 1;
+        return items().count() - 1;
     });
 }
 
@@ -100,7 +101,7 @@ void CNavFolderComboBox::FillFromTree(CNavTree& tree) {
 }
 
 void CNavFolderComboBox::FillFromShellNode(CNavNode* node, int indent) {
-    InsertFromShellNode(node, indent, GetCount());
+    InsertFromShellNode(node, indent, items().count());
 }
 
 // A node without a name has no item, and neither has what is below it.
@@ -114,7 +115,7 @@ int CNavFolderComboBox::InsertFromShellNode(CNavNode* node, int indent, int inde
 }
 
 void CNavFolderComboBox::TransferDescendantsToDisplayNode(CNavNode* node, CNavNode* display) {
-    for (int index = 0; index < GetCount(); ++index) {
+    for (int index = 0; index < items().count(); ++index) {
         if (GetNode(index) == display) {
             InsertFromShellNode(node->GetChild(), display->GetIndent() + 1, index + 1);
             return;
@@ -123,7 +124,7 @@ void CNavFolderComboBox::TransferDescendantsToDisplayNode(CNavNode* node, CNavNo
 }
 
 int CNavFolderComboBox::AddNode(CNavNode* node, int indent) {
-    return InsertNode(GetCount(), node, indent);
+    return InsertNode(items().count(), node, indent);
 }
 
 int CNavFolderComboBox::InsertNode(int index, CNavNode* node, int indent) {
@@ -134,27 +135,21 @@ int CNavFolderComboBox::InsertNode(int index, CNavNode* node, int indent) {
 }
 
 int CNavFolderComboBox::AddItem(const wchar_t* text, int indent, CNavNode* node, int overlay) {
-    return InsertItem(GetCount(), text, indent, node, overlay);
+    return InsertItem(items().count(), text, indent, node, overlay);
 }
 
 int CNavFolderComboBox::InsertItem(int index, const wchar_t* text, int indent, CNavNode* node, int overlay) {
     if (node == nullptr) {
         return -1;
     }
-    const bool hasStrings = (GetStyle() & CBS_HASSTRINGS) != 0;
-    const int item =
-        static_cast<int>(SendMessage(CB_INSERTSTRING, static_cast<WPARAM>(index),
-                                     hasStrings ? reinterpret_cast<LPARAM>(text) : reinterpret_cast<LPARAM>(node)));
+    const int item = items().insert(index, text, node);
     if (item < 0) {
         return -1;
-    }
-    if (hasStrings) {
-        SetItemDataPtr(item, node);
     }
     node->SetIndent(indent);
     knav::atApiEdge([&] {
         if (overlay != knav::NoOverlay) {
-            m_overlays.insert_or_assign(node, overlay);
+            m_icons->setOverlay(*node, overlay);
         }
     });
     return item;

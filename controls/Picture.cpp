@@ -1,5 +1,7 @@
 #include "controls/Picture.h"
 
+#include <map>
+#include <tuple>
 #include <vector>
 
 #include <platform/GdiOwners.h>
@@ -51,7 +53,29 @@ void applyMask(Pixels& pixels, HBITMAP maskBitmap) {
         pixels.bits[i] = (mask.bits[i] & 0xFFFFFF) ? 0 : pixels.bits[i] | 0xFF000000;
 }
 
+// None when there is no icon.
+Pixels pixelsOf(HICON icon) {
+    ICONINFO info{};
+    if (!icon || !GetIconInfo(icon, &info))
+        return {};
+    const zoui::UniqueBitmap colour(info.hbmColor);
+    const zoui::UniqueBitmap mask(info.hbmMask);
+    Pixels pixels;
+    if (!readPixels(info.hbmColor, pixels))
+        return {};
+    if (!anyAlpha(pixels))
+        applyMask(pixels, info.hbmMask);
+    return pixels;
+}
+
+Pixels loadIconPixels(HINSTANCE module, const wchar_t* name, int size) {
+    const zoui::UniqueIcon icon(static_cast<HICON>(LoadImageW(module, name, IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+    return pixelsOf(icon.get());
+}
+
 Picture fromPixels(const Pixels& pixels, Gdiplus::PixelFormat format) {
+    if (pixels.bits.empty())
+        return nullptr;
     auto picture = std::make_unique<Gdiplus::Bitmap>(pixels.width, pixels.height, format);
     const Gdiplus::Rect all(0, 0, pixels.width, pixels.height);
     Gdiplus::BitmapData data;
@@ -70,13 +94,42 @@ HINSTANCE moduleOf(HINSTANCE module, const wchar_t* name, const wchar_t* type) {
     return module ? module : AfxFindResourceHandle(name, type);
 }
 
-// The luminance weights of red, green and blue, given to each channel alike.
-Gdiplus::ColorMatrix greyMatrix(float alpha) {
-    constexpr float r = 0.2126f;
-    constexpr float g = 0.7152f;
-    constexpr float b = 0.0722f;
-    return {{{r, r, r, 0, 0}, {g, g, g, 0, 0}, {b, b, b, 0, 0}, {0, 0, 0, alpha, 0}, {0, 0, 0, 0, 1}}};
+// The luminance weights of red, green and blue, given to each channel alike; `light` turns the result round.
+Gdiplus::ColorMatrix greyMatrix(float alpha, bool light) {
+    const float sign = light ? -1.0f : 1.0f;
+    const float r = 0.2126f * sign;
+    const float g = 0.7152f * sign;
+    const float b = 0.0722f * sign;
+    const float from = light ? 1.0f : 0.0f;
+    return {{{r, r, r, 0, 0}, {g, g, g, 0, 0}, {b, b, b, 0, 0}, {0, 0, 0, alpha, 0}, {from, from, from, 0, 1}}};
 }
+
+// Takes the mirroring off a device context for a while. What is drawn then is not turned round, and stands where it
+// would have stood.
+class Unmirrored {
+public:
+    explicit Unmirrored(HDC dc) : m_dc(dc), m_layout(GetLayout(dc)) {}
+    ~Unmirrored() { SetLayout(m_dc, m_layout); }
+    Unmirrored(const Unmirrored&) = delete;
+    Unmirrored& operator=(const Unmirrored&) = delete;
+
+    /// From here on the context is plain; the rectangle in it.
+    RECT rect(RECT mirrored) const {
+        if (!(m_layout & LAYOUT_RTL))
+            return mirrored;
+        auto* const corners = reinterpret_cast<POINT*>(&mirrored);
+        LPtoDP(m_dc, corners, 2);
+        SetLayout(m_dc, 0);
+        DPtoLP(m_dc, corners, 2);
+        if (mirrored.left > mirrored.right)
+            std::swap(mirrored.left, mirrored.right);
+        return mirrored;
+    }
+
+private:
+    const HDC m_dc;
+    const DWORD m_layout;
+};
 
 void treatAsOldKind(Gdiplus::Bitmap& picture, Gdiplus::ImageAttributes& attributes) {
     Gdiplus::Color corner;
@@ -91,9 +144,15 @@ void treatAsOldKind(Gdiplus::Bitmap& picture, Gdiplus::ImageAttributes& attribut
 }  // namespace
 
 Picture loadPicture(const wchar_t* name, int size, HINSTANCE module) {
-    const zoui::UniqueIcon icon(static_cast<HICON>(
-        LoadImageW(moduleOf(module, name, RT_GROUP_ICON), name, IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
-    return pictureOf(icon.get());
+    module = moduleOf(module, name, RT_GROUP_ICON);
+    if (!IS_INTRESOURCE(name))
+        return fromPixels(loadIconPixels(module, name, size), PixelFormat32bppARGB);
+    // Every dialog shows the same few pictures, and to get at the pixels of an icon takes the system long.
+    static std::map<std::tuple<HINSTANCE, const wchar_t*, int>, Pixels> loaded;
+    Pixels& pixels = loaded[{module, name, size}];
+    if (pixels.bits.empty())
+        pixels = loadIconPixels(module, name, size);
+    return fromPixels(pixels, PixelFormat32bppARGB);
 }
 
 Picture loadBitmapPicture(const wchar_t* name, HINSTANCE module) {
@@ -103,17 +162,7 @@ Picture loadBitmapPicture(const wchar_t* name, HINSTANCE module) {
 }
 
 Picture pictureOf(HICON icon) {
-    ICONINFO info{};
-    if (!icon || !GetIconInfo(icon, &info))
-        return nullptr;
-    const zoui::UniqueBitmap colour(info.hbmColor);
-    const zoui::UniqueBitmap mask(info.hbmMask);
-    Pixels pixels;
-    if (!readPixels(info.hbmColor, pixels))
-        return nullptr;
-    if (!anyAlpha(pixels))
-        applyMask(pixels, info.hbmMask);
-    return fromPixels(pixels, PixelFormat32bppARGB);
+    return fromPixels(pixelsOf(icon), PixelFormat32bppARGB);
 }
 
 Picture pictureOf(HBITMAP bitmap) {
@@ -137,21 +186,30 @@ HBITMAP bitmapOf(const Picture& picture) {
     return bitmap;
 }
 
+PictureTone toneOn(COLORREF background, PictureTone tone) {
+    constexpr int kDark = 96;
+    const int luminance = (GetRValue(background) * 54 + GetGValue(background) * 183 + GetBValue(background) * 19) / 256;
+    if (luminance >= kDark)
+        return tone;
+    return tone == PictureTone::Faded || tone == PictureTone::LightFaded ? PictureTone::LightFaded : PictureTone::Light;
+}
+
 void drawPicture(HDC dc, Gdiplus::Bitmap& picture, const RECT& to, PictureTone tone) {
-    const DWORD layout = GetLayout(dc);
-    if (layout & LAYOUT_RTL)
-        SetLayout(dc, layout | LAYOUT_BITMAPORIENTATIONPRESERVED);
+    const Unmirrored plain(dc);
+    const RECT place = plain.rect(to);
     Gdiplus::Graphics graphics(dc);
     graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
     graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
     Gdiplus::ImageAttributes attributes;
     if (tone != PictureTone::Plain) {
-        const Gdiplus::ColorMatrix matrix = greyMatrix(tone == PictureTone::Faded ? 0.45f : 1.0f);
+        const bool faded = tone == PictureTone::Faded || tone == PictureTone::LightFaded;
+        const bool light = tone == PictureTone::Light || tone == PictureTone::LightFaded;
+        const Gdiplus::ColorMatrix matrix = greyMatrix(faded ? 0.45f : 1.0f, light);
         attributes.SetColorMatrix(&matrix);
     }
     if (!(picture.GetPixelFormat() & PixelFormatAlpha))
         treatAsOldKind(picture, attributes);
-    const Gdiplus::Rect target(to.left, to.top, to.right - to.left, to.bottom - to.top);
+    const Gdiplus::Rect target(place.left, place.top, place.right - place.left, place.bottom - place.top);
     graphics.DrawImage(&picture, target, 0, 0, static_cast<INT>(picture.GetWidth()),
                        static_cast<INT>(picture.GetHeight()), Gdiplus::UnitPixel, &attributes);
 }

@@ -30,9 +30,15 @@ HBITMAP bitmapOf(const Picture& picture);
 /// How a picture is drawn.
 enum class PictureTone {
     Plain,
-    Grey,   ///< the same brightness without colour
-    Faded,  ///< grey and half transparent: cannot be used now
+    Grey,        ///< the same brightness without colour
+    Faded,       ///< grey and half transparent: cannot be used now
+    Light,       ///< grey, with dark and light exchanged
+    LightFaded,  ///< the same, half transparent
 };
+
+/// The pictures are drawn for a light background. On a dark one, as in a high contrast scheme, dark and light are
+/// exchanged, so that every part stands out as much as it was meant to.
+PictureTone toneOn(COLORREF background, PictureTone tone);
 
 /// Draws into the device context, scaled to `to`. Mirrored windows show pictures as they are. In a picture without
 /// alpha the colour of the top left pixel is transparent, and black stands for the system's text colour.

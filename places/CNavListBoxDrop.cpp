@@ -8,6 +8,7 @@
 
 #include "places/PlaceRecord.h"
 #include "places/PlacesDropTarget.h"
+#include "places/PlacesHost.h"
 #include "shell/ExtensionItems.h"
 #include "shell/FolderCalls.h"
 #include "shell/TextRules.h"
@@ -79,4 +80,13 @@ int CNavListBox::AddDroppedItem(const ITEMIDLIST* list, POINT point) {
     if (row >= 0)
         changed();
     return row;
+}
+
+int CNavListBox::AddCurrentFolder(POINT point) {
+    const ITEMIDLIST* folder = m_host ? m_host->shownFolder() : nullptr;
+    CString name;
+    if (!folder || !NavGetItemDisplayNameInDesktop(SHGDN_FORPARSING, listArgument(folder), name))
+        return -1;
+    const int present = FindItem(readableName(name));
+    return present >= 0 ? present : AddDroppedItem(folder, point);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <platform/CString.h>
+#include <shlobj.h>
 
 namespace knav {
 
@@ -17,6 +18,9 @@ public:
     virtual bool leavesOutDisabledExtensions() const = 0;
     /// Whether the user removed that extension from the list, in this dialog or another.
     virtual bool isExtensionDeleted(const wchar_t* name) = 0;
+
+    /// Qualified list of the folder that the dialog shows; null when it shows none. It stays the dialog's.
+    virtual ITEMIDLIST* shownFolder() const = 0;
 
 protected:
     ~PlacesHost() = default;

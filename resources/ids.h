@@ -54,6 +54,7 @@
 #define IDM_KNAV_UP 13255
 #define IDM_KNAV_WEB 13256
 #define IDM_KNAV_NEW_FOLDER 13257
+#define IDM_KNAV_FILE_NAME 13258 /* the focus goes to the file name */
 #define IDM_KNAV_DELETE 13259
 #define IDM_KNAV_OPEN_LOOK_IN 13260
 #define IDM_KNAV_REFRESH 13275
@@ -135,6 +136,8 @@
 #define IDS_KNAV_UNSUPPORTED_CHARACTERS 13568  /* "UnsupportedCharacters" of its task dialog */
 #define IDS_KNAV_UNSUPPORTED_FIELD 13569       /* "FieldName" of that task dialog */
 #define IDS_KNAV_NEW_FOLDER_FAILED 13341       /* %1 the folder's name */
+#define IDS_KNAV_FOLDER_NOT_SHOWN 13342        /* %1 the folder's name */
+#define IDS_KNAV_FAVORITE_FAILED 13343         /* %1 the item's name */
 
 /* --- Places: edit dialog and questions ------------------------------------------------------- */
 #define IDD_KNAV_PLACE 13400

@@ -18,12 +18,12 @@
 #define TXT_CANCEL "Cancel"
 #define TXT_BACK "Back"
 #define TXT_UP "Up One Level"
-#define TXT_WEB "Browse the Web"
+#define TXT_WEB "Browse the &Web"
 #define TXT_REFRESH "Refresh"
 #define TXT_DELETE "Delete"
 #define TXT_NEW_FOLDER "New Folder"
-#define TXT_VIEWS "Views"
-#define TXT_TOOLS "Tools"
+#define TXT_VIEWS "&Views"
+#define TXT_TOOLS "Too&ls"
 
 /* Menu of the OK button */
 #define TXT_MENU_OPEN "&Open"
@@ -69,12 +69,12 @@
 #define TXT_TIP_BACK "Back (Alt+Left)"
 #define TXT_TIP_BACK_TO "Back to %1 (Alt+Left)"
 #define TXT_TIP_UP "Up one level (Alt+Up)"
-#define TXT_TIP_WEB "Browse the Web"
+#define TXT_TIP_WEB "Browse the Web (Alt+W)"
 #define TXT_TIP_REFRESH "Refresh (F5)"
 #define TXT_TIP_DELETE "Delete the selected items (Del)"
-#define TXT_TIP_NEW_FOLDER "Create a new folder (Ctrl+Shift+N)"
-#define TXT_TIP_VIEWS "Choose how the folder is shown"
-#define TXT_TIP_TOOLS "More commands"
+#define TXT_TIP_NEW_FOLDER "Create a new folder (Ctrl+N)"
+#define TXT_TIP_VIEWS "Choose how the folder is shown (Alt+V)"
+#define TXT_TIP_TOOLS "More commands (Alt+L)"
 
 /* Names and titles put together with others */
 #define TXT_NEW_FOLDER_NAME "New Folder"
@@ -103,6 +103,8 @@
 #define TXT_TRANSFER_REPORT "These files could not be transferred:"
 #define TXT_FILE_IN_USE "“%1” is in use by another program.\nClose it there, or save under another name."
 #define TXT_NEW_FOLDER_FAILED "The folder “%1” could not be created here.\nCheck that you may change this folder, or go to another one."
+#define TXT_FOLDER_NOT_SHOWN "“%1” cannot be shown.\nIt may have been moved or deleted, or its drive may not be ready."
+#define TXT_FAVORITE_FAILED "“%1” could not be added to the favorites.\nCheck that you may change the Favorites folder."
 
 /* Dialog for a place */
 #define TXT_PLACE_ADD_TITLE "Add Place"

@@ -29,19 +29,19 @@ TEST_P(ButtonLook, state_choosesThePart) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, ButtonLook,
-    testing::Values(
-        StateRow{"at rest", {}, PBS_NORMAL, TS_NORMAL, 0},
-        StateRow{"under the pointer", {.hot = true}, PBS_HOT, TS_HOT, BDR_RAISEDINNER},
-        StateRow{"held down", {.hot = true, .pressed = true}, PBS_PRESSED, TS_PRESSED, BDR_SUNKENOUTER},
-        StateRow{"menu open", {.dropped = true, .isDefault = true}, PBS_PRESSED, TS_PRESSED, BDR_SUNKENOUTER},
-        StateRow{"default", {.isDefault = true}, PBS_DEFAULTED, TS_NORMAL, 0},
-        StateRow{"stays down", {.checked = true}, PBS_NORMAL, TS_CHECKED, BDR_SUNKENOUTER},
-        StateRow{"stays down, hot", {.hot = true, .checked = true}, PBS_HOT, TS_HOTCHECKED, BDR_SUNKENOUTER},
-        StateRow{"disabled whatever else",
-                 {.disabled = true, .hot = true, .pressed = true, .checked = true, .isDefault = true},
-                 PBS_DISABLED,
-                 TS_DISABLED,
-                 0}));
+    testing::Values(StateRow{"at rest", {}, PBS_NORMAL, TS_NORMAL, 0},
+                    StateRow{"under the pointer", {.hot = true}, PBS_HOT, TS_HOT, BDR_RAISEDINNER},
+                    StateRow{"held down", {.hot = true, .pressed = true}, PBS_PRESSED, TS_PRESSED, BDR_SUNKENOUTER},
+                    StateRow{"menu open", {.dropped = true, .isDefault = true}, PBS_HOT, TS_PRESSED, BDR_SUNKENOUTER},
+                    StateRow{"default", {.isDefault = true}, PBS_DEFAULTED, TS_NORMAL, 0},
+                    StateRow{"stays down", {.checked = true}, PBS_NORMAL, TS_CHECKED, BDR_SUNKENOUTER},
+                    StateRow{
+                        "stays down, hot", {.hot = true, .checked = true}, PBS_HOT, TS_HOTCHECKED, BDR_SUNKENOUTER},
+                    StateRow{"disabled whatever else",
+                             {.disabled = true, .hot = true, .pressed = true, .checked = true, .isDefault = true},
+                             PBS_DISABLED,
+                             TS_DISABLED,
+                             0}));
 
 struct HitRow {
     const char* why;

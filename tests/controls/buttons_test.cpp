@@ -4,6 +4,7 @@
 #include <knav/CNavToolsButton.h>
 
 #include "ButtonHost.h"
+#include "controls/Picture.h"
 #include "resources/ids.h"
 #include "support/ObjectCounts.h"
 
@@ -183,6 +184,58 @@ TEST_F(ToolButton, picture_replacesTheTextAndFadesWhenDisabled) {
     CString name;
     m_button.GetWindowText(name);
     EXPECT_EQ(L"&Views", std::wstring(name)) << "the name for assistive tools stays";
+}
+
+TEST(PictureTones, onADarkBackground_darkAndLightAreExchanged) {
+    EXPECT_EQ(PictureTone::Plain, toneOn(RGB(240, 240, 240), PictureTone::Plain));
+    EXPECT_EQ(PictureTone::Faded, toneOn(RGB(255, 255, 255), PictureTone::Faded));
+    EXPECT_EQ(PictureTone::Light, toneOn(RGB(0, 0, 0), PictureTone::Plain));
+    EXPECT_EQ(PictureTone::LightFaded, toneOn(RGB(0, 0, 0), PictureTone::Faded));
+    const GdiPlusSession session;
+    Gdiplus::Bitmap dark(1, 1, PixelFormat32bppARGB);
+    dark.SetPixel(0, 0, Gdiplus::Color(255, 0x20, 0x20, 0x20));
+    const zoui::WindowDC screen(nullptr);
+    const zoui::UniqueMemoryDC dc(CreateCompatibleDC(screen));
+    const zoui::UniqueBitmap bitmap(CreateCompatibleBitmap(screen, 1, 1));
+    const zoui::SelectedObject selected(dc.get(), bitmap.get());
+    drawPicture(dc.get(), dark, {0, 0, 1, 1}, PictureTone::Light);
+    EXPECT_GT(GetRValue(GetPixel(dc.get(), 0, 0)), 0xC0);
+}
+
+// In a mirrored context the picture stands where its rectangle is, and is not turned round.
+TEST(PictureTones, mirroredContext_movesThePictureAndLeavesItAsItIs) {
+    const GdiPlusSession session;
+    Gdiplus::Bitmap picture(2, 1, PixelFormat32bppARGB);
+    picture.SetPixel(0, 0, Gdiplus::Color(255, 255, 0, 0));
+    picture.SetPixel(1, 0, Gdiplus::Color(255, 0, 0, 255));
+    const zoui::WindowDC screen(nullptr);
+    const zoui::UniqueMemoryDC dc(CreateCompatibleDC(screen));
+    const zoui::UniqueBitmap bitmap(CreateCompatibleBitmap(screen, 10, 1));
+    const zoui::SelectedObject selected(dc.get(), bitmap.get());
+    SetLayout(dc.get(), LAYOUT_RTL);
+    drawPicture(dc.get(), picture, {1, 0, 3, 1}, PictureTone::Plain);
+    EXPECT_EQ(LAYOUT_RTL, GetLayout(dc.get()) & LAYOUT_RTL);
+    SetLayout(dc.get(), 0);
+    int red = -1;
+    for (int x = 9; x >= 0; --x) {
+        if (GetRValue(GetPixel(dc.get(), x, 0)) > 128)
+            red = x;
+    }
+    EXPECT_GE(red, 6) << "one from the right end";
+    EXPECT_LE(red, 7);
+    EXPECT_GT(GetBValue(GetPixel(dc.get(), red + 1, 0)), 128) << "blue is still right of red";
+}
+
+TEST_F(ToolButton, directionalPicture_pointsTheOtherWayInAMirroredWindow) {
+    m_button.SetPictureId(IDB_KNAV_BACK);
+    const auto ordinary = paintedBy(m_button);
+    m_button.SetPictureDirectional(1);
+    EXPECT_EQ(ordinary, paintedBy(m_button));
+    m_button.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    m_button.SetPictureDirectional(0);
+    const auto same = paintedBy(m_button);
+    m_button.SetPictureDirectional(1);
+    EXPECT_NE(same, paintedBy(m_button));
 }
 
 TEST_F(ToolButton, pointer_lightsItUpUntilItLeaves) {

@@ -33,6 +33,13 @@ TEST_F(FilterCombo, FilterWithoutText_HasNoItem) {
     EXPECT_THAT(textsOf(m_combo), ElementsAre(L"B"));
 }
 
+TEST_F(FilterCombo, NullInTheArray_HasNoItem) {
+    m_filters.SetFrom(L"A\0*.a\0B\0*.b\0", 1);
+    m_filters.InsertAt(1, static_cast<CNavFilter*>(nullptr));
+    m_combo.FillWithFilterArray(m_filters);
+    EXPECT_THAT(textsOf(m_combo), ElementsAre(L"A", L"B"));
+}
+
 TEST_F(FilterCombo, FillAgain_KeepsTheSelectionAsFarAsItExists) {
     const struct {
         const char* why;

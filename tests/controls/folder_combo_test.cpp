@@ -1,10 +1,12 @@
 #include "controls/ComboHost.h"
+#include "controls/RowIcons.h"
 #include "shell/ComPtr.h"
 #include "shell/ExtensionItems.h"
 #include "shell/ItemList.h"
 #include "shell/RegisteredExtensions.h"
 #include "support/ObjectCounts.h"
 #include "support/Printers.h"
+#include "support/RealNamespace.h"
 #include "support/ScopedTempFolder.h"
 
 #include <gmock/gmock.h>
@@ -21,10 +23,6 @@ namespace {
 using namespace knav;
 using namespace knav::test;
 using testing::ElementsAre;
-
-ItemList listOf(const CString& path) {
-    return ItemList::adopt(NavGetQualifiedItemListFromFolderFullPath(path));
-}
 
 class FolderCombo : public testing::Test {
 protected:
@@ -60,7 +58,7 @@ TEST_F(FolderCombo, AutoLoad_TakesTheSizeOfSmallIcons) {
 }
 
 TEST_F(FolderCombo, FillToFolder_ShowsTheChainEachOneDeeper) {
-    const auto list = listOf(L"C:\\windows\\system32\\drivers");
+    const auto list = parsed(L"C:\\windows\\system32\\drivers");
     EXPECT_EQ(m_combo.FillToFolder(list.get()), 5);
     EXPECT_THAT(indents(), ElementsAre(0, 1, 2, 3, 4, 5));
     EXPECT_EQ(textsOf(m_combo).back(), L"drivers");
@@ -80,7 +78,7 @@ TEST_F(FolderCombo, WrongArguments_GiveNoneOrNothing) {
     m_combo.FillToNode(nullptr);
     EXPECT_EQ(m_combo.GetCount(), 1);
     EXPECT_EQ(m_combo.FindItemByNode(nullptr), -1);
-    EXPECT_EQ(m_combo.FindItemByList(listOf(L"C:\\windows").get()), -1);
+    EXPECT_EQ(m_combo.FindItemByList(parsed(L"C:\\windows").get()), -1);
     EXPECT_EQ(m_combo.FindParentItemIndex(7), -1);
     EXPECT_EQ(m_combo.GetNode(-1), nullptr);
     EXPECT_EQ(m_combo.GetNode(1), nullptr);
@@ -91,7 +89,7 @@ TEST_F(FolderCombo, WrongArguments_GiveNoneOrNothing) {
 }
 
 TEST_F(FolderCombo, StandardHierarchy_RefusesTheChainAndHoldsDrivesAndChain) {
-    const auto list = listOf(m_folder.path(L"one\\two"));
+    const auto list = parsed(m_folder.path(L"one\\two"));
     const int last = m_combo.FillToFolder(list.get());
     m_combo.SetStandardHierarchy(1);
     EXPECT_EQ(m_combo.FillToFolder(list.get()), -1);
@@ -101,13 +99,13 @@ TEST_F(FolderCombo, StandardHierarchy_RefusesTheChainAndHoldsDrivesAndChain) {
     const int found = m_combo.FindItemByList(list.get());
     ASSERT_GT(found, 0);
     EXPECT_EQ(m_combo.GetItemIndent(found), last);
-    const int drive = m_combo.FindItemByList(listOf(L"C:\\").get());
+    const int drive = m_combo.FindItemByList(parsed(L"C:\\").get());
     EXPECT_EQ(m_combo.GetItemIndent(drive), 2);
     EXPECT_EQ(textsOf(m_combo)[static_cast<std::size_t>(m_combo.FindParentItemIndex(found))], L"one");
 }
 
 TEST_F(FolderCombo, DroppingDown_ShowsEverythingAndKeepsTheFolder_ClosingAllowsChainsAgain) {
-    const auto list = listOf(m_folder.path());
+    const auto list = parsed(m_folder.path());
     m_combo.SetCurSel(m_combo.FillToFolder(list.get()));
     const int chain = m_combo.GetCount();
     m_host.window.ShowWindow(SW_SHOW);
@@ -122,11 +120,11 @@ TEST_F(FolderCombo, DroppingDown_ShowsEverythingAndKeepsTheFolder_ClosingAllowsC
     m_combo.ShowDropDown();
     EXPECT_EQ(m_combo.GetNavTree().GetRootNode(), root) << "nothing was read again";
     m_combo.ShowDropDown(FALSE);
-    EXPECT_GT(m_combo.FillToFolder(listOf(L"C:\\windows").get()), 0);
+    EXPECT_GT(m_combo.FillToFolder(parsed(L"C:\\windows").get()), 0);
 }
 
 TEST_F(FolderCombo, GetPathname_GivesThePlaceOfTheSelectedFolder) {
-    m_combo.SetCurSel(m_combo.FillToFolder(listOf(m_folder.path()).get()));
+    m_combo.SetCurSel(m_combo.FillToFolder(parsed(m_folder.path()).get()));
     CNavPathname pathname;
     ASSERT_TRUE(m_combo.GetPathname(pathname));
     CString path;
@@ -196,7 +194,7 @@ TEST_F(FolderCombo, ExtensionRoot_IsFoundByNameInAnyCase) {
 
 TEST_F(FolderCombo, Refresh_FolderStillThere_ReadsItAnewAndKeepsIt) {
     EXPECT_FALSE(m_combo.RefreshFolderInfo(1)) << "nothing selected";
-    m_combo.SetCurSel(m_combo.FillToFolder(listOf(m_folder.path(L"one\\two")).get()));
+    m_combo.SetCurSel(m_combo.FillToFolder(parsed(m_folder.path(L"one\\two")).get()));
     const int selected = m_combo.GetCurSel();
     EXPECT_TRUE(m_combo.RefreshFolderInfo(1));
     EXPECT_EQ(m_combo.GetCurSel(), selected);
@@ -205,7 +203,7 @@ TEST_F(FolderCombo, Refresh_FolderStillThere_ReadsItAnewAndKeepsIt) {
 }
 
 TEST_F(FolderCombo, Refresh_FolderGone_SelectsTheNearestOneAboveAndSaysSo) {
-    const int last = m_combo.FillToFolder(listOf(m_folder.path(L"one\\two")).get());
+    const int last = m_combo.FillToFolder(parsed(m_folder.path(L"one\\two")).get());
     m_combo.SetCurSel(last);
     RemoveDirectoryW(m_folder.path(L"one\\two"));
     RemoveDirectoryW(m_folder.path(L"one"));
@@ -272,7 +270,7 @@ private:
 };
 
 TEST_F(FolderCombo, Draw_ShowsColoursAndIndentation) {
-    m_combo.FillToFolder(listOf(L"C:\\windows").get());
+    m_combo.FillToFolder(parsed(L"C:\\windows").get());
     EXPECT_TRUE(DrawnItem(m_combo, -1, 0).untouched());
     EXPECT_EQ(DrawnItem(m_combo, 0, 0).background(), GetSysColor(COLOR_WINDOW));
     EXPECT_EQ(DrawnItem(m_combo, 0, ODS_SELECTED).background(), GetSysColor(COLOR_HIGHLIGHT));
@@ -284,8 +282,33 @@ TEST_F(FolderCombo, Draw_ShowsColoursAndIndentation) {
     EXPECT_NEAR(DrawnItem(m_combo, 2, ODS_COMBOBOXEDIT).firstInk(), atDesktop + 3, 4);
 }
 
+// The path and the kind of drive alone decide, so that a volume that cannot be reached holds nothing up.
+TEST(RowIcons, GeneralPictures_StandForNetworkAndRemovableVolumes) {
+    struct Row {
+        const wchar_t* path;
+        UINT drive;
+        int expected;  // -1: the location's own
+    };
+    constexpr Row rows[] = {
+        {L"", DRIVE_UNKNOWN, -1},
+        {L"C:\\", DRIVE_FIXED, -1},
+        {L"C:\\plans", DRIVE_FIXED, -1},
+        {L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}", DRIVE_NO_ROOT_DIR, -1},
+        {L"N:\\", DRIVE_REMOTE, SIID_DRIVENET},
+        {L"N:\\plans", DRIVE_REMOTE, SIID_FOLDER},
+        {L"\\\\server\\share", DRIVE_NO_ROOT_DIR, SIID_FOLDER},
+        {L"D:\\", DRIVE_CDROM, SIID_DRIVECD},
+        {L"E:\\", DRIVE_REMOVABLE, SIID_DRIVEREMOVE},
+        {L"E:\\plans", DRIVE_REMOVABLE, SIID_FOLDER},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(generalPicture(row.path, row.drive).value_or(static_cast<SHSTOCKICONID>(-1)), row.expected)
+            << utf8(row.path);
+    }
+}
+
 TEST_F(FolderCombo, FillingAndDropping_LeaksNothing) {
-    const auto list = listOf(m_folder.path());
+    const auto list = parsed(m_folder.path());
     const ObjectCounts growth = growthOver(10, [&] {
         m_combo.SetCurSel(m_combo.FillToFolder(list.get()));
         m_combo.ShowDropDown();

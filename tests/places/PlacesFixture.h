@@ -10,6 +10,7 @@
 
 #include "places/PlacesHost.h"
 #include "places/PlacesOrder.h"
+#include "shell/ItemList.h"
 #include "support/Printers.h"
 #include "support/RegistryRedirect.h"
 #include "support/ScopedTempFolder.h"
@@ -46,6 +47,7 @@ public:
     void placesChanged() override { ++changed; }
     bool leavesOutDisabledExtensions() const override { return false; }
     bool isExtensionDeleted(const wchar_t* name) override { return deleted == name; }
+    ITEMIDLIST* shownFolder() const override { return shown.get(); }
 
     /// The names of the rows.
     std::vector<std::wstring> names() const {
@@ -58,6 +60,7 @@ public:
     CNavListBox list;
     std::map<std::wstring, std::wstring> stored;
     std::wstring deleted;
+    ItemList shown;
     int saved = 0;
     int changed = 0;
     int chosen = 0;

@@ -292,5 +292,15 @@ TEST_F(PlacesModel, droppedItemList_knowsFoldersFromFiles) {
     EXPECT_EQ(-1, m_list.AddDroppedItem(static_cast<const ITEMIDLIST*>(nullptr), POINT{5, 5}));
 }
 
+TEST_F(PlacesModel, currentFolder_isAddedOnce) {
+    EXPECT_EQ(-1, m_list.AddCurrentFolder(POINT{-1, -1})) << "none is shown";
+    m_window.shown = ItemList::adopt(ILCreateFromPathW(m_folder.addFolder(L"plans")));
+    m_list.OnAutoLoad();
+    EXPECT_EQ(4, m_list.AddCurrentFolder(POINT{-1, -1}));
+    EXPECT_EQ(4, m_list.AddCurrentFolder(POINT{5, 5}));
+    EXPECT_EQ(5, m_list.GetCount());
+    EXPECT_EQ(1, m_window.changed);
+}
+
 }  // namespace
 }  // namespace knav::test

@@ -255,8 +255,8 @@ std::optional<int> extraWidth(HWND control) {
     }
 }
 
-// 96, 150 and 192 DPI, by their dialog units.
-constexpr int kPointSizes[] = {9, 14, 18};
+// 96, 117, 149 and 192 DPI, by their dialog units.
+constexpr int kPointSizes[] = {9, 11, 14, 18};
 
 TEST_P(Resources, NoControlIsClippedOrCovered) {
     for (const UINT id : dialogIds()) {
@@ -283,6 +283,14 @@ TEST_P(Resources, NoControlIsClippedOrCovered) {
                 placed.emplace_back(at, name);
             }
         }
+    }
+}
+
+TEST_P(Resources, DialogsAreMirroredWhereTheLanguageIsReadFromTheRight) {
+    for (const UINT id : dialogIds()) {
+        const Dialog dialog(m_module, id, 9);
+        const auto style = GetWindowLongW(dialog.window(), GWL_EXSTYLE);
+        EXPECT_EQ((style & WS_EX_LAYOUTRTL) != 0, GetParam() == L"xr") << id;
     }
 }
 

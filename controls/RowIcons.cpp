@@ -1,0 +1,83 @@
+#include "controls/RowIcons.h"
+
+#include "shell/ItemList.h"
+
+#include <knav/CNavNode.h>
+
+namespace knav {
+
+std::optional<SHSTOCKICONID> generalPicture(std::wstring_view path, UINT driveType) {
+    if (path.starts_with(L"\\\\")) {
+        return SIID_FOLDER;
+    }
+    if (path.size() < 2 || path[1] != L':') {
+        return std::nullopt;
+    }
+    const bool isRoot = path.size() <= 3;
+    switch (driveType) {
+        case DRIVE_REMOTE:
+            return isRoot ? SIID_DRIVENET : SIID_FOLDER;
+        case DRIVE_CDROM:
+            return isRoot ? SIID_DRIVECD : SIID_FOLDER;
+        case DRIVE_REMOVABLE:
+            return isRoot ? SIID_DRIVEREMOVE : SIID_FOLDER;
+        default:
+            return std::nullopt;
+    }
+}
+
+// Found out without touching the location: from its path and the kind of its drive.
+RowLook& RowIcons::lookOf(const CNavNode& node) {
+    RowLook& look = m_looks[&node];
+    if (!look.known) {
+        look.known = true;
+        const auto list = ItemList::adopt(node.CalculateQualifiedItemList());
+        wchar_t path[MAX_PATH] = L"";
+        if (list && SHGetPathFromIDListW(list.get(), path)) {
+            const wchar_t root[] = {path[0], L':', L'\\', 0};
+            look.general = generalPicture(path, GetDriveTypeW(root));
+        }
+    }
+    return look;
+}
+
+RowLook RowIcons::lookWithIcon(const CNavNode& node) {
+    RowLook look;
+    look.known = true;
+    look.general = lookOf(node).general;
+    if (!look.general) {
+        look.icon.reset(CopyIcon(node.GetIcon()));
+    }
+    return look;
+}
+
+void RowIcons::takeOver(const CNavNode& node, RowLook look) {
+    RowLook& own = m_looks[&node];
+    look.overlay = own.overlay;
+    own = std::move(look);
+}
+
+void RowIcons::drawOverlay(HDC dc, int overlay, POINT at, SIZE size) {
+    if (overlay == SharedOverlay || overlay == LinkOverlay) {
+        draw(dc, overlay == LinkOverlay ? SIID_LINK : SIID_SHARE, at, size);
+    }
+}
+
+void RowIcons::draw(HDC dc, SHSTOCKICONID id, POINT at, SIZE size) {
+    const auto [icon, isNew] = m_icons.try_emplace(id);
+    SHSTOCKICONINFO info{};
+    info.cbSize = sizeof(info);
+    if (isNew && SUCCEEDED(SHGetStockIconInfo(id, SHGSI_ICON | SHGSI_SMALLICON, &info))) {
+        icon->second.reset(info.hIcon);
+    }
+    drawIcon(dc, icon->second.get(), at, size);
+}
+
+void drawIcon(HDC dc, HICON icon, POINT at, SIZE size) {
+    const UINT mirrored = (GetLayout(dc) & LAYOUT_RTL) != 0 ? DI_NOMIRROR : 0u;
+    if (icon) {
+        DrawIconEx(dc, at.x, at.y, icon, size.cx, size.cy, 0, nullptr, DI_NORMAL | mirrored);
+    }
+}
+
+}  // namespace knav
