@@ -4,8 +4,8 @@
 #include <knav/NavFolders.h>
 #include <platform/WindowMessages.h>
 
+#include "data/ApiEdge.h"
 #include "dialog/CNavDialogImp.h"
-#include "dialog/NameRules.h"
 #include "dialog/ResourceModule.h"
 #include "resources/ids.h"
 
@@ -32,7 +32,7 @@ ON_REGISTERED_MESSAGE(CNavDialogImp::s_ownMessage, &CNavDialog::OnImpMessage)
 END_MESSAGE_MAP()
 
 CNavDialog::CNavDialog(CNavDataArray& data, CNavFilterArray& filters, UINT idd, CWnd* parent, HINSTANCE instance)
-    : CZoUiDialog(idd == 0 ? IDD_KNAV : idd, parent, idd == 0 ? knav::resourceModule() : instance),
+    : CZoUiDialog(idd == 0 ? IDD_KNAV : idd, parent, idd == 0 ? knav::templateModule() : instance),
       m_imp(new CNavDialogImp(data, filters, idd == 0 ? IDD_KNAV : idd, *this)) {
 }
 
@@ -43,13 +43,19 @@ CNavDialog::~CNavDialog() {
 // --- the framework ---------------------------------------------------------------------------------------------------
 
 INT_PTR CNavDialog::DoModal() {
-    return m_imp->runModal();
+    return knav::atApiEdge(kDialogFailed, [this] { return m_imp->runModal(); });
 }
 
 BOOL CNavDialog::OnInitDialog() {
-    m_imp->initializeOle();
-    CZoUiDialog::OnInitDialog();
-    m_imp->InitializeDialogData();
+    const bool ready = knav::atApiEdge(false, [this] {
+        m_imp->initializeOle();
+        CZoUiDialog::OnInitDialog();
+        m_imp->InitializeDialogData();
+        return true;
+    });
+    if (!ready) {
+        EndDialog(kDialogFailed);
+    }
     return FALSE;  // the dialog has set the focus itself
 }
 
@@ -59,29 +65,32 @@ void CNavDialog::DoDataExchange(CDataExchange* exchange) {
 }
 
 BOOL CNavDialog::PreTranslateMessage(MSG* message) {
-    return m_imp->PreTranslateMessage(message) || CZoUiDialog::PreTranslateMessage(message);
+    return knav::atApiEdge(FALSE, [&] { return m_imp->PreTranslateMessage(message); }) ||
+           CZoUiDialog::PreTranslateMessage(message);
 }
 
 void CNavDialog::OnOK() {
-    m_imp->okButton().ClearState();
-    m_imp->OnOK();
+    knav::atApiEdge([this] {
+        m_imp->okButton().ClearState();
+        m_imp->OnOK();
+    });
 }
 
 void CNavDialog::OnCancel() {
-    m_imp->OnCancel();
+    knav::atApiEdge([this] { m_imp->OnCancel(); });
 }
 
 ZOUI_REPLY CNavDialog::OnNotifyControlChange(unsigned int id, __int64 code) {
-    return m_imp->OnNotifyControlChange(id, code);
+    return knav::atApiEdge(ZOUI_REPLY_NOT_HANDLED, [&] { return m_imp->OnNotifyControlChange(id, code); });
 }
 
 ZOUI_REPLY CNavDialog::OnNotifyGeneric(unsigned int code, __int64 parameter) {
-    return m_imp->OnNotifyGeneric(code, parameter);
+    return knav::atApiEdge(ZOUI_REPLY_NOT_HANDLED, [&] { return m_imp->OnNotifyGeneric(code, parameter); });
 }
 
 BOOL CNavDialog::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) {
     // The implementation sees every command first; what the host's class makes of it does not depend on that.
-    m_imp->OnCmdMsg(id, code, extra, info);
+    knav::atApiEdge([&] { m_imp->OnCmdMsg(id, code, extra, info); });
     return CZoUiDialog::OnCmdMsg(id, code, extra, info);
 }
 
@@ -91,12 +100,12 @@ void CNavDialog::OnSysColorChange() {
 }
 
 void CNavDialog::OnDestroy() {
-    m_imp->OnDestroy();
+    knav::atApiEdge([this] { m_imp->OnDestroy(); });
     CZoUiDialog::OnDestroy();
 }
 
 BOOL CNavDialog::OnHelpInfo(HELPINFO* info) {
-    return m_imp->OnHelpInfo(info);
+    return knav::atApiEdge(FALSE, [&] { return m_imp->OnHelpInfo(info); });
 }
 
 LRESULT CNavDialog::OnKickIdle(WPARAM wParam, LPARAM lParam) {
@@ -109,7 +118,7 @@ void CNavDialog::OnContextMenu(CWnd*, POINT point) {
 
 void CNavDialog::OnSize(UINT type, int cx, int cy) {
     CZoUiDialog::OnSize(type, cx, cy);
-    m_imp->OnSize(cx, cy);
+    knav::atApiEdge([&] { m_imp->OnSize(cx, cy); });
 }
 
 void CNavDialog::OnGetMinMaxInfo(MINMAXINFO* info) {
@@ -121,10 +130,10 @@ LRESULT CNavDialog::OnWmGetIShellBrowser(WPARAM, LPARAM) {
 }
 
 LRESULT CNavDialog::OnWmDeviceChange(WPARAM, LPARAM) {
-    return m_imp->OnDeviceChange();
+    return knav::atApiEdge(LRESULT{1}, [this] { return m_imp->OnDeviceChange(); });
 }
 
 LRESULT CNavDialog::OnImpMessage(WPARAM wParam, LPARAM) {
-    m_imp->OnOwnMessage(static_cast<CNavDialogImp::OwnMessage>(wParam));
+    knav::atApiEdge([&] { m_imp->OnOwnMessage(static_cast<CNavDialogImp::OwnMessage>(wParam)); });
     return 0;
 }

@@ -3,6 +3,7 @@
 #include <knav/NavUrl.h>
 #include <platform/CMenu.h>
 
+#include "data/ApiEdge.h"
 #include "dialog/CNavDialogImp.h"
 #include "resources/ids.h"
 
@@ -10,23 +11,23 @@ void CNavDialog::OnDialogHelp() {
 }
 
 int CNavDialog::SetAllDialogsData(const CString& name, unsigned long value) {
-    return m_imp->setAllDialogsData(name, value);
+    return knav::atApiEdge(0, [&] { return m_imp->setAllDialogsData(name, value); });
 }
 
 int CNavDialog::SetAllDialogsData(const CString& name, const CString& value) {
-    return m_imp->setAllDialogsData(name, value);
+    return knav::atApiEdge(0, [&] { return m_imp->setAllDialogsData(name, value); });
 }
 
 int CNavDialog::GetAllDialogsData(const CString& name, unsigned long& value) {
-    return m_imp->getAllDialogsData(name, value);
+    return knav::atApiEdge(0, [&] { return m_imp->getAllDialogsData(name, value); });
 }
 
 int CNavDialog::GetAllDialogsData(const CString& name, CString& value) {
-    return m_imp->getAllDialogsData(name, value);
+    return knav::atApiEdge(0, [&] { return m_imp->getAllDialogsData(name, value); });
 }
 
 void CNavDialog::LocateFile() {
-    m_imp->LocateFile();
+    knav::atApiEdge([&] { m_imp->LocateFile(); });
 }
 
 int CNavDialog::GetProductName(CString& name) {
@@ -54,39 +55,39 @@ void CNavDialog::PrepareOkMenu(CMenu* menu) {
 }
 
 void CNavDialog::PrepareToolsMenu(CMenu* menu) {
-    m_imp->PrepareToolsMenu(menu);
+    knav::atApiEdge([&] { m_imp->PrepareToolsMenu(menu); });
 }
 
 void CNavDialog::PrepareViewsMenu(CMenu* menu) {
-    m_imp->PrepareViewsMenu(menu);
+    knav::atApiEdge([&] { m_imp->PrepareViewsMenu(menu); });
 }
 
 OkHandlerErr CNavDialog::PreprocessData(CNavDataArray& data) {
-    return m_imp->PreprocessData(data);
+    return knav::atApiEdge(OkErrInvalidName, [&] { return m_imp->PreprocessData(data); });
 }
 
 OkHandlerErr CNavDialog::CombineDataTextWithFolderName(CNavData* item, CString& text) {
-    return m_imp->CombineDataTextWithFolderName(item, text);
+    return knav::atApiEdge(OkErrInvalidName, [&] { return m_imp->CombineDataTextWithFolderName(item, text); });
 }
 
 int CNavDialog::UpdateFileExtension(CString& name, int replace) {
-    return m_imp->UpdateFileExtension(name, replace);
+    return knav::atApiEdge(0, [&] { return m_imp->UpdateFileExtension(name, replace); });
 }
 
 int CNavDialog::OnFileNameOK() {
-    return m_imp->OnFileNameOK();
+    return knav::atApiEdge(0, [&] { return m_imp->OnFileNameOK(); });
 }
 
 int CNavDialog::VerifyURLSave() {
-    return m_imp->VerifyURLSave();
+    return knav::atApiEdge(0, [&] { return m_imp->VerifyURLSave(); });
 }
 
 int CNavDialog::OnUrlOK() {
-    return m_imp->OnUrlOK();
+    return knav::atApiEdge(0, [&] { return m_imp->OnUrlOK(); });
 }
 
 int CNavDialog::ReportURLTransferStatus(CDWordArray& codes, CStringArray& urls, CStringArray& files) {
-    return m_imp->ReportURLTransferStatus(codes, urls, files);
+    return knav::atApiEdge(0, [&] { return m_imp->ReportURLTransferStatus(codes, urls, files); });
 }
 
 int CNavDialog::GetRecentDirectory(CString& folder) {
@@ -95,15 +96,15 @@ int CNavDialog::GetRecentDirectory(CString& folder) {
 }
 
 int CNavDialog::FindInSearchPath(const wchar_t* name, CString* found) {
-    return m_imp->FindInSearchPath(name, found);
+    return knav::atApiEdge(0, [&] { return m_imp->FindInSearchPath(name, found); });
 }
 
 void CNavDialog::DisplaySearchError(const wchar_t* name) {
-    m_imp->DisplaySearchError(name);
+    knav::atApiEdge([&] { m_imp->DisplaySearchError(name); });
 }
 
 void CNavDialog::GetDefaultBrowserStartURL(CString& url) {
-    url = L"https://www.kelvara.example/";
+    knav::atApiEdge([&] { url = L"https://www.kelvara.example/"; });
 }
 
 int CNavDialog::LaunchBrowserDialog(CString&, const wchar_t*, const wchar_t*, const wchar_t* url) {
@@ -119,41 +120,45 @@ void CNavDialog::OnDoLocate() {
 }
 
 void CNavDialog::OnDoFind() {
-    m_imp->OnDoFind();
+    knav::atApiEdge([&] { m_imp->OnDoFind(); });
 }
 
 void CNavDialog::OnDoAddToFavorites(int command) {
-    m_imp->OnDoAddToFavorites(command);
+    knav::atApiEdge([&] { m_imp->OnDoAddToFavorites(command); });
 }
 
 void CNavDialog::Refresh() {
-    m_imp->Refresh();
+    knav::atApiEdge([&] { m_imp->Refresh(); });
 }
 
 void CNavDialog::OnFileNameChange() {
-    m_imp->OnFileNameChange();
+    knav::atApiEdge([&] { m_imp->OnFileNameChange(); });
 }
 
 void CNavDialog::OnFileNameSelectionChange() {
-    m_imp->OnFileNameSelectionChange();
+    knav::atApiEdge([&] { m_imp->OnFileNameSelectionChange(); });
 }
 
 void CNavDialog::OnFilterChange() {
-    m_imp->OnFilterChange();
+    knav::atApiEdge([&] { m_imp->OnFilterChange(); });
 }
 
 void CNavDialog::OnFolderItemChange() {
-    m_imp->SyncEditFieldToBrowser();
+    knav::atApiEdge([&] { m_imp->SyncEditFieldToBrowser(); });
 }
 
 void CNavDialog::OnFolderChange() {
-    m_imp->OnFolderChange();
+    knav::atApiEdge([&] { m_imp->OnFolderChange(); });
 }
 
 void CNavDialog::UpdateUIState() {
-    m_imp->UpdateUIState();
+    knav::atApiEdge([&] { m_imp->UpdateUIState(); });
 }
 
 void CNavDialog::OnPlacesChanged() {
-    m_imp->OnSelChangePlacesList();
+    knav::atApiEdge([&] { m_imp->OnSelChangePlacesList(); });
+}
+
+int CNavDialog::LeavesOutDisabledExtensions() const {
+    return m_imp->leavesOutDisabledExtensions();
 }

@@ -7,7 +7,6 @@
 #include <platform/RegisteredMessage.h>
 #include <platform/Resources.h>
 
-#include "dialog/CNavEnumString.h"
 #include "dialog/ResourceModule.h"
 #include "resources/ids.h"
 #include "shell/Guard.h"
@@ -42,13 +41,18 @@ private:
 
 BEGIN_MESSAGE_MAP(CNavDialogImp, CCmdTarget)
 ON_CONTROL(CBN_SELENDOK, IDC_KNAV_LOOK_IN, &CNavDialogImp::OnLookInSelEnd)
+ON_CONTROL(CBN_SELENDCANCEL, IDC_KNAV_LOOK_IN, &CNavDialogImp::OnLookInSelCancel)
 ON_CONTROL(CBN_EDITCHANGE, IDC_KNAV_FILE_NAME, &CNavDialogImp::OnFileNameEdit)
 ON_CONTROL(CBN_SELCHANGE, IDC_KNAV_FILE_NAME, &CNavDialogImp::OnFileNameSelected)
+ON_CONTROL(CBN_KILLFOCUS, IDC_KNAV_FILE_NAME, &CNavDialogImp::OnFileNameComboKillFocus)
 ON_CONTROL(CBN_SELENDOK, IDC_KNAV_FILE_TYPE, &CNavDialogImp::OnFileTypeSelected)
 ON_CONTROL(LBN_SELCHANGE, IDC_KNAV_PLACES, &CNavDialogImp::OnPlacesSelected)
 ON_COMMAND(IDM_KNAV_OPEN, &CNavDialogImp::OnOpenMenuOpen)
 ON_COMMAND(IDM_KNAV_OPEN_READ_ONLY, &CNavDialogImp::OnOpenMenuOpenReadOnly)
+ON_COMMAND(IDM_KNAV_FIND, &CNavDialogImp::OnFind)
 ON_COMMAND(IDM_KNAV_LOCATE, &CNavDialogImp::OnLocate)
+ON_COMMAND(IDM_KNAV_FTP_LOCATIONS, &CNavDialogImp::OnFTPConfig)
+ON_COMMAND(IDM_KNAV_ADD_TO_PLACES, &CNavDialogImp::AddToPlaces)
 ON_COMMAND_RANGE(IDM_KNAV_LIST, IDM_KNAV_DETAILS, &CNavDialogImp::OnViewMode)
 ON_COMMAND(IDM_KNAV_THUMBNAILS, &CNavDialogImp::OnViewMode)
 ON_COMMAND_RANGE(IDM_KNAV_FAVORITE_ITEM, IDM_KNAV_FAVORITE_FOLDER, &CNavDialogImp::OnAddFavorite)
@@ -64,15 +68,11 @@ ON_COMMAND(IDM_KNAV_NEW_FOLDER, &CNavDialogImp::CmdNewFolder)
 ON_COMMAND(IDC_KNAV_NEW_FOLDER, &CNavDialogImp::CmdNewFolder)
 ON_COMMAND(IDM_KNAV_OPEN_LOOK_IN, &CNavDialogImp::OpenFolderCombo)
 ON_COMMAND(IDM_KNAV_REFRESH, &CNavDialogImp::OnRefresh)
+ON_COMMAND(IDM_KNAV_FILE_NAME, &CNavDialogImp::OnFocusFileName)
 END_MESSAGE_MAP()
 
 CNavDialogImp::CNavDialogImp(CNavDataArray& data, CNavFilterArray& filters, UINT idd, CNavDialog& facade)
-    : m_facade(facade),
-      m_data(data),
-      m_filters(filters),
-      m_templateId(idd),
-      m_listInUse(&m_listCtrl),
-      m_navUi(std::make_unique<NavUi>(*this)) {
+    : m_facade(facade), m_data(data), m_filters(filters), m_templateId(idd), m_navUi(std::make_unique<NavUi>(*this)) {
     EnableAutomation();
     m_fileName.SetContext(this);
     m_places.SetHost(this);
@@ -108,10 +108,14 @@ INT_PTR CNavDialogImp::runModal() {
 /// The dialog may run more than once; each run starts afresh.
 void CNavDialogImp::resetRun() {
     m_data.RemoveAllData();
+    m_policies = {};
+    m_currentFilter = &m_noFilter;  // the host may have other file types by now
+    m_browser.SetCurrentFilter(nullptr);
     m_browser.SetCurrentObjectID(nullptr);
     m_options.readOnlySpecified = 0;
     m_enterHeldSinceStart = true;
-    m_closing = false;
+    m_started = false;
+    m_ok.closing = false;
     m_fileNameEditDirty = false;
     m_nameCameFromSelection = false;
     m_placesListDirty = false;
@@ -154,6 +158,7 @@ void CNavDialogImp::DoDataExchange(CDataExchange* exchange) {
     if (first) {
         captureLayout();
         startPictures();
+        keepNamesLeftToRight();
     }
 }
 
@@ -161,8 +166,8 @@ BOOL CNavDialogImp::PreTranslateMessage(MSG* message) {
     if (message->message < WM_KEYFIRST || message->message > WM_KEYLAST) {
         return FALSE;
     }
-    return swallowHeldEnter(*message) || keepForLabelEdit(*message) || translateForView(*message) ||
-           translateAccelerator(*message);
+    return swallowHeldEnter(*message) || keepForLabelEdit(*message) || goUpFromView(*message) ||
+           translateForView(*message) || translateAccelerator(*message);
 }
 
 /// The Enter that opened this dialog may still be held down, and repeats; it was not meant for this dialog.
@@ -188,6 +193,15 @@ bool CNavDialogImp::keepForLabelEdit(MSG& message) {
     return true;
 }
 
+bool CNavDialogImp::goUpFromView(const MSG& message) {
+    const bool isBackspace = message.message == WM_KEYDOWN && message.wParam == VK_BACK;
+    if (!isBackspace || message.hwnd != m_listInUse->GetSafeHwnd()) {
+        return false;
+    }
+    CmdUpOneDir();
+    return true;
+}
+
 bool CNavDialogImp::translateForView(MSG& message) {
     IShellView* view = m_browser.GetCurrentShellView();
     if (!view || !m_viewWindow.GetSafeHwnd() || !m_viewWindow.IsChild(message.hwnd)) {
@@ -196,7 +210,19 @@ bool CNavDialogImp::translateForView(MSG& message) {
     return knav::guarded([&] { return view->TranslateAccelerator(&message); }) == S_OK;
 }
 
+/// While a list is dropped down, the keys are for it: Alt+Up closes it, F4 too. F4 on a button with a menu opens that.
 bool CNavDialogImp::translateAccelerator(MSG& message) {
+    const HWND at = message.message == WM_KEYDOWN && message.wParam == VK_F4 ? message.hwnd : nullptr;
+    if (at && (at == m_viewsButton.m_hWnd || at == m_toolsButton.m_hWnd ||
+               (at == m_okButton.m_hWnd && m_okButton.GetMenuExists()))) {
+        return false;
+    }
+    for (const CComboBox* combo : {static_cast<CComboBox*>(&m_lookIn), static_cast<CComboBox*>(&m_fileName),
+                                   static_cast<CComboBox*>(&m_fileType)}) {
+        if (combo->m_hWnd && combo->GetDroppedState()) {
+            return false;
+        }
+    }
     return m_accelerators && TranslateAcceleratorW(m_facade.GetSafeHwnd(), m_accelerators, &message);
 }
 
@@ -221,8 +247,8 @@ void CNavDialogImp::postToSelf(OwnMessage message) {
 
 void CNavDialogImp::OnOwnMessage(OwnMessage message) {
     m_postedMessages &= ~(1u << static_cast<unsigned>(message));
-    if (m_inOk) {
-        m_selectionMissed = m_selectionMissed || message == OwnMessage::SyncSelection;
+    if (m_ok.running) {
+        m_ok.selectionMissed = m_ok.selectionMissed || message == OwnMessage::SyncSelection;
         return;
     }
     switch (message) {
@@ -235,13 +261,30 @@ void CNavDialogImp::OnOwnMessage(OwnMessage message) {
             m_facade.OnOK();
             break;
         case OwnMessage::FollowLookIn:
-            SyncListToComboBox();
+            followLookIn();
+            break;
+        case OwnMessage::RestoreLookIn:
+            restoreLookIn();
+            break;
+        case OwnMessage::ShowTypedName:
+            showTypedName();
             break;
     }
 }
 
 void CNavDialogImp::OnLookInSelEnd() {
     postToSelf(OwnMessage::FollowLookIn);
+}
+
+/// Moving through the dropped list moves its selection; given up, it goes back to the folder that is shown.
+void CNavDialogImp::OnLookInSelCancel() {
+    postToSelf(OwnMessage::RestoreLookIn);
+}
+
+void CNavDialogImp::OnFileNameComboKillFocus() {
+    if (m_fileNameEditDirty) {
+        postToSelf(OwnMessage::ShowTypedName);
+    }
 }
 
 void CNavDialogImp::OnFileNameEdit() {
@@ -260,10 +303,7 @@ void CNavDialogImp::OnFileTypeSelected() {
 
 void CNavDialogImp::OnDestroy() {
     closeView();
-    m_completions.reset();
-    m_currentDirectory.reset();
-    m_completionList.reset();
-    m_autoComplete.reset();
+    m_completion.end();
     m_previous.clear();
     m_postedMessages = 0;
 }
@@ -291,8 +331,13 @@ LRESULT CNavDialogImp::OnDeviceChange() {
     return 1;
 }
 
-LRESULT CNavDialogImp::OnKickIdle(WPARAM, LPARAM) {
-    return 0;
+/// The first idle moment comes with the first paint; the second one when nobody waits for anything else.
+LRESULT CNavDialogImp::OnKickIdle(WPARAM, LPARAM count) {
+    renameNewFolder();
+    if (!m_started && count > 0) {
+        finishStart();
+    }
+    return !m_started;
 }
 
 BOOL CNavDialogImp::OnHelpInfo(HELPINFO*) {

@@ -2,35 +2,24 @@
 // sources named after what they do; their rules stand beside them as functions without windows.
 #pragma once
 
-#include <knav/CNavBitmapButton.h>
 #include <knav/CNavButtonMenuSource.h>
-#include <knav/CNavComboButton.h>
-#include <knav/CNavCommDlgBrowser.h>
-#include <knav/CNavCommDlgBuddy.h>
-#include <knav/CNavCommDlgView.h>
 #include <knav/CNavDialog.h>
-#include <knav/CNavFileNameComboBox.h>
 #include <knav/CNavFilter.h>
 #include <knav/CNavFilterArray.h>
-#include <knav/CNavFilterComboBox.h>
-#include <knav/CNavFolderComboBox.h>
-#include <knav/CNavListBox.h>
-#include <knav/CNavListCtrl.h>
 #include <knav/CNavPathname.h>
-#include <knav/CNavToolsButton.h>
 #include <knav/IKNavUI.h>
-#include <platform/CButton.h>
 #include <platform/CCmdTarget.h>
-#include <platform/CStatic.h>
-#include <platform/OleScope.h>
 
-#include <deque>
 #include <memory>
 #include <optional>
 
 #include "controls/FileNameContext.h"
+#include "dialog/BackHistory.h"
+#include "dialog/DialogControls.h"
 #include "dialog/DialogLayout.h"
 #include "dialog/DialogOptions.h"
+#include "dialog/FileNameCompletion.h"
+#include "dialog/OkState.h"
 #include "places/PlacesHost.h"
 #include "shell/ComPtr.h"
 #include "shell/ItemList.h"
@@ -38,16 +27,15 @@
 
 class CNavDataArray;
 
-class CNavEnumString;
-
 class CNavDialogImp final : public CCmdTarget,
+                            private knav::DialogControls,
                             public CNavButtonMenuSource,
                             public knav::BrowseOwner,
                             public knav::FileNameContext,
                             public knav::PlacesHost {
 public:
     /// Work that must wait until the handler that asked for it has returned.
-    enum class OwnMessage { SyncSelection, RunOk, FollowLookIn };
+    enum class OwnMessage { SyncSelection, RunOk, FollowLookIn, RestoreLookIn, ShowTypedName };
     static const UINT s_ownMessage;
 
     CNavDialogImp(CNavDataArray& data, CNavFilterArray& filters, UINT idd, CNavDialog& facade);
@@ -108,6 +96,7 @@ public:
     CNavNode* currentFolderNode() const;
 
     // --- names and selection (DialogSelection.cpp) ---------------------------------------------------------------
+    CNavFilter* currentFilter() const { return m_currentFilter; }
     CNavFilter* GetCurrentFileExtension(CString& extension);
     void SyncEditFieldToBrowser();
     void SyncBrowserToEditField();
@@ -133,10 +122,11 @@ public:
     int ExtractDirectoryFromURL(const CString& url, CString& directory);
     int validateDrive(const CString& name);
     int validateUNC(const CString& name);
+    bool withinReach(const CString& text);
     int SendCurrentFolderToData();
     void GetSingleDataFullPath(CString& path);
 
-    // --- history and completion (FileNameHistory.cpp, AutoCompletion.cpp) ----------------------------------------
+    // --- history and completion (FileNameHistory.cpp) ----------------------------------------------------------
     int AddFileNameToMRU(const CString& name);
     void AddDataToHistory();
     void LocateFile();
@@ -151,7 +141,10 @@ public:
     void CmdDelete();
     void CmdWeb();
     void CmdNewFolder();
+    void CreateNewWebFolder(const CString& name);
     void OpenFolderCombo();
+    void AddToPlaces();
+    void OnFTPConfig();
     void OnDoFind();
     void OnDoAddToFavorites(int command);
     CString GetNewFolderNameToAdd();
@@ -196,6 +189,7 @@ public:
     void placesChanged() override;
     bool leavesOutDisabledExtensions() const override;
     bool isExtensionDeleted(const wchar_t* name) override;
+    ITEMIDLIST* shownFolder() const override;
 
     // knav::FileNameContext
     bool multiSelectAllowed() const override;
@@ -229,11 +223,21 @@ private:
     void startPictures();
     void captureLayout();
     void startFocus();
+    void finishStart();
+
+    // assistive tools (DialogAccess.cpp)
+    void startAccessibility();
+    void keepNamesLeftToRight();
+    void nameView();
 
     // folders
     bool selectedFolderPathname(CNavPathname& folder);
     void showInLookIn(ITEMIDLIST* folder);
-    void updateBackTip();
+    void SetPreviousTipText();
+    bool goOrTell(ITEMIDLIST* folder);
+    void followLookIn();
+    void restoreLookIn();
+    void showTypedName();
     CString historyDirectory();
     bool placeStandsFor(int row, ITEMIDLIST* folder);
 
@@ -251,6 +255,7 @@ private:
     OkHandlerErr finishItem(CNavData& item);
     void resolveShortcut(CNavData& item, CString& text);
     void classifyItem(CNavData& item, const CString& text);
+    bool folderOutOfReach(CString& folder);
     void reportNameError(OkHandlerErr error);
     void rememberName();
     void processOk();
@@ -269,27 +274,35 @@ private:
 
     int GetAutoCompleteRegValue();
     void UpdateAutoCompletion();
-    bool createAutoCompletion();
 
     // messages
     bool swallowHeldEnter(const MSG& message);
     bool keepForLabelEdit(MSG& message);
+    bool goUpFromView(const MSG& message);
     bool translateForView(MSG& message);
     bool translateAccelerator(MSG& message);
     void postToSelf(OwnMessage message);
     void closeView();
     void OnLookInSelEnd();
+    void OnLookInSelCancel();
+    void OnFileNameComboKillFocus();
     void OnFileNameEdit();
     void OnFileNameSelected();
     void OnFileTypeSelected();
     void OnOpenMenuOpen();
     void OnOpenMenuOpenReadOnly();
+    void OnFind();
     void OnLocate();
     void OnRefresh();
+    void OnFocusFileName();
     void OnViewMode(UINT command);
     void OnPlacesSelected();
+    void createFolderOnDisk(const CString& name);
     void renameWhenShown(const CString& name);
-    knav::ItemList findInCurrentFolder(const CString& name);
+    void renameNewFolder();
+    bool beginRename(const CString& name);
+    knav::ItemList FindIdInCurrentFolder(const CString& name);
+    void preparePlaces(CMenu* menu);
     void prepareFavorites(CMenu* menu);
     void fillFavorites(CMenu& favorites);
     void OnAddFavorite(UINT command);
@@ -301,49 +314,21 @@ private:
     const UINT m_templateId;
     knav::DialogOptions m_options;
     knav::DialogPolicies m_policies;
-    std::optional<zoui::OleScope> m_ole;
 
-    CNavCommDlgBrowser m_browser;
-    CNavCommDlgBuddy m_buddy;
-    CNavCommDlgView m_viewWindow;
-    CNavListCtrl m_listCtrl;
-    CNavListCtrl* m_listInUse;
-    CNavListBox m_places;
-    CStatic m_placesLabel;
-    CNavFolderComboBox m_lookIn;
-    CStatic m_lookInLabel;
-    CNavFileNameComboBox m_fileName;
-    CStatic m_fileNameLabel;
-    CNavFilterComboBox m_fileType;
-    CStatic m_fileTypeLabel;
-    CNavBitmapButton m_backButton;
-    CNavBitmapButton m_upButton;
-    CNavBitmapButton m_webButton;
-    CNavBitmapButton m_refreshButton;
-    CNavBitmapButton m_deleteButton;
-    CNavBitmapButton m_newFolderButton;
-    CNavToolsButton m_toolsButton;
-    CNavToolsButton m_viewsButton;
-    CNavComboButton m_okButton;
-    CButton m_cancelButton;
     std::unique_ptr<NavUi> m_navUi;
 
     CNavFilter m_noFilter;
     CNavFilter m_wildcardFilter;
     CNavFilter* m_currentFilter = &m_noFilter;
-    std::deque<knav::ItemList> m_previous;  // head: the folder shown; a null list is the desktop
+    knav::BackHistory m_previous;
     knav::DialogLayout m_layout;
     HACCEL m_accelerators = nullptr;
 
-    knav::ComPtr<IAutoComplete2> m_autoComplete;
-    knav::ComPtr<IUnknown> m_completionList;
-    knav::ComPtr<ICurrentWorkingDirectory> m_currentDirectory;
-    knav::ComPtr<CNavEnumString> m_completions;
+    knav::FileNameCompletion m_completion;
 
     unsigned m_postedMessages = 0;  // a bit for each OwnMessage on its way
-    bool m_inOk = false;
-    bool m_closing = false;
-    bool m_selectionMissed = false;
+    knav::OkState m_ok;
+    bool m_started = false;           // painted, and what could wait until then is done
     bool m_inShellViewRegen = false;  // a browse is under way
     bool m_fileNameEditDirty = false;
     bool m_writingFileName = false;
@@ -352,5 +337,7 @@ private:
     bool m_placesListCustomized = false;
     bool m_enterHeldSinceStart = true;
     CString m_currentPlace;
+    CString m_newFolder;  // waits to be shown and named until that time
+    ULONGLONG m_newFolderUntil = 0;
     int m_appendCompletion = 1;
 };

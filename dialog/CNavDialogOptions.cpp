@@ -2,6 +2,7 @@
 #include <knav/CNavDataArray.h>
 #include <knav/CNavDialog.h>
 
+#include "data/ApiEdge.h"
 #include "dialog/CNavDialogImp.h"
 #include "dialog/DialogMenus.h"
 #include "dialog/NameRules.h"
@@ -26,12 +27,12 @@
     }
 
 // A text whose setter has rules of its own.
-#define RULED_TEXT(Name, field)                       \
-    void CNavDialog::Get##Name(CString& text) const { \
-        text = m_imp->options().field;                \
-    }                                                 \
-    void CNavDialog::Set##Name(const wchar_t* text) { \
-        m_imp->Set##Name(text ? text : L"");          \
+#define RULED_TEXT(Name, field)                                        \
+    void CNavDialog::Get##Name(CString& text) const {                  \
+        knav::atApiEdge([&] { text = m_imp->options().field; });       \
+    }                                                                  \
+    void CNavDialog::Set##Name(const wchar_t* text) {                  \
+        knav::atApiEdge([&] { m_imp->Set##Name(text ? text : L""); }); \
     }
 
 STORED_OPTION(ReadOnlySpecified, int, readOnlySpecified)
@@ -81,7 +82,7 @@ void* CNavDialog::GetImpObject() const {
 }
 
 void CNavDialog::GetSingleDataFullPath(CString& path) {
-    m_imp->GetSingleDataFullPath(path);
+    knav::atApiEdge([&] { m_imp->GetSingleDataFullPath(path); });
 }
 
 int CNavDialog::GetMultiSelectAllowed() const {
@@ -89,7 +90,7 @@ int CNavDialog::GetMultiSelectAllowed() const {
 }
 
 void CNavDialog::SetMultiSelectAllowed(int allowed) {
-    m_imp->SetMultiSelectAllowed(allowed);
+    knav::atApiEdge([&] { m_imp->SetMultiSelectAllowed(allowed); });
 }
 
 unsigned int CNavDialog::GetViewMode() const {
@@ -101,12 +102,14 @@ void CNavDialog::SetViewMode(unsigned int mode) {
 }
 
 void CNavDialog::GetOkButtonText(CString& text, int raw) const {
-    const CString& stored = m_imp->options().okButtonText;
-    text = raw ? stored : CString(knav::withoutAccelerator(stored.view()));
+    knav::atApiEdge([&] {
+        const CString& stored = m_imp->options().okButtonText;
+        text = raw ? stored : CString(knav::withoutAccelerator(stored.view()));
+    });
 }
 
 void CNavDialog::SetOkButtonText(const wchar_t* text) {
-    m_imp->SetOkButtonText(text ? text : L"");
+    knav::atApiEdge([&] { m_imp->SetOkButtonText(text ? text : L""); });
 }
 
 void CNavDialog::SetOkButtonMenuExists(int exists) {
@@ -114,31 +117,32 @@ void CNavDialog::SetOkButtonMenuExists(int exists) {
 }
 
 int CNavDialog::GetFilterIndex() const {
-    return m_imp->GetFilterIndex();
+    return knav::atApiEdge(-1, [&] { return m_imp->GetFilterIndex(); });
 }
 
 void CNavDialog::SetFilterIndex(int index) {
-    m_imp->SetFilterIndex(index);
+    knav::atApiEdge([&] { m_imp->SetFilterIndex(index); });
 }
 
 unsigned long CNavDialog::GetInitialFilterIndex() const {
-    return m_imp->GetInitialFilterIndex();
+    return knav::atApiEdge(0ul, [&] { return m_imp->GetInitialFilterIndex(); });
 }
 
 CNavFilter* CNavDialog::GetCurrentFileExtension(CString& extension) const {
-    return m_imp->GetCurrentFileExtension(extension);
+    knav::atApiEdge([&] { m_imp->GetCurrentFileExtension(extension); });
+    return m_imp->currentFilter();
 }
 
 void CNavDialog::GetCurrentFolderForPersistence(CString& folder) const {
-    m_imp->GetCurrentFolderForPersistence(folder);
+    knav::atApiEdge([&] { m_imp->GetCurrentFolderForPersistence(folder); });
 }
 
 int CNavDialog::GetPersonalFolderPath(CString& path) const {
-    return m_imp->GetPersonalFolderPath(path);
+    return knav::atApiEdge(0, [&] { return m_imp->GetPersonalFolderPath(path); });
 }
 
 int CNavDialog::NavigateToFolder(const wchar_t* folder) {
-    return m_imp->NavigateToFolder(folder);
+    return knav::atApiEdge(0, [&] { return m_imp->NavigateToFolder(folder); });
 }
 
 void CNavDialog::BrowseCurrentObject() {
@@ -146,7 +150,7 @@ void CNavDialog::BrowseCurrentObject() {
 }
 
 void CNavDialog::SetFolderComboCurSel(int index) {
-    m_imp->SetFolderComboCurSel(index);
+    knav::atApiEdge([&] { m_imp->SetFolderComboCurSel(index); });
 }
 
 CNavListCtrl* CNavDialog::GetFolderListCtrl() const {
@@ -154,7 +158,7 @@ CNavListCtrl* CNavDialog::GetFolderListCtrl() const {
 }
 
 void CNavDialog::SetFolderListCtrl(CNavListCtrl* list) {
-    m_imp->SetFolderListCtrl(list);
+    knav::atApiEdge([&] { m_imp->SetFolderListCtrl(list); });
 }
 
 int CNavDialog::GetToolsMenuItemPosition(NavToolsMenuItem item) const {
@@ -162,11 +166,11 @@ int CNavDialog::GetToolsMenuItemPosition(NavToolsMenuItem item) const {
 }
 
 int CNavDialog::InsertUserItemInPlaces(int index, const wchar_t* name, const wchar_t* path) {
-    return m_imp->InsertUserItemInPlaces(index, name, path);
+    return knav::atApiEdge(-1, [&] { return m_imp->InsertUserItemInPlaces(index, name, path); });
 }
 
 int CNavDialog::MovePlacesItem(int from, int to) {
-    return m_imp->MovePlacesItem(from, to);
+    return knav::atApiEdge(-1, [&] { return m_imp->MovePlacesItem(from, to); });
 }
 
 int CNavDialog::GetNoPlacesList() const {
@@ -178,11 +182,11 @@ int CNavDialog::GetIsPlacesListCustomized() const {
 }
 
 void CNavDialog::AddDataToHistory() {
-    m_imp->AddDataToHistory();
+    knav::atApiEdge([&] { m_imp->AddDataToHistory(); });
 }
 
 void CNavDialog::TrimWhiteSpace(CString& name, int trimBaseEnd) {
-    name = knav::trimName(name.view(), trimBaseEnd != 0);
+    knav::atApiEdge([&] { name = knav::trimName(name.view(), trimBaseEnd != 0); });
 }
 
 CNavListBox* knaviGetPlacesList(CNavDialog* dialog) {

@@ -3,10 +3,9 @@
 #include <ry/RyUt.h>
 
 #include <algorithm>
-#include <new>
 
-#include "dialog/NameRules.h"
 #include "shell/Guard.h"
+#include "shell/SiteLocation.h"
 
 namespace {
 
@@ -37,80 +36,46 @@ void CNavEnumString::setPatterns(Patterns patterns) {
     m_patterns = std::move(patterns);
 }
 
-HRESULT CNavEnumString::QueryInterface(REFIID iid, void** object) {
-    if (!object) {
-        return E_POINTER;
-    }
-    if (iid != IID_IUnknown && iid != IID_IEnumString) {
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    *object = static_cast<IEnumString*>(this);
-    AddRef();
-    return S_OK;
-}
-
-ULONG CNavEnumString::AddRef() {
-    return static_cast<ULONG>(InterlockedIncrement(&m_references));
-}
-
-ULONG CNavEnumString::Release() {
-    const LONG left = InterlockedDecrement(&m_references);
-    if (left == 0) {
-        delete this;
-    }
-    return static_cast<ULONG>(left);
-}
-
-HRESULT CNavEnumString::Next(ULONG count, LPOLESTR* strings, ULONG* fetched) {
-    if (!strings || (count > 1 && !fetched)) {
-        return E_POINTER;
-    }
-    ULONG done = 0;
-    HRESULT result = m_source ? S_OK : S_FALSE;
-    try {
-        while (result == S_OK && done < count) {
-            result = fetchAccepted(strings[done]);
-            done += result == S_OK ? 1 : 0;
-        }
-    } catch (...) {
-        result = E_OUTOFMEMORY;
-    }
-    if (fetched) {
-        *fetched = done;
-    }
-    return result;
-}
-
-HRESULT CNavEnumString::fetchAccepted(LPOLESTR& text) {
-    while (true) {
+HRESULT CNavEnumString::fetch(LPOLESTR& text) {
+    while (m_source) {
         ULONG fetched = 0;
         const HRESULT result = knav::guarded([&] { return m_source->Next(1, &text, &fetched); });
+        if (result == S_OK && !text) {
+            return E_UNEXPECTED;
+        }
         if (result != S_OK || accepts(text)) {
             return result;
         }
         CoTaskMemFree(text);
     }
+    return S_FALSE;
 }
 
-/// A text that names nothing that is there any more is passed on: the file system will say so when it is used.
+/// The disk is asked only about what its name does not settle: whether it is a folder. A text that names nothing that
+/// is there any more is passed on: the file system will say so when it is used.
 bool CNavEnumString::accepts(const wchar_t* text) const {
     std::wstring full;
-    Patterns patterns;
     {
         const std::scoped_lock lock(m_mutex);
         full = m_directory + text;
-        patterns = m_patterns;
+        if (m_patterns.empty() || patternsAdmit(knav::lastName(full))) {
+            return true;
+        }
     }
     RyFileStatus status;
-    if (patterns.empty() || !RyUt::GetFileStatus(full.c_str(), status) ||
-        (status.m_attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    return !RyUt::GetFileStatus(full.c_str(), status) || (status.m_attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+/// A name without an extension may be anything.
+bool CNavEnumString::patternsAdmit(std::wstring_view name) const {
+    const std::size_t dot = name.rfind(L'.');
+    if (dot == std::wstring_view::npos) {
         return true;
     }
-    const std::wstring name(knav::lastComponent(full));
-    const std::size_t dot = name.rfind(L'.');
-    return dot == std::wstring::npos ||
-           std::ranges::find(patterns, L"*." + lowered(name.substr(dot + 1))) != patterns.end();
+    const std::wstring ofExtension = L"*." + lowered(std::wstring(name.substr(dot + 1)));
+    return std::ranges::any_of(m_patterns, [&ofExtension](const std::wstring& pattern) {
+        return pattern == ofExtension || pattern == L"*.*" || pattern == L"*";
+    });
 }
 
 HRESULT CNavEnumString::Skip(ULONG count) {

@@ -1,16 +1,16 @@
 // Suggestions for the file name field: those of another enumerator, limited to folders and the current file types.
 #pragma once
 
-#include <platform/Windows.h>
-
 #include <mutex>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "dialog/StringEnumerator.h"
 #include "shell/ComPtr.h"
 
-/// Filters the strings of the enumerator that it wraps. Reference counted; the last Release destroys it.
-class CNavEnumString final : public IEnumString {
+/// Filters the strings of the enumerator that it wraps.
+class CNavEnumString final : public knav::StringEnumerator {
 public:
     using Patterns = std::vector<std::wstring>;
 
@@ -23,22 +23,17 @@ public:
     void setDirectory(std::wstring directory);
     void setPatterns(Patterns patterns);
 
-    STDMETHOD(QueryInterface)(REFIID iid, void** object) override;
-    STDMETHOD_(ULONG, AddRef)() override;
-    STDMETHOD_(ULONG, Release)() override;
-    STDMETHOD(Next)(ULONG count, LPOLESTR* strings, ULONG* fetched) override;
     STDMETHOD(Skip)(ULONG count) override;
     STDMETHOD(Reset)() override;
     STDMETHOD(Clone)(IEnumString** copy) override;
 
 private:
-    ~CNavEnumString() = default;
-    HRESULT fetchAccepted(LPOLESTR& text);
+    HRESULT fetch(LPOLESTR& text) override;
     bool accepts(const wchar_t* text) const;
+    bool patternsAdmit(std::wstring_view name) const;
 
-    mutable std::mutex m_mutex;  // the system may complete on a thread of its own
-    LONG m_references = 1;
     knav::ComPtr<IEnumString> m_source;
     std::wstring m_directory;
     Patterns m_patterns;
+    mutable std::mutex m_mutex;  // for the directory and the patterns
 };

@@ -4,68 +4,38 @@
 #include <knav/NavFolders.h>
 #include <knav/NavItemList.h>
 #include <knav/NavNames.h>
-
-#include <set>
+#include <knav/NavViewMode.h>
 
 #include "dialog/CNavDialogImp.h"
+#include "dialog/FolderQuestions.h"
 #include "dialog/Messages.h"
 #include "resources/ids.h"
 #include "shell/Guard.h"
 
-namespace {
-
-/// Names of the folder's items that contain `part`, or nothing when the folder cannot be enumerated.
-std::optional<std::set<std::wstring>> namesContaining(IShellFolder* folder, HWND owner, const CString& part) {
-    const auto items = knav::ComPtr<IEnumIDList>::from(
-        [&](IEnumIDList** list) { return folder->EnumObjects(owner, SHCONTF_FOLDERS | SHCONTF_NONFOLDERS, list); });
-    if (!items) {
-        return std::nullopt;
-    }
-    std::set<std::wstring> names;
-    while (true) {
-        ITEMIDLIST* raw = nullptr;
-        if (knav::guarded([&] { return items->Next(1, &raw, nullptr); }) != S_OK) {
-            return names;
-        }
-        const auto item = knav::ItemList::adopt(raw);
-        CString name;
-        if (NavGetItemNameInFolder(folder, item.get(), name) && name.Find(part) >= 0) {
-            names.emplace(name.view());
-        }
-    }
-}
-
-}  // namespace
-
 void CNavDialogImp::CmdPrevious() {
-    if (!m_backButton.IsWindowEnabled() || m_previous.size() < 2) {
+    if (!m_backButton.IsWindowEnabled() || !m_previous.canGoBack()) {
         return;
     }
-    auto target = m_previous[1] ? knav::ItemList::copyOf(m_previous[1].get())
-                                : knav::ItemList::adopt(NavGetDesktopFolderItem(nullptr));
-    const bool wasTwo = m_previous.size() == 2;
-    if (!NavigateToItemList(target.get())) {
-        m_previous.erase(m_previous.begin() + 1);
+    const auto target = m_previous.previous();
+    if (!knav::canBeShown(target.get()) || !NavigateToItemList(target.get())) {
+        m_previous.forgetPrevious();
     } else {
-        // The navigation has put the folder at the head again; the two entries below it are what was left.
-        m_previous.erase(m_previous.begin(), m_previous.begin() + 2);
-        if (wasTwo) {
+        m_previous.wentBack();
+        if (!m_previous.canGoBack()) {
             leaveIfFocused(m_backButton, false);
             m_backButton.EnableWindow(FALSE);
         }
     }
-    updateBackTip();
+    SetPreviousTipText();
     m_facade.UpdateUIState();
 }
 
-void CNavDialogImp::updateBackTip() {
-    if (m_previous.size() < 2) {
-        m_backButton.SetTipText(knav::messageText(IDS_KNAV_TIP_BACK));
-        return;
-    }
-    auto desktop = knav::ItemList::adopt(m_previous[1] ? nullptr : NavGetDesktopFolderItem(nullptr));
+void CNavDialogImp::SetPreviousTipText() {
+    const auto previous = m_previous.previous();
     CString name;
-    NavGetItemDisplayNameInDesktop(SHGDN_INFOLDER, desktop ? desktop.get() : m_previous[1].get(), name);
+    if (previous) {
+        NavGetItemDisplayNameInDesktop(SHGDN_INFOLDER, previous.get(), name);
+    }
     m_backButton.SetTipText(name.IsEmpty() ? knav::messageText(IDS_KNAV_TIP_BACK)
                                            : knav::messageText(IDS_KNAV_TIP_BACK_TO, name));
 }
@@ -79,7 +49,7 @@ void CNavDialogImp::CmdUpOneDir() {
         return;
     }
     const auto list = knav::ItemList::adopt(parent->CalculateQualifiedItemList());
-    NavigateToItemList(list.get());
+    goOrTell(list.get());
 }
 
 void CNavDialogImp::CmdDelete() {
@@ -129,6 +99,34 @@ void CNavDialogImp::OpenFolderCombo() {
 
 void CNavDialogImp::OnRefresh() {
     m_facade.Refresh();
+    if (m_lookIn.GetSafeHwnd() && !m_lookIn.RefreshFolderInfo(1)) {
+        SyncListToComboBox();
+    }
+}
+
+/// In a dialog without a name field, which chooses folders, the view is what one types into.
+void CNavDialogImp::OnFocusFileName() {
+    CWnd& field = m_fileName.GetSafeHwnd() && m_fileName.IsWindowVisible() ? static_cast<CWnd&>(m_fileName)
+                                                                           : static_cast<CWnd&>(*m_listInUse);
+    if (field.GetSafeHwnd()) {
+        field.SetFocus();
+        selectFileNameText();
+    }
+}
+
+void CNavDialogImp::OnFind() {
+    m_facade.OnDoFind();
+}
+
+/// There is no dialog for the locations yet.
+void CNavDialogImp::OnFTPConfig() {
+}
+
+void CNavDialogImp::AddToPlaces() {
+    constexpr POINT kAtTheEnd{-1, -1};
+    if (m_places.GetSafeHwnd() && !m_policies.noPlacesList && m_places.AddCurrentFolder(kAtTheEnd) >= 0) {
+        UpdatePlacesListBox();
+    }
 }
 
 void CNavDialogImp::OnLocate() {
@@ -144,75 +142,17 @@ void CNavDialogImp::OnOpenMenuOpenReadOnly() {
     m_options.readOnlySpecified = 1;
     m_facade.OnOK();
     // Refused: it was this attempt that was to be read-only, not the next one.
-    if (!m_closing) {
+    if (!m_ok.closing) {
         m_options.readOnlySpecified = 0;
     }
 }
 
 void CNavDialogImp::OnViewMode(UINT command) {
-    const unsigned mode = command == IDM_KNAV_LIST ? 3 : command == IDM_KNAV_DETAILS ? 4 : 5;
+    const unsigned mode = command == IDM_KNAV_LIST      ? NavViewList
+                          : command == IDM_KNAV_DETAILS ? NavViewDetails
+                                                        : NavViewThumbnails;
     if (m_browser.GetViewMode() != mode) {
         m_browser.StoreViewMode(mode);
         m_browser.ApplyViewModeToList(mode);
     }
-}
-
-CString CNavDialogImp::GetNewFolderNameToAdd() {
-    const CString base = knav::messageText(IDS_KNAV_NEW_FOLDER_NAME);
-    IShellFolder* folder = m_browser.GetCurrentFolder();
-    const auto taken = folder ? namesContaining(folder, m_facade.GetSafeHwnd(), base) : std::nullopt;
-    if (!taken) {
-        return CString();
-    }
-    CString candidate = base;
-    const int most = static_cast<int>(taken->size()) + 1;
-    for (int n = 2; taken->contains(std::wstring(candidate.view())) && n <= most + 1; ++n) {
-        candidate.Format(L"%s (%d)", base, n);
-    }
-    return candidate;
-}
-
-void CNavDialogImp::CmdNewFolder() {
-    CNavPathname folder;
-    CString path;
-    if (!m_newFolderButton.IsWindowEnabled() || !selectedFolderPathname(folder) || !folder.GetFullPath(path)) {
-        return;
-    }
-    const CString name = GetNewFolderNameToAdd();
-    if (name.IsEmpty()) {
-        return;
-    }
-    const CString full = CString(path).TrimRight(L'\\') + L"\\" + name;
-    if (!CreateDirectoryW(full, nullptr)) {
-        knav::showMessage(IDS_KNAV_NEW_FOLDER_FAILED, name);
-        return;
-    }
-    SHChangeNotify(SHCNE_MKDIR, SHCNF_PATHW | SHCNF_FLUSH, full.GetString(), nullptr);
-    renameWhenShown(name);
-}
-
-/// Selects the new folder and lets the user type its name over the one it was made with.
-void CNavDialogImp::renameWhenShown(const CString& name) {
-    IShellView* view = m_browser.GetCurrentShellView();
-    const auto item = view ? findInCurrentFolder(name) : knav::ItemList();
-    if (!item) {
-        return;
-    }
-    ::SetFocus(m_listInUse->GetSafeHwnd());
-    constexpr UINT how = SVSI_SELECT | SVSI_DESELECTOTHERS | SVSI_FOCUSED | SVSI_ENSUREVISIBLE | SVSI_EDIT;
-    if (FAILED(knav::guarded([&] { return view->SelectItem(item.get(), how); }))) {
-        m_facade.Refresh();
-        knav::guarded([&] { return view->SelectItem(item.get(), how); });
-    }
-}
-
-knav::ItemList CNavDialogImp::findInCurrentFolder(const CString& name) {
-    IShellFolder* folder = m_browser.GetCurrentFolder();
-    std::wstring text(name.view());
-    ITEMIDLIST* found = nullptr;
-    if (folder) {
-        knav::guarded(
-            [&] { return folder->ParseDisplayName(nullptr, nullptr, text.data(), nullptr, &found, nullptr); });
-    }
-    return knav::ItemList::adopt(found);
 }

@@ -1,11 +1,13 @@
 // Shortcuts in the user's Favorites folder.
 #include <knav/CNavDataArray.h>
 #include <knav/NavFolders.h>
+#include <knav/NavLinks.h>
 #include <knav/NavNames.h>
 
 #include <filesystem>
 
 #include "dialog/CNavDialogImp.h"
+#include "dialog/Messages.h"
 #include "resources/ids.h"
 #include "shell/Guard.h"
 
@@ -29,21 +31,30 @@ CString freeShortcutPath(const CString& folder, CString name) {
     return path;
 }
 
-void addShortcut(ITEMIDLIST* target) {
+bool saveShortcut(ITEMIDLIST* target, const CString& name) {
     const CString folder = favoritesFolder();
-    CString name;
-    if (folder.IsEmpty() || !target ||
-        !NavGetItemDisplayNameInDesktop(SHGDN_INFOLDER, knav::listArgument(target), name)) {
-        return;
-    }
     const auto link = knav::createInProcess<IShellLinkW>(CLSID_ShellLink);
     const auto file = link ? link.as<IPersistFile>() : nullptr;
-    if (!file || FAILED(knav::guarded([&] { return link->SetIDList(target); }))) {
-        return;
+    if (folder.IsEmpty() || !file || FAILED(knav::guarded([&] { return link->SetIDList(target); }))) {
+        return false;
     }
     const CString path = freeShortcutPath(folder, name);
-    if (SUCCEEDED(knav::guarded([&] { return file->Save(path, TRUE); }))) {
-        SHChangeNotify(SHCNE_CREATE, SHCNF_PATHW, path.GetString(), nullptr);
+    if (FAILED(knav::guarded([&] { return file->Save(path, TRUE); }))) {
+        return false;
+    }
+    SHChangeNotify(SHCNE_CREATE, SHCNF_PATHW, path.GetString(), nullptr);
+    return true;
+}
+
+/// A shortcut to a shortcut leads where that one leads.
+void addShortcut(CWnd& owner, ITEMIDLIST* item) {
+    CString name;
+    if (!item || !NavGetItemDisplayNameInDesktop(SHGDN_NORMAL, knav::listArgument(item), name)) {
+        return;
+    }
+    const auto target = knav::ItemList::adopt(NavResolveLink(item, 0));
+    if (!saveShortcut(target ? target.get() : item, name)) {
+        knav::showMessage(owner, IDS_KNAV_FAVORITE_FAILED, name);
     }
 }
 
@@ -55,14 +66,14 @@ void CNavDialogImp::OnAddFavorite(UINT command) {
 
 void CNavDialogImp::OnDoAddToFavorites(int command) {
     if (command == IDM_KNAV_FAVORITE_FOLDER) {
-        addShortcut(m_browser.GetCurrentObjectID());
+        addShortcut(m_facade, m_browser.GetCurrentObjectID());
         return;
     }
     CNavDataArray selection;
     m_browser.SendSelectionToData(selection);
     for (int i = 0; i < selection.GetCount(); ++i) {
         if (const CNavData* item = selection.GetData(i)) {
-            addShortcut(item->GetID());
+            addShortcut(m_facade, item->GetID());
         }
     }
 }

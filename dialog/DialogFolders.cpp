@@ -7,19 +7,15 @@
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/FolderQuestions.h"
+#include "dialog/FolderTexts.h"
+#include "dialog/Messages.h"
 #include "resources/ids.h"
 
-namespace {
-
-constexpr std::size_t kLongestHistory = 64;
-
-}  // namespace
-
 int CNavDialogImp::NavigateToFolder(const wchar_t* folder) {
-    if (!folder || !*folder) {
+    if (!folder || !*folder || !withinReach(folder)) {
         return 0;
     }
-    if (CString(folder).CompareNoCase(L"Desktop") == 0) {
+    if (knav::isDesktopKeyword(folder)) {
         const auto desktop = knav::ItemList::adopt(NavGetDesktopFolderItem(nullptr));
         return NavigateToItemList(desktop.get());
     }
@@ -29,6 +25,20 @@ int CNavDialogImp::NavigateToFolder(const wchar_t* folder) {
 
 bool CNavDialogImp::NavigateToItemList(ITEMIDLIST* folder) {
     return folder && m_browser.BrowseObject(folder, SBSP_ABSOLUTE);
+}
+
+/// For folders that the user picks from a list: one that is not there any more is told, and the list goes back.
+bool CNavDialogImp::goOrTell(ITEMIDLIST* folder) {
+    if (knav::canBeShown(folder) && NavigateToItemList(folder)) {
+        return true;
+    }
+    restoreLookIn();
+    CString name;
+    if (!folder || !NavGetItemDisplayNameInDesktop(SHGDN_NORMAL, folder, name)) {
+        return false;
+    }
+    knav::showMessage(m_facade, IDS_KNAV_FOLDER_NOT_SHOWN, name);
+    return false;
 }
 
 bool CNavDialogImp::NavigateToDir(const CNavPathname& folder) {
@@ -71,6 +81,27 @@ void CNavDialogImp::SyncListToComboBox() {
     NavigateToItemList(list.get());
 }
 
+void CNavDialogImp::followLookIn() {
+    CNavNode* node = m_lookIn.GetSelectedNode();
+    const auto list = knav::ItemList::adopt(node ? node->CalculateQualifiedItemList() : nullptr);
+    if (list) {
+        goOrTell(list.get());
+    }
+}
+
+/// Selects the folder that the view shows, with as little reading as that takes.
+void CNavDialogImp::restoreLookIn() {
+    ITEMIDLIST* current = m_browser.GetCurrentObjectID();
+    if (!current || !m_lookIn.GetSafeHwnd()) {
+        return;
+    }
+    if (const int index = m_lookIn.FindItemByList(current); index >= 0) {
+        m_lookIn.SetCurSel(index);
+    } else {
+        showInLookIn(current);
+    }
+}
+
 void CNavDialogImp::SetFolderComboCurSel(int index) {
     if (m_lookIn.GetSafeHwnd() && index >= 0 && index < m_lookIn.GetCount()) {
         m_lookIn.SetCurSel(index);
@@ -92,11 +123,12 @@ void CNavDialogImp::leaveBrowse() {
 
 void CNavDialogImp::browsed(ITEMIDLIST* folder, UINT) {
     // What was selected in the view that is gone is selected no more; what is under way in OK keeps its items.
-    if (!m_inOk) {
+    if (!m_ok.running) {
         m_data.RemoveAllData();
     } else {
         m_fileName.SetFileNameComboBoxDirty(1);
     }
+    nameView();
     showInLookIn(folder);
     AddItemToPrevious(folder);
     UpdateAutoCompletion();
@@ -126,18 +158,12 @@ void CNavDialogImp::OnFolderChange() {
 }
 
 void CNavDialogImp::AddItemToPrevious(ITEMIDLIST* folder) {
-    knav::ItemList entry = NavIsDesktop(folder) ? knav::ItemList() : knav::ItemList::copyOf(folder);
-    const bool isHead =
-        !m_previous.empty() &&
-        (entry ? m_previous.front() && knav::sameFolder(m_previous.front().get(), entry.get()) : !m_previous.front());
-    if (isHead) {
-        return;
-    }
-    m_previous.push_front(std::move(entry));
-    if (m_previous.size() > kLongestHistory) {
-        m_previous.pop_back();
-    }
-    updateBackTip();
+    m_previous.add(folder);
+    SetPreviousTipText();
+}
+
+ITEMIDLIST* CNavDialogImp::shownFolder() const {
+    return m_browser.GetCurrentObjectID();
 }
 
 CNavNode* CNavDialogImp::currentFolderNode() const {
@@ -177,7 +203,7 @@ void CNavDialogImp::GetCurrentFolderForPersistence(CString& folder) {
         return;
     }
     if (NavIsDesktop(current)) {
-        folder = L"Desktop";
+        folder = knav::kDesktopKeyword;
         return;
     }
     NavGetItemDisplayNameInDesktop(SHGDN_FORPARSING, current, folder);

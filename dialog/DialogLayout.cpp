@@ -1,6 +1,9 @@
 #include "dialog/DialogLayout.h"
 
+#include <algorithm>
 #include <string_view>
+
+#include "shell/TextRules.h"
 
 namespace knav {
 namespace {
@@ -16,7 +19,7 @@ RECT rectIn(HWND dialog, HWND control) {
 bool isOfClass(HWND window, std::wstring_view name) {
     wchar_t text[64] = L"";
     GetClassNameW(window, text, static_cast<int>(std::size(text)));
-    return CompareStringOrdinal(text, -1, name.data(), static_cast<int>(name.size()), TRUE) == CSTR_EQUAL;
+    return knav::equalNoCase(text, name);
 }
 
 bool isComboBox(HWND window) {
@@ -41,6 +44,17 @@ int heightToSet(HWND combo) {
     const int height = wanted + (wanted - droppedHeight(combo));
     setHeight(height);
     return height;
+}
+
+// The room of a combo box in its row. The box itself is as high as its font or its pictures need, whatever its template
+// says, and stands in the middle of this room.
+RECT roomInRow(HWND dialog, HWND combo) {
+    constexpr LONG kTemplateHeight = 12;
+    RECT room = rectIn(dialog, combo);
+    RECT wanted{0, 0, 0, kTemplateHeight};
+    if (MapDialogRect(dialog, &wanted))
+        room.bottom = room.top + wanted.bottom;
+    return room;
 }
 
 // A combo box selects its whole text when it is resized; the user's selection is put back.
@@ -86,7 +100,7 @@ void DialogLayout::capture(HWND dialog, std::span<const GrowRow> rows, UINT body
     RECT client{};
     GetWindowRect(dialog, &window);
     GetClientRect(dialog, &client);
-    m_minTrack = {window.right - window.left, window.bottom - window.top};
+    m_frame = {window.right - window.left - client.right, window.bottom - window.top - client.bottom};
 
     std::optional<RECT> body;
     if (HWND control = GetDlgItem(dialog, static_cast<int>(bodyId)))
@@ -95,7 +109,9 @@ void DialogLayout::capture(HWND dialog, std::span<const GrowRow> rows, UINT body
     m_windows.clear();
     m_comboHeights.clear();
     for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        m_layout.add(static_cast<UINT>(GetDlgCtrlID(child)), rectIn(dialog, child));
+        const auto id = static_cast<UINT>(GetDlgCtrlID(child));
+        const bool inRow = isComboBox(child) && std::ranges::find(rows, id, &GrowRow::id) != rows.end();
+        m_layout.add(id, inRow ? roomInRow(dialog, child) : rectIn(dialog, child));
         m_windows.push_back(child);
         if (isComboBox(child))
             m_comboHeights[child] = heightToSet(child);
@@ -105,8 +121,38 @@ void DialogLayout::capture(HWND dialog, std::span<const GrowRow> rows, UINT body
     placeGrip(client.right, client.bottom);
 }
 
+SIZE DialogLayout::minTrack() const {
+    const SIZE least = m_layout.leastSize();
+    return m_dialog ? SIZE{least.cx + m_frame.cx, least.cy + m_frame.cy} : SIZE{};
+}
+
+void DialogLayout::fitScreen() const {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    RECT window{};
+    if (!m_dialog || !GetMonitorInfoW(MonitorFromWindow(m_dialog, MONITOR_DEFAULTTONEAREST), &monitor) ||
+        !GetWindowRect(m_dialog, &window))
+        return;
+    const RECT& room = monitor.rcWork;
+    const LONG width = std::min(window.right - window.left, room.right - room.left);
+    const LONG height = std::min(window.bottom - window.top, room.bottom - room.top);
+    if (width < window.right - window.left || height < window.bottom - window.top)
+        SetWindowPos(m_dialog, nullptr, std::clamp(window.left, room.left, room.right - width),
+                     std::clamp(window.top, room.top, room.bottom - height), width, height,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void DialogLayout::closeColumn(UINT id) {
     m_layout.closeColumn(id);
+    layOutAgain();
+}
+
+void DialogLayout::joinRows(UINT upper, UINT lower) {
+    m_layout.joinRows(upper, lower);
+    layOutAgain();
+}
+
+void DialogLayout::layOutAgain() {
     RECT client{};
     if (GetClientRect(m_dialog, &client))
         apply(client.right, client.bottom);
@@ -116,11 +162,16 @@ void DialogLayout::move(HDWP& moves, size_t index, SIZE client) const {
     HWND window = m_windows[index];
     if (!moves || !IsWindow(window))
         return;
-    const RECT to = m_layout.rectOf(index, client);
+    RECT to = m_layout.rectOf(index, client);
     const RECT from = rectIn(m_dialog, window);
+    const auto combo = m_comboHeights.find(window);
+    if (combo != m_comboHeights.end()) {
+        const LONG high = from.bottom - from.top;
+        to.top += (to.bottom - to.top - high) / 2;
+        to.bottom = to.top + high;
+    }
     if (EqualRect(&from, &to))
         return;
-    const auto combo = m_comboHeights.find(window);
     const int height = combo == m_comboHeights.end() ? to.bottom - to.top : combo->second;
     moves = DeferWindowPos(moves, window, nullptr, to.left, to.top, to.right - to.left, height,
                            SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);

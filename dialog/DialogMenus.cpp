@@ -1,13 +1,14 @@
 #include "dialog/DialogMenus.h"
 
 #include <knav/NavToolsMenuItem.h>
+#include <knav/NavViewMode.h>
 #include <platform/CMenu.h>
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
-#include "dialog/NameRules.h"
 #include "dialog/ResourceModule.h"
 #include "resources/ids.h"
+#include "shell/TextRules.h"
 
 namespace knav {
 
@@ -20,14 +21,29 @@ int toolsMenuItemPosition(unsigned int item) {
 
 unsigned int viewCommandOf(unsigned int mode) {
     switch (mode) {
-        case 3:
+        case NavViewList:
             return IDM_KNAV_LIST;
-        case 4:
+        case NavViewDetails:
             return IDM_KNAV_DETAILS;
-        case 5:
+        case NavViewThumbnails:
             return IDM_KNAV_THUMBNAILS;
         default:
             return 0;
+    }
+}
+
+void dropIdleSeparators(CMenu& menu) {
+    const auto isLine = [&menu](int position) {
+        return (GetMenuState(menu.m_hMenu, static_cast<UINT>(position), MF_BYPOSITION) & MF_SEPARATOR) != 0;
+    };
+    for (int position = menu.GetMenuItemCount() - 1; position >= 0; --position) {
+        const bool isLast = position == menu.GetMenuItemCount() - 1;
+        if (isLine(position) && (position == 0 || isLast || isLine(position + 1))) {
+            menu.DeleteMenu(static_cast<UINT>(position), MF_BYPOSITION);
+        }
+    }
+    if (menu.GetMenuItemCount() > 0 && isLine(0)) {
+        menu.DeleteMenu(0, MF_BYPOSITION);
     }
 }
 
@@ -48,27 +64,40 @@ int CNavDialogImp::PrepareButtonMenu(UINT buttonId, CMenu& menu) {
     } else {
         m_facade.PrepareViewsMenu(popup);
     }
+    knav::dropIdleSeparators(*popup);
     return popup->GetMenuItemCount() > 0;
 }
 
 void CNavDialogImp::PrepareViewsMenu(CMenu* menu) {
     if (const UINT command = knav::viewCommandOf(m_browser.GetViewMode())) {
         menu->EnableMenuItem(command, MF_BYCOMMAND | MF_GRAYED);
+        CheckMenuRadioItem(menu->m_hMenu, command, command, command, MF_BYCOMMAND);
     }
 }
 
 void CNavDialogImp::PrepareToolsMenu(CMenu* menu) {
     const unsigned present = m_options.toolsMenuItemsPresent;
     // Commands of parts that the dialog does not have yet are not offered.
-    for (const UINT absent : {IDM_KNAV_FIND, IDM_KNAV_FTP_LOCATIONS, IDM_KNAV_ADD_TO_PLACES}) {
+    for (const UINT absent : {IDM_KNAV_FIND, IDM_KNAV_FTP_LOCATIONS}) {
         menu->DeleteMenu(absent, MF_BYCOMMAND);
     }
     if (!(present & NavToolsLocate)) {
         menu->DeleteMenu(IDM_KNAV_LOCATE, MF_BYCOMMAND);
-    } else if (knav::trim(fileNameText().view()).empty()) {
+    } else if (knav::trimmed(fileNameText().view()).empty()) {
         menu->EnableMenuItem(IDM_KNAV_LOCATE, MF_BYCOMMAND | MF_GRAYED);
     }
+    preparePlaces(menu);
     prepareFavorites(menu);
+}
+
+/// A folder that is a place already cannot be added once more.
+void CNavDialogImp::preparePlaces(CMenu* menu) {
+    const bool hasList = m_places.GetSafeHwnd() && !m_policies.noPlacesList;
+    if (!(m_options.toolsMenuItemsPresent & NavToolsAddToPlaces) || !hasList) {
+        menu->DeleteMenu(IDM_KNAV_ADD_TO_PLACES, MF_BYCOMMAND);
+    } else if (m_places.GetCurSel() >= 0) {
+        menu->EnableMenuItem(IDM_KNAV_ADD_TO_PLACES, MF_BYCOMMAND | MF_GRAYED);
+    }
 }
 
 /// The Favorites submenu is the first entry that is a submenu.

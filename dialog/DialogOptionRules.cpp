@@ -2,22 +2,12 @@
 #include <knav/CNavFilterArray.h>
 
 #include "dialog/CNavDialogImp.h"
+#include "dialog/FolderTexts.h"
 #include "dialog/NameRules.h"
+#include "shell/SiteLocation.h"
 #include "shell/TextRules.h"
 
 namespace {
-
-constexpr wchar_t kDesktop[] = L"Desktop";
-
-bool isDesktopKeyword(const wchar_t* text) {
-    return CString(text).CompareNoCase(kDesktop) == 0;
-}
-
-CString currentDirectory() {
-    wchar_t buffer[260];
-    const DWORD length = GetCurrentDirectoryW(260, buffer);
-    return length > 0 && length < 260 ? CString(buffer) : CString();
-}
 
 /// The path in full, without a separator at its end; for a location that is not a local path, its text.
 CString fullText(CNavPathname& path) {
@@ -25,6 +15,12 @@ CString fullText(CNavPathname& path) {
     CString text;
     path.GetFullPath(text);
     return text;
+}
+
+/// The extension that the text itself shows, without its dot.
+CString extensionIn(const CString& text) {
+    const auto dot = knav::extensionDot(text.view());
+    return dot ? text.Mid(static_cast<int>(*dot) + 1) : CString();
 }
 
 }  // namespace
@@ -37,10 +33,14 @@ void CNavDialogImp::SetDialogCaption(const wchar_t* caption) {
 }
 
 void CNavDialogImp::SetDefaultFileExtension(const wchar_t* text) {
-    CNavPathname path;
-    path.Parse(text, true);
     CString extension;
-    path.GetExtension(extension);
+    if (withinReach(text)) {
+        CNavPathname path;
+        path.Parse(text, true);
+        path.GetExtension(extension);
+    } else {
+        extension = extensionIn(text);
+    }
     if (extension.IsEmpty()) {
         const CString list = text;
         extension = list.Mid(list.ReverseFind(L',') + 1);
@@ -53,10 +53,12 @@ void CNavDialogImp::SetInitialFileName(const wchar_t* text) {
         const CString url = text;
         const int dot = url.ReverseFind(L'.');
         m_options.initialFileName = dot < 0 ? url : url.Left(dot);
-    } else {
+    } else if (withinReach(text)) {
         CNavPathname path;
         path.Parse(text, true);
         path.GetBasename(m_options.initialFileName);
+    } else {
+        m_options.initialFileName = CString(knav::lastName(text));
     }
     // Only a real extension: a bare name would otherwise be appended to itself.
     if (m_options.defaultFileExtension.IsEmpty() && knav::extensionDot(CString(text).view())) {
@@ -68,12 +70,14 @@ void CNavDialogImp::SetInitialFileName(const wchar_t* text) {
 }
 
 void CNavDialogImp::SetForceInitialFolder(const wchar_t* text) {
-    if (isDesktopKeyword(text)) {
+    if (knav::isDesktopKeyword(text)) {
         m_options.forceInitialFolder = text;
         return;
     }
     CNavPathname path;
-    path.Parse(text, false);
+    if (withinReach(text)) {
+        path.Parse(text, false);
+    }
     m_options.forceInitialFolder = fullText(path);
     if (!path.Exists() || (!path.GetIsURL() && path.GetType() != CZoUiPathname::Directory)) {
         m_options.forceInitialFolder.Empty();
@@ -81,12 +85,14 @@ void CNavDialogImp::SetForceInitialFolder(const wchar_t* text) {
 }
 
 void CNavDialogImp::SetDefaultInitialFolder(const wchar_t* text) {
-    if (isDesktopKeyword(text)) {
+    if (knav::isDesktopKeyword(text)) {
         m_options.defaultInitialFolder = text;
         return;
     }
     CNavPathname path;
-    path.Parse(text, false);
+    if (withinReach(text)) {
+        path.Parse(text, false);
+    }
     if (!path.GetIsURL() && path.GetType() != CZoUiPathname::Directory) {
         CZoUiPathname parent;
         if (path.GetParent(parent)) {
@@ -95,7 +101,7 @@ void CNavDialogImp::SetDefaultInitialFolder(const wchar_t* text) {
     }
     m_options.defaultInitialFolder = fullText(path);
     if (m_options.defaultInitialFolder.IsEmpty() || !path.Exists()) {
-        m_options.defaultInitialFolder = currentDirectory();
+        m_options.defaultInitialFolder = knav::currentDirectory();
     }
 }
 

@@ -5,6 +5,9 @@
 
 namespace knav {
 
+/// The name under which all dialogs keep what they share.
+inline constexpr wchar_t kAllDialogsName[] = L"AllKnavDialogs";
+
 struct DialogOptions {
     CString caption;
     CString defaultFileExtension;

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr wchar_t kSharedName[] = L"AllKnavDialogs";
-
 ITEMIDLIST* specialFolder(int csidl) {
     return NavGetSpecialFolderItem(nullptr, csidl);
 }
@@ -31,7 +29,7 @@ void CNavDialogImp::placesChanged() {
 }
 
 bool CNavDialogImp::leavesOutDisabledExtensions() const {
-    return false;
+    return m_options.useRegExtensionFlags != 0;
 }
 
 /// The key in which removed extensions are kept: the dialog's own, with its last part replaced.
@@ -41,7 +39,7 @@ int CNavDialogImp::GetDeletedExtensionsKey(CString& key) {
     if (name.IsEmpty() || !key.view().ends_with(name.view())) {
         return 0;
     }
-    key = key.Left(key.GetLength() - name.GetLength()) + kSharedName + L"\\DeletedExtensions";
+    key = key.Left(key.GetLength() - name.GetLength()) + knav::kAllDialogsName + L"\\DeletedExtensions";
     return 1;
 }
 
@@ -109,7 +107,7 @@ void CNavDialogImp::OnSelChangePlacesList() {
         return;
     }
     const CString name = m_places.GetItemName(row);
-    if (NavigateToItemList(m_places.GetItemIdList(row))) {
+    if (goOrTell(m_places.GetItemIdList(row))) {
         SetCurrentPlaces(name);
     } else {
         UpdatePlacesListBox();

@@ -8,7 +8,6 @@
 #include "dialog/NameRules.h"
 #include "dialog/ScopedFlag.h"
 #include "resources/ids.h"
-#include "shell/Guard.h"
 
 CNavFilter* CNavDialogImp::GetCurrentFileExtension(CString& extension) {
     extension = m_currentFilter->GetCount() > 0 ? m_currentFilter->GetAt(0) : CString();
@@ -87,7 +86,7 @@ void CNavDialogImp::SyncBrowserToEditField() {
         if (name.find_first_of(L"*?\\/:") != std::wstring_view::npos) {
             continue;  // a pattern or a path is not an item of this folder, though some folders parse it as one
         }
-        auto child = findInCurrentFolder(names[i]);
+        auto child = FindIdInCurrentFolder(names[i]);
         CNavData* item = child ? selection.AddData() : nullptr;
         if (item) {
             item->SetID(child.release());
@@ -105,6 +104,20 @@ void CNavDialogImp::OnFileNameChange() {
 void CNavDialogImp::OnFileNameSelectionChange() {
     m_fileNameEditDirty = true;
     m_nameCameFromSelection = false;
+}
+
+/// Whoever goes on to the view after typing the name of an item in it finds that item there. What the user picks in the
+/// view itself goes first.
+void CNavDialogImp::showTypedName() {
+    const HWND list = m_listInUse->GetSafeHwnd();
+    if (!list || ::GetFocus() != list || !m_fileNameEditDirty || selectedCount() > 0) {
+        return;
+    }
+    const CString typed = fileNameText();
+    const auto item = typed.IsEmpty() ? knav::ItemList() : FindIdInCurrentFolder(typed);
+    if (IShellView* view = item ? m_browser.GetCurrentShellView() : nullptr) {
+        knav::guarded([&] { return view->SelectItem(item.get(), SVSI_SELECT | SVSI_FOCUSED | SVSI_ENSUREVISIBLE); });
+    }
 }
 
 void CNavDialogImp::setCurrentFilter(CNavFilter* filter) {
@@ -154,10 +167,10 @@ void CNavDialogImp::UpdateUIState() {
             control.EnableWindow(on);
         }
     };
-    enable(m_backButton, m_previous.size() > 1 && !m_policies.noBackButton);
+    enable(m_backButton, m_previous.canGoBack() && !m_policies.noBackButton);
     enable(m_upButton, current && current->mkid.cb != 0);
     const bool inHistory = m_currentPlace.CompareNoCase(L"History") == 0;
-    enable(m_newFolderButton, !inHistory && node && (node->IsInFileSystem() || node->IsDropTarget()));
+    enable(m_newFolderButton, !inHistory && node && (node->IsInFileSystem() || node->IsDropTarget() || node->IsFTP()));
     enable(m_deleteButton, selectedCount() > 0);
 }
 
@@ -168,7 +181,5 @@ void CNavDialogImp::leaveIfFocused(CWnd& control, bool staysEnabled) {
 }
 
 void CNavDialogImp::Refresh() {
-    if (IShellView* view = m_browser.GetCurrentShellView()) {
-        knav::guarded([&] { return view->Refresh(); });
-    }
+    m_browser.RefreshView();
 }

@@ -6,13 +6,11 @@
 
 namespace {
 
-constexpr wchar_t kSharedName[] = L"AllKnavDialogs";
-
 /// Gives the dialog the name under which all dialogs share values, for as long as it lives.
 class SharedName {
 public:
     explicit SharedName(CZoUiDialog& dialog) : m_dialog(dialog), m_own(dialog.GetDialogName()) {
-        m_dialog.SetDialogName(kSharedName);
+        m_dialog.SetDialogName(knav::kAllDialogsName);
     }
     ~SharedName() { m_dialog.SetDialogName(m_own); }
     SharedName(const SharedName&) = delete;

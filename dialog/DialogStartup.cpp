@@ -1,15 +1,17 @@
 // What happens before the dialog is first painted, in this order.
-#include <knav/CNavExtensionArray.h>
 #include <knav/CNavNode.h>
+#include <knav/NavExtensions.h>
 #include <knav/NavFolders.h>
 #include <knav/NavItemList.h>
 #include <knav/NavNames.h>
+#include <knav/NavViewMode.h>
 #include <ry/FileSystem.h>
 
 #include <array>
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/FolderQuestions.h"
+#include "dialog/FolderTexts.h"
 #include "dialog/Messages.h"
 #include "dialog/NameRules.h"
 #include "dialog/NavLayout.h"
@@ -18,36 +20,13 @@
 
 namespace {
 
-constexpr unsigned long kDetails = 4;
+constexpr DWORD kStartFolderRoom = 259;
 
 struct ButtonLook {
     CNavBitmapButton* button;
     UINT picture;
     UINT tip;
 };
-
-CString currentDirectory() {
-    wchar_t buffer[260];
-    const DWORD length = GetCurrentDirectoryW(259, buffer);
-    return length > 0 && length < 259 ? CString(buffer) : CString();
-}
-
-/// The folder of the host's executable, without its last backslash (but "C:\").
-CString executableFolder() {
-    wchar_t buffer[260];
-    const DWORD length = GetModuleFileNameW(nullptr, buffer, 259);
-    if (length == 0 || length >= 259) {
-        return CString();
-    }
-    PathRemoveFileSpecW(buffer);
-    return buffer;
-}
-
-CString windowsFolder() {
-    wchar_t buffer[260];
-    const UINT length = GetWindowsDirectoryW(buffer, 260);
-    return length > 0 && length < 260 ? CString(buffer) : CString();
-}
 
 void hide(CWnd& control) {
     if (control.GetSafeHwnd()) {
@@ -87,6 +66,7 @@ void CNavDialogImp::InitializeDialogData() {
     }
     loadFileNameHistory();
     startFileName();
+    m_okButton.SetZoUiParent(&m_facade);
     m_toolsButton.SetZoUiParent(&m_facade);
     m_viewsButton.SetZoUiParent(&m_facade);
     m_facade.UpdateUIState();
@@ -116,9 +96,9 @@ void CNavDialogImp::startAccelerators() {
 }
 
 void CNavDialogImp::startViewMode() {
-    unsigned long mode = kDetails;
+    unsigned long mode = NavViewDetails;
     if (!m_facade.GetDialogData(L"ViewMode", mode)) {
-        mode = kDetails;
+        mode = NavViewDetails;
     }
     if (m_browser.GetViewMode() == mode) {
         return;
@@ -144,6 +124,7 @@ void CNavDialogImp::startBrowserHost() {
 void CNavDialogImp::startExtensions() {
     CString product;
     m_facade.GetProductName(product);
+    NavInitializeExtensions(m_facade.GetSafeHwnd(), product);
 }
 
 CString CNavDialogImp::initialFolderText() {
@@ -152,9 +133,9 @@ CString CNavDialogImp::initialFolderText() {
         text = m_options.defaultInitialFolder;
     }
     if (text.IsEmpty()) {
-        text = currentDirectory();
+        text = knav::currentDirectory(kStartFolderRoom);
     }
-    const bool desktop = text.CompareNoCase(L"Desktop") == 0;
+    const bool desktop = knav::isDesktopKeyword(text);
     const std::wstring replacement = Kelvara::Tessary::PAL::FileSystem::networkAwareChangeDir(text, desktop);
     return replacement.empty() ? text : CString(replacement);
 }
@@ -192,18 +173,21 @@ void CNavDialogImp::startLookIn() {
         return;
     }
     m_facade.AutoLoadControl(m_lookIn);
+    RECT client{};  // the box is as high as its pictures now
+    m_facade.GetClientRect(&client);
+    m_layout.apply(client.right, client.bottom);
     m_lookIn.SetNoFTP(m_options.noFtp || m_options.noUrlsAllowed);
     m_lookIn.SetNoExtraExtensions(m_options.noExtraExtensions || m_options.noUrlsAllowed);
 }
 
 void CNavDialogImp::showInitialFolder(const CString& folder) {
-    if (folder.CompareNoCase(L"Desktop") == 0) {
+    if (knav::isDesktopKeyword(folder)) {
         const auto desktop = knav::ItemList::adopt(NavGetDesktopFolderItem(m_facade.GetSafeHwnd()));
         showInitialList(desktop.get());
         return;
     }
     auto list = knav::ItemList::adopt(NavGetQualifiedItemListFromFolderFullPath(folder));
-    for (const CString& fallback : {executableFolder(), windowsFolder()}) {
+    for (const CString& fallback : {knav::executableFolder(), knav::windowsFolder()}) {
         if (knav::canBeShown(list.get())) {
             break;
         }
@@ -214,7 +198,11 @@ void CNavDialogImp::showInitialFolder(const CString& folder) {
 }
 
 void CNavDialogImp::showInitialList(ITEMIDLIST* list) {
-    if (!list || !m_lookIn.GetSafeHwnd()) {
+    if (!list) {
+        return;
+    }
+    if (!m_lookIn.GetSafeHwnd()) {
+        NavigateToItemList(list);  // nothing will follow a Look-in list that is not there
         return;
     }
     m_lookIn.SetCurSel(m_lookIn.FillToFolder(list));
@@ -224,7 +212,7 @@ void CNavDialogImp::showInitialList(ITEMIDLIST* list) {
 /// The initial folder could be bound but not shown (it may be closed to the user): the dialog opens somewhere all the
 /// same.
 void CNavDialogImp::showSomeFolder() {
-    for (const CString& fallback : {executableFolder(), windowsFolder()}) {
+    for (const CString& fallback : {knav::executableFolder(), knav::windowsFolder()}) {
         if (m_browser.GetCurrentShellView() || !m_buddy.GetSafeHwnd() || NavigateToFolder(fallback)) {
             return;
         }
@@ -235,6 +223,7 @@ void CNavDialogImp::startFileName() {
     if (m_options.foldersOnly) {
         hide(m_fileName);
         hide(m_fileNameLabel);
+        m_layout.joinRows(IDOK, IDCANCEL);
         return;
     }
     if (!m_fileName.GetSafeHwnd()) {
@@ -275,7 +264,6 @@ void CNavDialogImp::startPlaces() {
         return;
     }
     CString order;
-    m_places.RegisterDropTarget();
     if (m_facade.GetAllDialogsData(L"PlacesOrder0", order)) {
         m_places.LoadFromOrder();
     } else {
@@ -298,6 +286,7 @@ void CNavDialogImp::startPictures() {
         {&m_toolsButton, IDB_KNAV_TOOLS, IDS_KNAV_TIP_TOOLS},
         {&m_viewsButton, IDB_KNAV_VIEWS, IDS_KNAV_TIP_VIEWS},
     };
+    m_backButton.SetPictureDirectional(1);
     for (const ButtonLook& look : looks) {
         look.button->SetPictureId(look.picture);
         look.button->SetTipText(knav::messageText(look.tip));
@@ -306,6 +295,7 @@ void CNavDialogImp::startPictures() {
 
 void CNavDialogImp::captureLayout() {
     m_layout.capture(m_facade.GetSafeHwnd(), knav::navLayoutRows(), IDC_KNAV_VIEW);
+    m_layout.fitScreen();
 }
 
 void CNavDialogImp::startFocus() {
@@ -314,4 +304,14 @@ void CNavDialogImp::startFocus() {
         first.SetFocus();
     }
     selectFileNameText();
+}
+
+/// What nobody can need before the dialog is there to be seen.
+void CNavDialogImp::finishStart() {
+    m_started = true;
+    startAccessibility();
+    UpdateAutoCompletion();
+    if (m_places.GetSafeHwnd() && !m_policies.noPlacesList) {
+        m_places.RegisterDropTarget();
+    }
 }

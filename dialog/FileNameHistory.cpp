@@ -1,11 +1,12 @@
-// The most recently used file names, and the name searched along the search path.
+// The most recently used file names, their completion, and the name searched along the search path.
 #include <knav/CNavDataArray.h>
+#include <knav/CNavNode.h>
 #include <ry/RyUt.h>
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
-#include "dialog/NameRules.h"
 #include "resources/ids.h"
+#include "shell/TextRules.h"
 
 namespace {
 
@@ -63,6 +64,20 @@ int CNavDialogImp::AddFileNameToMRU(const CString& name) {
     return 0;
 }
 
+int CNavDialogImp::GetAutoCompleteRegValue() {
+    return knav::FileNameCompletion::isWanted() ? 1 : 0;
+}
+
+void CNavDialogImp::UpdateAutoCompletion() {
+    CNavNode* node = currentFolderNode();
+    CString folder;
+    if (m_started && m_appendCompletion && m_fileName.GetSafeHwnd() && node && node->GetNameForParsing(folder) &&
+        !folder.IsEmpty()) {
+        const HWND edit = GetWindow(m_fileName.GetSafeHwnd(), GW_CHILD);
+        m_completion.update(edit, folder, *m_currentFilter, !m_options.creatingFile);
+    }
+}
+
 void CNavDialogImp::AddDataToHistory() {
     if (m_policies.noRecentDocsHistory) {
         return;
@@ -76,7 +91,7 @@ void CNavDialogImp::AddDataToHistory() {
 }
 
 void CNavDialogImp::LocateFile() {
-    const CString name = CString(knav::trim(fileNameText().view()));
+    const CString name = CString(knav::trimmed(fileNameText().view()));
     if (name.IsEmpty()) {
         return;
     }
@@ -107,5 +122,5 @@ int CNavDialogImp::FindInSearchPath(const wchar_t* name, CString* found) {
 }
 
 void CNavDialogImp::DisplaySearchError(const wchar_t* name) {
-    knav::showMessage(IDS_KNAV_LOCATE_FAILED, name);
+    knav::showMessage(m_facade, IDS_KNAV_LOCATE_FAILED, name);
 }

@@ -22,6 +22,31 @@ Span grown(Span at, Grow how, LONG by) {
     return at;
 }
 
+Span spanAcross(const LaidOut& item) {
+    return {item.at.left, item.at.right};
+}
+
+Span spanDown(const LaidOut& item) {
+    return {item.at.top, item.at.bottom};
+}
+
+// How much less room a control can do with by itself.
+LONG spare(Span at, Grow how, LONG room) {
+    switch (how) {
+        case Grow::Move:
+            return at.from;
+        case Grow::Stretch:
+            return (at.to - at.from) / 2;
+        case Grow::Stay:
+            break;
+    }
+    return room - at.to;
+}
+
+bool meets(Span a, Span b) {
+    return a.from < b.to && b.from < a.to;
+}
+
 }  // namespace
 
 Grow growAlong(int from, int to, int bodyFrom, int bodyTo) {
@@ -49,11 +74,30 @@ void Layout::add(UINT id, const RECT& at) {
         item.down = growAlong(at.top, at.bottom, m_body->top, m_body->bottom);
     }
     m_items.push_back(item);
+    m_least.reset();
 }
 
 const LaidOut* Layout::find(UINT id) const {
     const auto found = std::ranges::find(m_items, id, &LaidOut::id);
     return found == m_items.end() ? nullptr : &*found;
+}
+
+LaidOut* Layout::find(UINT id) {
+    const auto found = std::ranges::find(m_items, id, &LaidOut::id);
+    return found == m_items.end() ? nullptr : &*found;
+}
+
+void Layout::joinRows(UINT upper, UINT lower) {
+    LaidOut* const first = find(upper);
+    const LaidOut* const second = find(lower);
+    LaidOut* const body = m_body ? find(m_bodyId) : nullptr;
+    if (!first || !second || !body || first->at.bottom > second->at.top || first->at.left != second->at.left)
+        return;
+    const LONG gained = second->at.top - first->at.top;
+    const LONG aside = first->at.right - second->at.left + (second->at.top - first->at.bottom);
+    OffsetRect(&first->at, -aside, gained);
+    body->at.bottom += gained;
+    m_least.reset();
 }
 
 bool Layout::reachesInto(const LaidOut& column, const LaidOut& item) const {
@@ -81,12 +125,38 @@ void Layout::closeColumn(UINT id) {
         if (item.across == Grow::Stay)
             item.at.right -= gained;
     }
+    m_least.reset();
+}
+
+SIZE Layout::leastSize() const {
+    if (!m_least)
+        m_least = findLeast();
+    return *m_least;
+}
+
+SIZE Layout::findLeast() const {
+    LONG across = m_client.cx;
+    LONG down = m_client.cy;
+    for (const LaidOut& item : m_items) {
+        across = std::min(across, spare(spanAcross(item), item.across, m_client.cx));
+        down = std::min(down, spare(spanDown(item), item.down, m_client.cy));
+        for (const LaidOut& other : m_items) {
+            const bool beside = meets(spanDown(item), spanDown(other)) && other.at.right <= item.at.left;
+            if (beside && item.across == Grow::Move && other.across == Grow::Stay)
+                across = std::min(across, item.at.left - other.at.right);
+            const bool below = meets(spanAcross(item), spanAcross(other)) && other.at.bottom <= item.at.top;
+            if (below && item.down == Grow::Move && other.down == Grow::Stay)
+                down = std::min(down, item.at.top - other.at.bottom);
+        }
+    }
+    return {m_client.cx - std::max(across, 0L), m_client.cy - std::max(down, 0L)};
 }
 
 RECT Layout::rectOf(size_t index, SIZE client) const {
     const LaidOut& item = m_items[index];
-    const Span across = grown({item.at.left, item.at.right}, item.across, std::max<LONG>(client.cx - m_client.cx, 0));
-    const Span down = grown({item.at.top, item.at.bottom}, item.down, std::max<LONG>(client.cy - m_client.cy, 0));
+    const SIZE least = leastSize();
+    const Span across = grown(spanAcross(item), item.across, std::max(client.cx, least.cx) - m_client.cx);
+    const Span down = grown(spanDown(item), item.down, std::max(client.cy, least.cy) - m_client.cy);
     return {across.from, down.from, across.to, down.to};
 }
 

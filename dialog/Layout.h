@@ -45,8 +45,16 @@ public:
     /// Gives the room of a column left of the body (a control that is not shown) to what stands right of it.
     void closeColumn(UINT id);
 
+    /// Two buttons that stand one above the other where nothing else is left: puts the upper one before the lower one,
+    /// and gives its row to the body and to what ends with the lower one.
+    void joinRows(UINT upper, UINT lower);
+
+    /// The smallest client area that can be laid out: what stretches keeps half of its size, what moves does not come
+    /// to lie over what stays, and what stays is not cut off.
+    SIZE leastSize() const;
+
     /// Where the control at `index` (in the order of adding) goes in a client area of that size. A client area smaller
-    /// than the template's is laid out like the template.
+    /// than the smallest is laid out like that.
     RECT rectOf(size_t index, SIZE client) const;
 
     size_t count() const noexcept { return m_items.size(); }
@@ -55,6 +63,8 @@ public:
 
 private:
     const LaidOut* find(UINT id) const;
+    LaidOut* find(UINT id);
+    SIZE findLeast() const;
     bool reachesInto(const LaidOut& column, const LaidOut& item) const;
 
     SIZE m_client{};
@@ -62,6 +72,7 @@ private:
     UINT m_bodyId = 0;
     std::optional<RECT> m_body;
     std::vector<LaidOut> m_items;
+    mutable std::optional<SIZE> m_least;
 };
 
 }  // namespace knav

@@ -15,26 +15,29 @@ constexpr wchar_t kTaskDialogs[] = L"/RyTaskDialogs;component/TaskDialogs.xaml";
 
 }  // namespace
 
+// Looked up in the one module: a host may have a text of the same number.
 CString messageText(UINT id) {
     CString text;
-    resourceModule();
-    text.LoadString(id);
+    if (const HMODULE module = resourceModule()) {
+        text.LoadString(module, id);
+    }
     return text;
 }
 
 CString messageText(UINT id, const CString& argument) {
-    resourceModule();
-    CString text;
-    AfxFormatString1(text, id, argument);
-    return text;
+    return ZoFormatText(messageText(id), {argument});
 }
 
-int showMessage(UINT id, UINT flags) {
-    return AfxMessageBox(messageText(id), flags);
+int showMessage(CWnd& owner, UINT id, UINT flags) {
+    return showText(owner, messageText(id), flags);
 }
 
-int showMessage(UINT id, const CString& argument, UINT flags) {
-    return AfxMessageBox(messageText(id, argument), flags);
+int showMessage(CWnd& owner, UINT id, const CString& argument, UINT flags) {
+    return showText(owner, messageText(id, argument), flags);
+}
+
+int showText(CWnd& owner, const CString& text, UINT flags) {
+    return ZoMessageBox(owner.GetSafeHwnd(), text, nullptr, flags);
 }
 
 int showText(CWnd& owner, const CString& text, const CString& caption, UINT flags) {

@@ -13,9 +13,11 @@ namespace knav {
 CString messageText(UINT id);
 CString messageText(UINT id, const CString& argument);
 
-/// Shows a message and returns the button that was chosen. `flags` are those of MessageBox.
-int showMessage(UINT id, UINT flags = MB_OK);
-int showMessage(UINT id, const CString& argument, UINT flags = MB_OK);
+/// Shows a message over the owner and returns the button that was chosen. `flags` are those of MessageBox. Without a
+/// caption it has the program's name.
+int showMessage(CWnd& owner, UINT id, UINT flags = MB_OK);
+int showMessage(CWnd& owner, UINT id, const CString& argument, UINT flags = MB_OK);
+int showText(CWnd& owner, const CString& text, UINT flags = MB_OK);
 int showText(CWnd& owner, const CString& text, const CString& caption, UINT flags);
 
 /// A key of one of the host framework's task dialogs, and the text in its place.

@@ -5,15 +5,13 @@
 #include <algorithm>
 #include <cwctype>
 
+#include "shell/TextRules.h"
+
 namespace knav {
 namespace {
 
 constexpr std::wstring_view kSeparators = L"\\/";
 constexpr std::wstring_view kWildcards = L"*?";
-
-bool isBlank(wchar_t c) {
-    return std::iswspace(c) != 0;
-}
 
 std::optional<std::wstring> environmentVariable(const std::wstring& name) {
     wchar_t value[260];
@@ -34,26 +32,6 @@ std::wstring cutToPath(std::wstring name) {
 
 }  // namespace
 
-std::wstring_view trimLeft(std::wstring_view text) {
-    while (!text.empty() && isBlank(text.front())) {
-        text.remove_prefix(1);
-    }
-    return text;
-}
-
-std::wstring_view trim(std::wstring_view text) {
-    text = trimLeft(text);
-    while (!text.empty() && isBlank(text.back())) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
-bool equalIgnoringCase(std::wstring_view a, std::wstring_view b) {
-    return CompareStringOrdinal(a.data(), static_cast<int>(a.size()), b.data(), static_cast<int>(b.size()), TRUE) ==
-           CSTR_EQUAL;
-}
-
 std::optional<std::size_t> extensionDot(std::wstring_view name) {
     const std::size_t dot = name.rfind(L'.');
     const std::size_t separator = name.find_last_of(kSeparators);
@@ -64,17 +42,8 @@ std::optional<std::size_t> extensionDot(std::wstring_view name) {
     return dot;
 }
 
-std::wstring_view lastComponent(std::wstring_view text) {
-    for (const wchar_t separator : {L'/', L'\\'}) {
-        if (const std::size_t at = text.rfind(separator); at != std::wstring_view::npos) {
-            return text.substr(at + 1);
-        }
-    }
-    return text;
-}
-
 std::wstring trimName(std::wstring_view name, bool trimBaseEnd) {
-    name = trim(name);
+    name = trimmed(name);
     const auto dot = extensionDot(name);
     if (name.find(L' ') == std::wstring_view::npos || !dot) {
         return std::wstring(name);
@@ -83,9 +52,9 @@ std::wstring trimName(std::wstring_view name, bool trimBaseEnd) {
     const std::size_t baseStart = separator == std::wstring_view::npos ? 0 : separator + 1;
     const std::wstring_view base = name.substr(baseStart, *dot - baseStart);
     std::wstring result(name.substr(0, baseStart));
-    result += trimBaseEnd ? trim(base) : trimLeft(base);
+    result += trimBaseEnd ? trimmed(base) : trimmedLeft(base);
     result += L'.';
-    result += trimLeft(name.substr(*dot + 1));
+    result += trimmedLeft(name.substr(*dot + 1));
     return result;
 }
 
@@ -152,10 +121,10 @@ ExtensionOutcome withFilterExtension(std::wstring_view name, const ExtensionFact
         return endsInSeparator ? unchanged : append();
     }
     const std::wstring typed = L"*" + std::wstring(name.substr(*dot));
-    if (facts.acceptAnyExtension || equalIgnoringCase(typed, pattern)) {
+    if (facts.acceptAnyExtension || equalNoCase(typed, pattern)) {
         return unchanged;
     }
-    if (!facts.isKnown(facts.context, typed)) {
+    if (!facts.isKnown(typed)) {
         return facts.replace || facts.creatingFile ? append() : ExtensionOutcome{std::wstring(name), 0};
     }
     if (!facts.replace) {

@@ -3,6 +3,7 @@
 
 #include <platform/CString.h>
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,16 +13,9 @@ namespace knav {
 /// Longest text of a path: fixed path buffers hold 260 characters with their terminator.
 inline constexpr std::size_t kLongestPath = 259;
 
-std::wstring_view trim(std::wstring_view text);
-std::wstring_view trimLeft(std::wstring_view text);
-bool equalIgnoringCase(std::wstring_view a, std::wstring_view b);
-
 /// Where a name's extension starts: the position of its dot, when the dot lies behind the last separator and is not
 /// the last character.
 std::optional<std::size_t> extensionDot(std::wstring_view name);
-
-/// The text behind the last "/", else behind the last "\", else all of it.
-std::wstring_view lastComponent(std::wstring_view text);
 
 /// Trims both ends, and in a name that then still holds a blank the start of its base name and of its extension.
 /// Only with `trimBaseEnd` also the end of the base name: while the user may still be typing, a blank before the dot
@@ -45,8 +39,7 @@ struct ExtensionFacts {
     bool replace = false;             ///< put the type's extension in place of another type's
     bool creatingFile = false;        ///< a name of unknown type gets the extension appended
     bool acceptAnyExtension = false;  ///< a typed extension stands as typed
-    bool (*isKnown)(const void* context, std::wstring_view pattern) = nullptr;  ///< does a file type have it?
-    const void* context = nullptr;
+    std::function<bool(std::wstring_view pattern)> isKnown = nullptr;  ///< does a file type have it?
 };
 
 /// Whether a pattern says which extension a name gets: "*.dwg" does; "*.*" or "*.dw?" would make names nobody can use.

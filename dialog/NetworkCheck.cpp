@@ -1,139 +1,38 @@
 #include "dialog/NetworkCheck.h"
 
-#include <winnetwk.h>
+#include <ry/RyBackground.h>
 
-#include <condition_variable>
 #include <memory>
-#include <mutex>
-#include <optional>
-#include <thread>
-#include <vector>
 
-#include "dialog/NameRules.h"
+#include "dialog/PaintingWait.h"
+#include "dialog/ResourceModule.h"
+#include "shell/ScopedHandle.h"
+#include "shell/TextRules.h"
 
 namespace knav {
 namespace {
 
 constexpr wchar_t kSeparator = L'\\';
 
-/// The network provider's own text for ERROR_EXTENDED_ERROR, else nothing.
-void takeProviderMessage(unsigned long error, std::wstring& message) {
-    if (error != ERROR_EXTENDED_ERROR) {
-        return;
-    }
-    DWORD code = 0;
-    wchar_t text[512] = L"";
-    wchar_t provider[128] = L"";
-    if (WNetGetLastErrorW(&code, text, 512, provider, 128) == NO_ERROR) {
-        message = text;
-    }
-}
+unsigned g_patience = 10'000;
 
-class ScopedEnum {
+/// What the dialog's thread and the worker share; whoever leaves last frees it. The worker writes, sets the event, and
+/// writes no more.
+struct Check {
+    const ScopedHandle done{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
+    unsigned long error = ERROR_BAD_NETPATH;
+    std::wstring message;
+};
+
+class SetOnExit {
 public:
-    explicit ScopedEnum(NETRESOURCEW& container) {
-        m_error = WNetOpenEnumW(RESOURCE_GLOBALNET, RESOURCETYPE_ANY, 0, &container, &m_handle);
-    }
-    ~ScopedEnum() {
-        if (m_error == NO_ERROR) {
-            WNetCloseEnum(m_handle);
-        }
-    }
-    ScopedEnum(const ScopedEnum&) = delete;
-    ScopedEnum& operator=(const ScopedEnum&) = delete;
-    unsigned long error() const { return m_error; }
-
-    /// Hands each resource to `visit` until that returns true; whether it did.
-    template <class Visit>
-    bool any(Visit&& visit) {
-        std::vector<std::byte> buffer(16384);
-        while (m_error == NO_ERROR) {
-            DWORD count = 0xFFFFFFFF;
-            DWORD size = static_cast<DWORD>(buffer.size());
-            m_error = WNetEnumResourceW(m_handle, &count, buffer.data(), &size);
-            const auto* found = reinterpret_cast<const NETRESOURCEW*>(buffer.data());
-            for (DWORD i = 0; m_error == NO_ERROR && i < count; ++i) {
-                if (visit(found[i])) {
-                    m_error = NO_ERROR;
-                    return true;
-                }
-            }
-        }
-        return false;
-    }
+    explicit SetOnExit(HANDLE event) noexcept : m_event(event) {}
+    ~SetOnExit() { SetEvent(m_event); }
+    SetOnExit(const SetOnExit&) = delete;
+    SetOnExit& operator=(const SetOnExit&) = delete;
 
 private:
-    HANDLE m_handle = nullptr;
-    unsigned long m_error = NO_ERROR;
-};
-
-NETRESOURCEW serverResource(std::wstring& name) {
-    NETRESOURCEW resource{};
-    resource.dwScope = RESOURCE_GLOBALNET;
-    resource.dwType = RESOURCETYPE_ANY;
-    resource.dwDisplayType = RESOURCEDISPLAYTYPE_SERVER;
-    resource.dwUsage = RESOURCEUSAGE_CONTAINER;
-    resource.lpRemoteName = name.data();
-    return resource;
-}
-
-unsigned long resourceInformation(std::wstring name, std::wstring& message) {
-    NETRESOURCEW resource{};
-    resource.dwType = RESOURCETYPE_ANY;
-    resource.lpRemoteName = name.data();
-    std::vector<std::byte> buffer(16384);
-    DWORD size = static_cast<DWORD>(buffer.size());
-    LPWSTR rest = nullptr;
-    const unsigned long error = WNetGetResourceInformationW(&resource, buffer.data(), &size, &rest);
-    takeProviderMessage(error, message);
-    return error;
-}
-
-class PlatformProbe final : public NetworkProbe {
-public:
-    unsigned long server(const std::wstring& server, std::wstring& message) override {
-        std::wstring name = server;
-        NETRESOURCEW resource = serverResource(name);
-        ScopedEnum shares(resource);
-        if (shares.error() != NO_ERROR) {
-            takeProviderMessage(shares.error(), message);
-            return shares.error();
-        }
-        // A server without shares answers all the same.
-        shares.any([](const NETRESOURCEW&) { return true; });
-        return shares.error() == ERROR_NO_MORE_ITEMS ? NO_ERROR : shares.error();
-    }
-
-    unsigned long share(const std::wstring& server, const std::wstring& share, std::wstring& message) override {
-        std::wstring name = server;
-        NETRESOURCEW resource = serverResource(name);
-        const std::wstring wanted = server + L"\\" + share;
-        {
-            ScopedEnum shares(resource);
-            const auto matches = [&](const NETRESOURCEW& found) {
-                return found.lpRemoteName && equalIgnoringCase(found.lpRemoteName, wanted);
-            };
-            if (shares.error() == NO_ERROR && shares.any(matches)) {
-                return NO_ERROR;
-            }
-        }
-        // Hidden shares are not listed, but can be asked for by name.
-        return resourceInformation(wanted, message);
-    }
-
-    unsigned long path(const std::wstring& path, std::wstring& message) override {
-        return resourceInformation(path, message);
-    }
-};
-
-NetworkProbe* g_probe = nullptr;
-
-/// What the dialog's thread and the worker share; whoever leaves last frees it.
-struct Check {
-    std::mutex mutex;
-    std::condition_variable done;
-    std::optional<unsigned long> error;
-    std::wstring message;
+    const HANDLE m_event;
 };
 
 unsigned long ask(NetworkProbe& probe, const NetworkName& name, const std::wstring& text, std::wstring& message) {
@@ -169,13 +68,12 @@ unsigned codeOf(unsigned long error) {
 
 }  // namespace
 
-NetworkProbe& networkProbe() {
-    static PlatformProbe platform;
-    return g_probe ? *g_probe : platform;
+unsigned networkPatience() {
+    return g_patience;
 }
 
-void setNetworkProbe(NetworkProbe* probe) {
-    g_probe = probe;
+void setNetworkPatience(unsigned milliseconds) {
+    g_patience = milliseconds;
 }
 
 NetworkName splitNetworkName(std::wstring_view text) {
@@ -202,21 +100,15 @@ NetworkName splitNetworkName(std::wstring_view text) {
 }
 
 NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, unsigned limit) {
-    auto check = std::make_shared<Check>();
-    std::thread([check, &probe, text = std::wstring(trim(name.view()))] {
-        std::wstring message;
-        const unsigned long error = ask(probe, splitNetworkName(text), text, message);
-        const std::scoped_lock lock(check->mutex);
-        check->error = error;
-        check->message = std::move(message);
-        check->done.notify_one();
-    }).detach();
-
-    std::unique_lock lock(check->mutex);
-    if (!check->done.wait_for(lock, std::chrono::milliseconds(limit), [&] { return check->error.has_value(); })) {
-        return {false, 1, CString()};
+    const auto check = std::make_shared<Check>();
+    const bool started = ryRunInBackground(libraryModule(), [check, &probe, text = std::wstring(trimmed(name.view()))] {
+        const SetOnExit done(check->done.get());  // also when memory ran out: as good as no answer
+        check->error = ask(probe, splitNetworkName(text), text, check->message);
+    });
+    if (!started || !waitWhilePainting(check->done.get(), limit)) {
+        return {false, 1, {}};
     }
-    return {*check->error == NO_ERROR, codeOf(*check->error), CString(check->message)};
+    return {check->error == NO_ERROR, codeOf(check->error), CString(check->message)};
 }
 
 }  // namespace knav

@@ -41,7 +41,12 @@ struct NetworkName {
 };
 NetworkName splitNetworkName(std::wstring_view text);
 
-/// Checks a location on a worker thread and gives up after `limit` milliseconds: it then counts as unreachable.
-NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, unsigned limit = 10'000);
+/// How long the user waits for the network at most, in milliseconds. Default 10,000.
+unsigned networkPatience();
+void setNetworkPatience(unsigned milliseconds);
+
+/// Checks a location on a worker thread and gives up after `limit` milliseconds: it then counts as unreachable. The
+/// calling thread's windows paint themselves meanwhile.
+NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, unsigned limit = networkPatience());
 
 }  // namespace knav

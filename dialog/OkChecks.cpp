@@ -1,7 +1,6 @@
 // The checks of a chosen file's drive, network location and presence.
 #include <direct.h>
 #include <knav/CNavDataArray.h>
-#include <platform/CWaitCursor.h>
 #include <platform/Prompt.h>
 #include <platform/Url.h>
 #include <wininet.h>
@@ -9,10 +8,8 @@
 #include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
 #include "dialog/NameRules.h"
-#include "dialog/NetworkCheck.h"
 #include "resources/ids.h"
 #include "shell/ScopedHandle.h"
-#include "shell/TextRules.h"
 
 namespace {
 
@@ -72,28 +69,30 @@ int CNavDialogImp::validateDrive(const CString& name) {
     if (problem == 0) {
         return 1;
     }
-    knav::showMessage(problem, *drive);
+    knav::showMessage(m_facade, problem, *drive);
     refuseFileName();
     return 0;
 }
 
+/// Whether the file system may be asked about a text without the danger of waiting for a server that is not there.
+bool CNavDialogImp::withinReach(const CString& text) {
+    if (!m_ok.running) {
+        m_ok.network.forget();
+    }
+    return m_ok.network.withinReach(text);
+}
+
 int CNavDialogImp::validateUNC(const CString& name) {
-    if (!NavIsUNCPath(name)) {
+    if (withinReach(name)) {
         return 1;
     }
-    knav::NetworkAnswer answer;
-    {
-        const CWaitCursor wait;
-        answer = knav::checkNetworkLocation(knav::networkProbe(), name);
-    }
-    if (answer.reachable) {
-        return 1;
-    }
+    const knav::NetworkAnswer answer = m_ok.network.about(name);
     if (!answer.message.IsEmpty()) {
-        AfxMessageBox(answer.message, MB_OK);
+        knav::showText(m_facade, answer.message);
     } else {
         knav::showMessage(
-            answer.code == knav::kNetworkNameInvalid ? IDS_KNAV_INVALID_NAME : IDS_KNAV_NETWORK_UNREACHABLE, name);
+            m_facade, answer.code == knav::kNetworkNameInvalid ? IDS_KNAV_INVALID_NAME : IDS_KNAV_NETWORK_UNREACHABLE,
+            name);
     }
     refuseFileName();
     return 0;
@@ -153,7 +152,7 @@ bool CNavDialogImp::refuseMissing(CNavData& item) {
     }
     const knav::TaskDialogPair pairs[] = {{L"FeatureName", m_options.caption}, {L"FileName", fileNameText()}};
     if (!knav::showTaskDialog(m_facade, L"Standard.FileNotFound", pairs)) {
-        knav::showMessage(IDS_KNAV_INVALID_PATH, fileNameText());
+        knav::showMessage(m_facade, IDS_KNAV_INVALID_PATH, fileNameText());
     }
     refuseFileName();
     return true;

@@ -48,7 +48,7 @@ int CNavDialogImp::commitParsed(CNavData& item, CNavPathname& path, CNavNode* no
             enterTypedFolder(path);
             return 0;
         case CZoUiPathname::Invalid:
-            knav::showMessage(IDS_KNAV_INVALID_PATH, item.GetText());
+            knav::showMessage(m_facade, IDS_KNAV_INVALID_PATH, item.GetText());
             refuseFileName();
             return 0;
         default:
@@ -95,7 +95,7 @@ int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathn
     if (NavIsURL(text) && ((last != L'/' && last != L'\\') || m_options.foldersOnly)) {
         item.SetDataType(NAV_DATA_URL);
         CNavPathname url;
-        url.Parse(text, false);
+        url.SetURL(text);
         item.SetPathname(&url);
         return 1;
     }
@@ -104,7 +104,7 @@ int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathn
         {L"FieldName", knav::messageText(IDS_KNAV_UNSUPPORTED_FIELD)},
         {L"UnsupportedCharacters", knav::messageText(IDS_KNAV_UNSUPPORTED_CHARACTERS)}};
     if (!knav::showTaskDialog(m_facade, L"Standard.Object.UnsupportCharacters", pairs)) {
-        knav::showMessage(IDS_KNAV_INVALID_PATH, text);
+        knav::showMessage(m_facade, IDS_KNAV_INVALID_PATH, text);
     }
     refuseFileName();
     return 0;
@@ -115,7 +115,7 @@ void CNavDialogImp::enterTypedFolder(CNavPathname& folder) {
     if (!NavigateToDir(folder)) {
         CString path;
         folder.GetFullPath(path);
-        knav::showMessage(IDS_KNAV_INVALID_PATH, path);
+        knav::showMessage(m_facade, IDS_KNAV_INVALID_PATH, path);
         refuseFileName();
         return;
     }
@@ -130,7 +130,7 @@ void CNavDialogImp::parseOtherItems() {
         CNavData* item = m_data.GetData(i);
         const bool isFile = item && (item->GetDataType() == NAV_DATA_FILE || item->GetDataType() == NAV_DATA_NETWORK);
         CNavPathname path;
-        if (isFile && path.Parse(item->GetText(), true) == PathErr::None) {
+        if (isFile && withinReach(item->GetText()) && path.Parse(item->GetText(), true) == PathErr::None) {
             item->SetPathname(&path);
         }
     }

@@ -50,6 +50,10 @@ OkHandlerErr CNavDialogImp::finishItem(CNavData& item) {
     UpdateFileExtension(text, 0);
     resolveShortcut(item, text);
     item.SetText(text);
+    if (!withinReach(text)) {
+        item.SetDataType(NAV_DATA_NETWORK);
+        return OkErrNone;  // the user is told when the name is committed
+    }
     if (CString name = item.GetTextInFolder(); isRoot(currentFolderNode()) && !name.IsEmpty()) {
         item.SetText(name);
     }
@@ -103,17 +107,26 @@ std::optional<CString> CNavDialogImp::folderTextForNames(CNavNode* node, CString
     return folder;
 }
 
+/// Whether the folder shown lies on a server that has gone meanwhile; its text is then in `folder`.
+bool CNavDialogImp::folderOutOfReach(CString& folder) {
+    GetCurrentFolderForPersistence(folder);
+    return !withinReach(folder);
+}
+
 OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CString& text) {
     text = item->GetText();
     CNavNode* node = currentFolderNode();
-    if (isRoot(node)) {
+    const NAV_DATA_TYPE type = item->GetDataType();
+    if (isRoot(node) || type == NAV_DATA_URL || type == NAV_DATA_NETWORK) {
         return OkErrNone;
+    }
+    if (CString shown; folderOutOfReach(shown)) {
+        return knav::appendPath(text, shown) ? OkErrNone : OkErrNameTooLong;
     }
     CString prefix;
     bool unnamed = false;
     const std::optional<CString> folder = folderTextForNames(node, prefix, unnamed);
-    const NAV_DATA_TYPE type = item->GetDataType();
-    if (unnamed || type == NAV_DATA_URL || type == NAV_DATA_NETWORK) {
+    if (unnamed) {
         return OkErrNone;
     }
     CNavPathname parsed;
@@ -148,11 +161,7 @@ int CNavDialogImp::UpdateFileExtension(CString& name, int replace) {
     }
     knav::ExtensionFacts facts{pattern.view(), replace != 0, m_options.creatingFile != 0,
                                m_options.acceptAnyFileExtension != 0};
-    facts.context = &m_filters;
-    facts.isKnown = [](const void* filters, std::wstring_view typed) {
-        const auto* known = static_cast<const CNavFilterArray*>(filters);
-        return const_cast<CNavFilterArray*>(known)->Find(CString(typed)) >= 0;
-    };
+    facts.isKnown = [this](std::wstring_view typed) { return m_filters.Find(CString(typed)) >= 0; };
     const knav::ExtensionOutcome outcome = knav::withFilterExtension(name.view(), facts);
     name = outcome.name;
     return outcome.result;
@@ -162,6 +171,9 @@ int CNavDialogImp::IsExistingFolder(const CString& name) {
     CString directory;
     if (PathIsUNCServerW(name) || PathIsUNCServerShareW(name) || ExtractDirectoryFromURL(name, directory)) {
         return 1;
+    }
+    if (!withinReach(name)) {
+        return 0;
     }
     CNavPathname parsed;
     CNavNode* node = lookInNode();
@@ -177,7 +189,8 @@ int CNavDialogImp::IsExistingFolder(const CString& name) {
 
 int CNavDialogImp::ExtractDirectoryFromURL(const CString& url, CString& directory) {
     const auto path = knav::pathOfFileUrl(url.view());
-    const DWORD attributes = path ? GetFileAttributesW(path->c_str()) : INVALID_FILE_ATTRIBUTES;
+    const DWORD attributes =
+        path && withinReach(CString(*path)) ? GetFileAttributesW(path->c_str()) : INVALID_FILE_ATTRIBUTES;
     if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_DIRECTORY)) {
         return 0;
     }

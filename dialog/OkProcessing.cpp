@@ -23,14 +23,16 @@ bool isFileType(NAV_DATA_TYPE type) {
 
 void CNavDialogImp::OnOK() {
     // Prompts and hooks pump messages: the items that are being worked on must not change under them.
-    if (m_inOk) {
+    if (m_ok.running) {
         return;
     }
+    m_ok.closing = false;
+    m_ok.network.forget();
     {
-        const knav::ScopedFlag inOk(m_inOk);
+        const knav::ScopedFlag running(m_ok.running);
         processOk();
     }
-    if (std::exchange(m_selectionMissed, false) && !m_closing) {
+    if (std::exchange(m_ok.selectionMissed, false) && !m_ok.closing) {
         postToSelf(OwnMessage::SyncSelection);
     }
 }
@@ -51,7 +53,7 @@ void CNavDialogImp::processOk() {
         first->SetText(directory);
     }
     if (m_facade.OnFileNameOK()) {
-        m_closing = true;
+        m_ok.closing = true;
         parseOtherItems();
         AddDataToHistory();
         m_facade.CZoUiDialog::OnOK();
@@ -59,7 +61,7 @@ void CNavDialogImp::processOk() {
 }
 
 void CNavDialogImp::OnCancel() {
-    if (m_placesListDirty && knav::showMessage(IDS_KNAV_KEEP_PLACES, MB_YESNO | MB_ICONQUESTION) == IDYES) {
+    if (m_placesListDirty && knav::showMessage(m_facade, IDS_KNAV_KEEP_PLACES, MB_YESNO | MB_ICONQUESTION) == IDYES) {
         SavePlacesList();
     }
     m_facade.CZoUiDialog::OnCancel();
@@ -145,18 +147,19 @@ void CNavDialogImp::rememberName() {
 void CNavDialogImp::reportNameError(OkHandlerErr error) {
     switch (error) {
         case OkErrNoFileSystemFolder:
-            knav::showMessage(m_options.creatingFile ? IDS_KNAV_NO_FOLDER_TO_SAVE : IDS_KNAV_NO_FOLDER_TO_OPEN);
+            knav::showMessage(m_facade,
+                              m_options.creatingFile ? IDS_KNAV_NO_FOLDER_TO_SAVE : IDS_KNAV_NO_FOLDER_TO_OPEN);
             break;
         case OkErrNameTooLong: {
             const knav::TaskDialogPair pairs[] = {{L"ObjectName", knav::messageText(IDS_KNAV_NAME_OBJECT)},
                                                   {L"FieldName", knav::messageText(IDS_KNAV_NAME_FIELD)}};
             if (!knav::showTaskDialog(m_facade, L"Standard.InvalidName.TooLong", pairs)) {
-                knav::showMessage(IDS_KNAV_INVALID_NAME);
+                knav::showMessage(m_facade, IDS_KNAV_INVALID_NAME);
             }
             break;
         }
         default:
-            knav::showMessage(IDS_KNAV_INVALID_NAME);
+            knav::showMessage(m_facade, IDS_KNAV_INVALID_NAME);
     }
     refuseFileName();
 }

@@ -8,6 +8,8 @@
 #include <memory>
 #include <string>
 
+#include "data/ApiEdge.h"
+
 namespace knav {
 namespace {
 
@@ -16,13 +18,6 @@ constexpr wchar_t kModuleName[] = L"KnavRes.dll";
 std::wstring& language() {
     static std::wstring name;
     return name;
-}
-
-HINSTANCE libraryModule() {
-    HMODULE module = nullptr;
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<const wchar_t*>(&libraryModule), &module);
-    return module;
 }
 
 /// With a language: its folder beside the host's executable. Without one the name alone, which the loader finds beside
@@ -37,30 +32,52 @@ std::wstring modulePath() {
     return path + language() + L"\\" + kModuleName;
 }
 
-/// Loaded once; freed with the library.
+/// Freed with the library.
 class Module {
 public:
-    Module() : m_module(RyUtResource::loadDll(modulePath().c_str(), libraryModule())) {
-        if (m_module) {
-            m_link = std::make_unique<CDynLinkLibrary>(m_module);
-        } else {
-            AfxMessageBox(L"KnavRes.dll not found");
-        }
-    }
+    Module() = default;
     ~Module() {
         m_link.reset();
-        RyUtResource::freeDll(m_module);
+        if (RyUtResource::freeDll(m_module)) {
+            m_module = nullptr;
+        }
     }
     Module(const Module&) = delete;
     Module& operator=(const Module&) = delete;
-    HINSTANCE get() const { return m_module; }
+
+    HINSTANCE get() {
+        // The box is shown after the attempt was noted: its messages may lead back here.
+        if (!m_tried) {
+            m_tried = true;
+            load();
+            if (!m_module) {
+                AfxMessageBox(L"KnavRes.dll not found");
+            }
+        }
+        return m_module;
+    }
 
 private:
-    HINSTANCE m_module;
+    void load() {
+        m_module = RyUtResource::loadDll(modulePath().c_str(), libraryModule());
+        if (m_module) {
+            m_link = std::make_unique<CDynLinkLibrary>(m_module);
+        }
+    }
+
+    bool m_tried = false;
+    HINSTANCE m_module = nullptr;
     std::unique_ptr<CDynLinkLibrary> m_link;
 };
 
 }  // namespace
+
+HINSTANCE libraryModule() {
+    HMODULE module = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<const wchar_t*>(&libraryModule), &module);
+    return module;
+}
 
 void setResourceLanguage(const wchar_t* name) {
     language() = name ? name : L"";
@@ -71,8 +88,13 @@ HMODULE resourceModule() {
     return module.get();
 }
 
+HMODULE templateModule() {
+    const HMODULE module = resourceModule();
+    return module ? module : libraryModule();
+}
+
 }  // namespace knav
 
 void KNavSetLanguage(const wchar_t* language) {
-    knav::setResourceLanguage(language);
+    knav::atApiEdge([&] { knav::setResourceLanguage(language); });
 }

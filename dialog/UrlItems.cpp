@@ -7,12 +7,13 @@
 #include "dialog/NameRules.h"
 #include "resources/ids.h"
 #include "shell/Guard.h"
+#include "shell/SiteLocation.h"
 
 namespace {
 
 /// The name that an item's folder knows it by: the last component, without the scheme it may start with.
 std::wstring nameAtSite(const CNavNode& node, const CString& text) {
-    std::wstring_view name = knav::lastComponent(text.view());
+    std::wstring_view name = knav::lastName(text.view());
     const std::wstring_view scheme = node.IsFTP() ? L"ftp://" : L"https://";
     if (name.starts_with(scheme)) {
         name.remove_prefix(scheme.size());
@@ -29,7 +30,7 @@ int CNavDialogImp::VerifyURLSave() {
         return 1;
     }
     if (node->GetType() == NavNodeExtensionRoot) {
-        knav::showMessage(IDS_KNAV_NO_SAVE_AT_ROOT);
+        knav::showMessage(m_facade, IDS_KNAV_NO_SAVE_AT_ROOT);
         return 0;
     }
     std::wstring name = nameAtSite(*node, item->GetText());
@@ -42,7 +43,7 @@ int CNavDialogImp::VerifyURLSave() {
         [&] { return folder->ParseDisplayName(nullptr, nullptr, name.data(), nullptr, &found, nullptr); });
     const auto existing = knav::ItemList::adopt(SUCCEEDED(result) ? found : nullptr);
     return !existing ||
-           knav::showMessage(IDS_KNAV_REPLACE_REMOTE, item->GetText(), MB_YESNO | MB_ICONQUESTION) == IDYES;
+           knav::showMessage(m_facade, IDS_KNAV_REPLACE_REMOTE, item->GetText(), MB_YESNO | MB_ICONQUESTION) == IDYES;
 }
 
 int CNavDialogImp::OnUrlOK() {

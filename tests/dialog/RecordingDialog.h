@@ -59,15 +59,15 @@ public:
         return TestDialog::GetDownloadActionCodes(url);
     }
     void PrepareOkMenu(CMenu* menu) override {
-        note("PrepareOkMenu");
+        note("PrepareOkMenu", firstOf(menu));
         TestDialog::PrepareOkMenu(menu);
     }
     void PrepareToolsMenu(CMenu* menu) override {
-        note("PrepareToolsMenu");
+        note("PrepareToolsMenu", firstOf(menu));
         TestDialog::PrepareToolsMenu(menu);
     }
     void PrepareViewsMenu(CMenu* menu) override {
-        note("PrepareViewsMenu");
+        note("PrepareViewsMenu", firstOf(menu));
         TestDialog::PrepareViewsMenu(menu);
     }
     OkHandlerErr PreprocessData(CNavDataArray& items) override {
@@ -82,7 +82,7 @@ public:
                    : TestDialog::CombineDataTextWithFolderName(item, text);
     }
     int UpdateFileExtension(CString& name, int replace) override {
-        note("UpdateFileExtension", name);
+        note("UpdateFileExtension", name + (replace ? L" replace" : L""));
         return TestDialog::UpdateFileExtension(name, replace);
     }
     int OnFileNameOK() override {
@@ -161,6 +161,12 @@ public:
     CString startUrl;
 
 private:
+    /// The command of a menu's first entry, as a text.
+    static CString firstOf(CMenu* menu) {
+        CString id;
+        id.Format(L"%u", menu->GetMenuItemID(0));
+        return id;
+    }
     void note(const char* hook, const wchar_t* argument = nullptr) {
         log.push_back(argument ? std::string(hook) + " " + utf8(argument) : hook);
     }

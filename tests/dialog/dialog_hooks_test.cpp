@@ -1,5 +1,7 @@
 // What a host that overrides the hooks gets to see, and what its answers do.
+#include <knav/CNavPathname.h>
 #include "dialog/Messages.h"
+
 #include "dialog/RecordingDialog.h"
 
 namespace knav::test {
@@ -49,6 +51,31 @@ TEST_F(DialogHooks, OkWhenOpening_AsksNothingAboutSaving) {
     EXPECT_EQ(DialogUser(dialog).type(L"plan.dwg").ok().run(), IDOK);
     EXPECT_EQ(dialog.count("VerifyURLSave"), 0);
     EXPECT_EQ(dialog.count("OnUrlOK"), 0);
+}
+
+TEST_F(DialogHooks, TypedUrlOfAnyScheme_ReachesTheHost) {
+    struct Row {
+        const wchar_t* typed;
+        const wchar_t* url;
+    };
+    constexpr Row rows[] = {
+        {L"http://host/a.dwg", L"http://host/a.dwg"},
+        {L"HTTP://Host/a.dwg", L"http://Host/a.dwg"},
+        {L"file:///C:/missing/a.dwg", L"file:///C:/missing/a.dwg"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(utf8(row.typed));
+        RecordingDialog dialog(folder.path());
+        dialog.answers["OnUrlOK"] = 1;
+        EXPECT_EQ(DialogUser(dialog).type(row.typed).ok().run(), IDOK);
+        ASSERT_EQ(dialog.data.GetCount(), 1);
+        const CNavData& item = *dialog.data.GetData(0);
+        EXPECT_EQ(item.GetDataType(), NAV_DATA_URL);
+        CString url;
+        EXPECT_EQ(item.GetURL(url), 1);
+        EXPECT_EQ(url, row.url);
+        EXPECT_TRUE(item.GetPathname()->GetIsURL());
+    }
 }
 
 TEST_F(DialogHooks, EachName_IsCombinedOnItsOwn) {
@@ -123,6 +150,88 @@ TEST_F(DialogHooks, WhatTheUserDoes_ReachesItsHook) {
     EXPECT_THAT(dialog.log, Not(Contains("PreprocessData")));
 }
 
+/// Presses the right end of a button, where its menu is.
+void pressMenuPart(HWND button) {
+    RECT area{};
+    GetClientRect(button, &area);
+    PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(area.right - 5, area.bottom / 2));
+    PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(area.right - 5, area.bottom / 2));
+}
+
+TEST_F(DialogHooks, Menus_ArePreparedEachTimeTheyDrop) {
+    RecordingDialog dialog(folder.path());
+    const std::pair<UINT, std::string> rows[] = {
+        {IDC_KNAV_TOOLS, "PrepareToolsMenu " + std::to_string(IDM_KNAV_FIND)},
+        {IDC_KNAV_VIEWS, "PrepareViewsMenu " + std::to_string(IDM_KNAV_LIST)},
+        {IDOK, "PrepareOkMenu " + std::to_string(IDM_KNAV_OPEN)},
+    };
+    DialogUser user(dialog);
+    user.settle();
+    for (const auto& [button, note] : rows) {
+        for (int times = 1; times <= 2; ++times) {
+            user.check([button] { pressMenuPart(DialogDriver::control(button)); });
+            user.until(note, [&dialog, note, times] { return dialog.count(note) == times; });
+            user.settle().check([] { EndMenu(); }).settle();
+        }
+    }
+    user.cancel();
+    EXPECT_EQ(user.run(), IDCANCEL);
+    EXPECT_THAT(dialog.log, Not(Contains("PreprocessData"))) << "a menu was opened, nothing was chosen";
+}
+
+TEST_F(DialogHooks, TypedUrl_IsOfferedToTheHostBeforeTheDialogCloses) {
+    constexpr wchar_t url[] = L"http://host/plans/plan.dwg";
+    RecordingDialog dialog(folder.path());
+    dialog.answers["OnUrlOK"] = 0;
+    DialogUser user(dialog);
+    user.type(url).settle().check([&] { dialog.log.clear(); }).ok();
+    user.until("the refusal", [&] { return dialog.count("OnUrlOK") == 1; }).settle().check([&] {
+        expectNameReadyToRetype(url);
+        dialog.answers["OnUrlOK"] = 1;
+    });
+    user.ok();
+    EXPECT_EQ(user.run(), IDOK);
+    const std::vector<std::string> order = {"PreprocessData", "CombineDataTextWithFolderName " + utf8(url),
+                                            "OnFileNameOK", "OnUrlOK"};
+    std::vector<std::string> twice = order;
+    twice.insert(twice.end(), order.begin(), order.end());
+    EXPECT_EQ(dialog.only(order), twice);
+    ASSERT_THAT(dialog.chosen(), ElementsAre(url));
+    EXPECT_EQ(dialog.data.GetData(0)->GetDataType(), NAV_DATA_URL);
+    EXPECT_EQ(dialog.count("BeginDownloadFiles"), 0) << "the host's answer stands for the whole transfer";
+}
+
+TEST_F(DialogHooks, OtherFileType_AsksForTheExtensionToBeReplaced) {
+    RecordingDialog dialog(folder.path());
+    dialog.SetCreatingFile(1);
+    DialogUser user(dialog);
+    user.type(L"new.dwg").chooseType(kTexts).untilName(L"new.txt").cancel();
+    EXPECT_EQ(user.run(), IDCANCEL);
+    EXPECT_EQ(dialog.count("UpdateFileExtension new.dwg replace"), 1);
+}
+
+TEST_F(DialogHooks, HostThatThrows_EndsItsOwnCallOnly) {
+    struct Throwing : RecordingDialog {
+        using RecordingDialog::RecordingDialog;
+        void OnFileNameChange() override { throw std::runtime_error("the host's own fault"); }
+        int OnFileNameOK() override {
+            return count("PreprocessData") == 1 ? throw std::bad_alloc() : RecordingDialog::OnFileNameOK();
+        }
+    };
+    Throwing dialog(folder.path());
+    DialogUser user(dialog);
+    user.type(L"plan.dwg").ok().until("the first attempt", [&] { return dialog.count("PreprocessData") == 1; });
+    user.settle().ok();
+    EXPECT_EQ(user.run(), IDOK);
+
+    struct NeverReady : RecordingDialog {
+        using RecordingDialog::RecordingDialog;
+        int GetProductName(CString&) override { throw std::runtime_error("the host's own fault"); }
+    };
+    NeverReady unusable(folder.path());
+    EXPECT_EQ(unusable.DoModal(), -1);
+}
+
 TEST_F(DialogHooks, RefusingHook_KeepsTheDialogOpen) {
     for (const char* const hook : {"PreprocessData", "OnFileNameOK", "VerifyURLSave"}) {
         SCOPED_TRACE(hook);
@@ -174,10 +283,11 @@ TEST_F(DialogHooks, Locate_SearchesThroughTheHooksAndReportsThroughThem) {
     user.check([] { expectNameReadyToRetype(L"knav-nowhere.dwg"); });
     user.type(L"notepad.exe").command(IDM_KNAV_LOCATE).untilName(expected).cancel();
     EXPECT_EQ(user.run(), IDCANCEL);
-    EXPECT_THAT(dialog.only({"OnDoLocate", "FindInSearchPath knav-nowhere.dwg", "DisplaySearchError knav-nowhere.dwg",
-                             "FindInSearchPath notepad.exe", "DisplaySearchError notepad.exe"}),
-                ElementsAre("OnDoLocate", "FindInSearchPath knav-nowhere.dwg", "DisplaySearchError knav-nowhere.dwg",
-                            "OnDoLocate", "FindInSearchPath notepad.exe"));
+    EXPECT_THAT(
+        dialog.only({"OnDoLocate", "FindInSearchPath knav-nowhere.dwg", "DisplaySearchError knav-nowhere.dwg",
+                     "FindInSearchPath notepad.exe", "DisplaySearchError notepad.exe", "LocateFile"}),
+        ElementsAre("OnDoLocate", "LocateFile", "FindInSearchPath knav-nowhere.dwg",
+                    "DisplaySearchError knav-nowhere.dwg", "OnDoLocate", "LocateFile", "FindInSearchPath notepad.exe"));
     ASSERT_EQ(prompts.seen().size(), 1u);
     EXPECT_EQ(prompts.seen()[0].text, messageText(IDS_KNAV_LOCATE_FAILED, L"knav-nowhere.dwg"));
 }

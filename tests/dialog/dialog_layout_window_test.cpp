@@ -81,9 +81,23 @@ TEST_P(LayoutWindow, comboBox_keepsItsListAndItsSelection) {
     EXPECT_EQ(MAKELONG(2, 4), SendMessageW(m_combo, CB_GETEDITSEL, 0, 0));
 }
 
-TEST_P(LayoutWindow, smallestSize_isTheTemplatesOwn) {
-    EXPECT_EQ(400, m_layout.minTrack().cx);
-    EXPECT_EQ(300, m_layout.minTrack().cy);
+TEST_P(LayoutWindow, smallestSize_leavesHalfOfTheBody) {
+    const RECT body = m_layout.bodyRect();
+    const SIZE least = m_layout.minTrack();
+    EXPECT_EQ(400 - (body.right - body.left) / 2, least.cx);
+    EXPECT_EQ(300 - (body.bottom - body.top) / 2, least.cy);
+    grow(least.cx - 400, least.cy - 300);
+    EXPECT_LT(at(m_combo).bottom, at(m_window).bottom);
+    EXPECT_LE(m_layout.bodyRect().right, at(m_right).left);
+}
+
+TEST_P(LayoutWindow, windowLargerThanTheScreen_isMadeToFit) {
+    grow(5000, 5000);
+    m_layout.fitScreen();
+    RECT window{};
+    GetWindowRect(m_window, &window);
+    EXPECT_LE(window.right - window.left, GetSystemMetrics(SM_CXSCREEN));
+    EXPECT_LE(window.bottom - window.top, GetSystemMetrics(SM_CYSCREEN));
 }
 
 TEST_P(LayoutWindow, grip_staysInTheCornerAndGoesWhenMaximised) {

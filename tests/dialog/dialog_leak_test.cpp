@@ -1,5 +1,7 @@
 // Opening and closing the dialog again and again, and folders that misbehave.
 #include <knav/CNavExtensionArray.h>
+#include <knav/NavViewMode.h>
+#include <platform/WindowMessages.h>
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/DialogUser.h"
@@ -12,15 +14,62 @@ namespace {
 
 class DialogLeak : public DialogTest {};
 
-TEST_F(DialogLeak, FiftyRuns_LeaveNothingBehind) {
+/// Shows another folder, changes the view, and cancels itself, each as soon as there is nothing else to do.
+class RestlessDialog : public TestDialog {
+public:
+    RestlessDialog(const CString& start, const CString& next, unsigned mode)
+        : TestDialog(start), m_next(next), m_mode(mode) {}
+
+protected:
+    LRESULT onIdle(WPARAM wParam, LPARAM lParam) {
+        if (OnKickIdle(wParam, lParam)) {
+            return TRUE;
+        }
+        switch (m_step++) {
+            case 0:
+                EXPECT_TRUE(NavigateToFolder(m_next));
+                return TRUE;
+            case 1:
+                EXPECT_NE(GetViewMode(), m_mode);
+                SetViewMode(m_mode);
+                return TRUE;
+            case 2:
+                EXPECT_EQ(shownFolder(), m_next);
+                EXPECT_EQ(GetViewMode(), m_mode);
+                PostMessage(WM_COMMAND, IDCANCEL);
+                return FALSE;
+            default:
+                return FALSE;
+        }
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    const CString m_next;
+    const unsigned m_mode;
+    int m_step = 0;
+};
+BEGIN_MESSAGE_MAP(RestlessDialog, TestDialog)
+ON_MESSAGE(WM_KICKIDLE, &RestlessDialog::onIdle)
+END_MESSAGE_MAP()
+
+class DialogLeakInMode : public DialogTest, public testing::WithParamInterface<unsigned> {};
+
+TEST_P(DialogLeakInMode, FiftyOpeningsBrowsesAndChangesOfView_LeaveNothingBehind) {
     folder.addFile(L"a.dwg");
+    const CString next = folder.addFolder(L"sub");
+    folder.addFile(L"sub\\b.dwg");
     EXPECT_EQ(growthOver(50,
                          [&] {
-                             TestDialog dialog(folder.path());
-                             EXPECT_EQ(DialogUser(dialog).untilShown({L"a.dwg"}).cancel().run(), IDCANCEL);
+                             RestlessDialog dialog(folder.path(), next, GetParam());
+                             EXPECT_EQ(dialog.DoModal(), IDCANCEL);
                          }),
               ObjectCounts{});
 }
+
+// The dialogs start with details. Four times fifty, so that each is done in the time that a test has.
+INSTANTIATE_TEST_SUITE_P(Modes, DialogLeakInMode,
+                         testing::Values(NavViewLargeIcons, NavViewSmallIcons, NavViewList, NavViewThumbnails));
 
 TEST_F(DialogLeak, MovingAroundAndChoosing_LeavesNothingBehind) {
     // The system's own list of recent documents grows.

@@ -222,11 +222,7 @@ TEST_F(DialogOpen, SameObjectRunsAgain_AndStartsEmpty) {
 
 TEST_F(DialogOpen, TenThousandFiles_OpenAndPick) {
     constexpr int kFiles = 10'000;
-    for (int i = 0; i < kFiles; ++i) {
-        CString name;
-        name.Format(L"plan%05d.dwg", i);
-        CloseHandle(CreateFileW(folder.path(name), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
-    }
+    folder.addFiles(kFiles, L"plan%05d.dwg");
     TestDialog dialog(folder.path());
     DialogUser user(dialog);
     user.until("all files", [] { return ListView_GetItemCount(viewList()) == kFiles; }).check([] {

@@ -1,5 +1,8 @@
 // What a dialog remembers from one run to the next, and what the user's policies switch off.
+#include "dialog/CNavDialogImp.h"
 #include "dialog/DialogUser.h"
+#include "dialog/Messages.h"
+#include "support/TestExtension.h"
 
 namespace knav::test {
 namespace {
@@ -202,6 +205,74 @@ TEST_F(DialogSettings, NoBackPolicy_TakesTheBackButtonAway) {
     EXPECT_EQ(user.run(), IDCANCEL);
 }
 
+TEST_F(DialogSettings, SecondRun_KnowsNothingOfThePoliciesAndFileTypesOfTheFirst) {
+    setPolicy(L"Comdlg32", L"NoPlacesBar");
+    TestDialog dialog(folder.path());
+    look(dialog, [&] { EXPECT_EQ(dialog.GetNoPlacesList(), 1); });
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Comdlg32",
+                       L"NoPlacesBar");
+    dialog.filters.SetFrom(L"Models\0*.obj\0", 1);
+    dialog.SetFoldersOnly(1);
+    look(dialog, [&] {
+        EXPECT_EQ(dialog.GetNoPlacesList(), 0);
+        EXPECT_TRUE(IsWindowVisible(DialogDriver::control(IDC_KNAV_PLACES)));
+        CString pattern;
+        dialog.GetCurrentFileExtension(pattern);
+        EXPECT_EQ(pattern, L"") << "folders have no file type";
+    });
+}
+
+TEST_F(DialogSettings, ExtensionThatIsSwitchedOff_IsLeftOutUnlessTheHostWantsIt) {
+    constexpr wchar_t key[] = L"Software\\Kelvara\\Dialogs\\AllNavDialogs";
+    constexpr wchar_t value[] = L"StoreExtensionOff";
+    constexpr DWORD on = 1;
+    RegisteredForTest extensions;
+    const auto store = FakeFolder::make(L"Store");
+    extensions.add(L"Store", store);
+    ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, value, REG_DWORD, &on, sizeof on), ERROR_SUCCESS);
+    const auto rows = [&](int useFlags) {
+        TestDialog dialog(folder.path());
+        dialog.SetUseRegExtensionFlags(useFlags);
+        std::pair<LRESULT, LRESULT> counts;
+        look(dialog, [&] {
+            const HWND lookIn = DialogDriver::control(IDC_KNAV_LOOK_IN);
+            SendMessageW(lookIn, CB_SHOWDROPDOWN, TRUE, 0);  // until then it holds the way to the folder only
+            counts = {SendMessageW(lookIn, CB_GETCOUNT, 0, 0),
+                      SendMessageW(DialogDriver::control(IDC_KNAV_PLACES), LB_GETCOUNT, 0, 0)};
+            SendMessageW(lookIn, CB_SHOWDROPDOWN, FALSE, 0);
+        });
+        return counts;
+    };
+    const auto [lookIn, places] = rows(1);
+    const auto [lookInWithAll, placesWithAll] = rows(0);
+    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, key, value);
+    EXPECT_EQ(lookInWithAll, lookIn + 1);
+    EXPECT_EQ(placesWithAll, places + 1);
+}
+
+TEST_F(DialogSettings, Texts_AreTheLibrarysOwnAlthoughTheHostHasSomeOfTheSameNumbers) {
+    wchar_t hosts[100] = L"";
+    ASSERT_NE(LoadStringW(nullptr, IDS_KNAV_INVALID_NAME, hosts, 100), 0);
+    EXPECT_NE(messageText(IDS_KNAV_INVALID_NAME), hosts);
+    EXPECT_FALSE(messageText(IDS_KNAV_INVALID_NAME).IsEmpty());
+}
+
+TEST_F(DialogSettings, HostTemplateWithoutALookInList_ShowsTheInitialFolderAllTheSame) {
+    ResultArrays arrays;
+    CNavDialog dialog(arrays.data, arrays.filters, 2001, nullptr, GetModuleHandleW(nullptr));
+    dialog.SetForceInitialFolder(folder.path(L"sub"));
+    DialogDriver driver;
+    driver.wait("the folder", [] { return viewList() && ListView_GetItemCount(viewList()) > 0; });
+    driver.then("look", [&] {
+        CString shown;
+        dialog.GetCurrentFolderForPersistence(shown);
+        EXPECT_EQ(shown, folder.path(L"sub"));
+        EXPECT_THAT(shownNames(), ElementsAre(L"b.txt", L"c.txt")) << "without a list of types all files are shown";
+    });
+    driver.click(IDCANCEL);
+    EXPECT_EQ(driver.run([&] { return dialog.DoModal(); }), IDCANCEL);
+}
+
 struct InitialNameRow {
     const char* why;
     const wchar_t* given;
@@ -257,6 +328,7 @@ TEST_F(DialogSettings, OkButtonTextAndCaption_AreShown) {
     dialog.SetOkButtonText(L"&Attach");
     look(dialog, [&] {
         EXPECT_EQ(DialogDriver::text(IDOK), L"&Attach");
+        EXPECT_EQ(static_cast<CNavDialogImp*>(dialog.GetImpObject())->okButton().GetZoUiParent(), &dialog);
         dialog.SetOkButtonText(L"&Bind");
         EXPECT_EQ(DialogDriver::text(IDOK), L"&Bind");
         dialog.SetDialogCaption(L"  Bind ");

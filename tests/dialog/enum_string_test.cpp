@@ -102,6 +102,14 @@ TEST_F(EnumString, WithoutPatterns_EverythingPasses) {
     EXPECT_EQ(rest(names.get(), 1).size(), 7u);
 }
 
+TEST_F(EnumString, PatternForAllNames_LetsEverythingPass) {
+    for (const wchar_t* const everything : {L"*.*", L"*"}) {
+        const auto names = suggestions(source, folder.path(), {L"*.none", everything});
+        EXPECT_EQ(rest(names.get(), 1).size(), 7u) << utf8(everything);
+        names->Reset();
+    }
+}
+
 TEST_F(EnumString, FolderWithADotInItsName_DoesNotLendItToAFile) {
     folder.addFile(L"v1.5\\readme");
     FakeStrings one({L"readme"});

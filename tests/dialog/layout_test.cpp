@@ -36,7 +36,7 @@ TEST_P(LayoutOfOne, grownDialog_puts) {
     layout.add(row.id, row.at);
     expectRect(row.expected, layout.rectOf(0, {700, 450}), row.why);
     expectRect(row.at, layout.rectOf(0, kTemplate), "the template's own size changes nothing");
-    expectRect(row.at, layout.rectOf(0, {300, 100}), "a smaller client area is laid out like the template");
+    expectRect(layout.rectOf(0, layout.leastSize()), layout.rectOf(0, {0, 0}), "smaller than the smallest");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -69,6 +69,30 @@ Layout withColumn() {
     layout.add(kName, {190, 336, 480, 356});
     layout.add(kOk, {500, 336, 580, 360});
     return layout;
+}
+
+TEST(Layout, leastSize_leavesHalfOfWhatStretchesAndNothingCovered) {
+    Layout layout = withColumn();
+    EXPECT_EQ(kTemplate.cx - 290 / 2, layout.leastSize().cx) << "half of the name field";
+    EXPECT_EQ(kTemplate.cy - 260 / 2, layout.leastSize().cy) << "half of the body and the column";
+    expectRect({190, 206, 335, 226}, layout.rectOf(3, layout.leastSize()), "name field");
+    expectRect({355, 206, 435, 230}, layout.rectOf(4, layout.leastSize()), "OK");
+    layout.add(kStranger, {300, 180, 330, 370});  // beside the body, it stays across
+    layout.add(kUp, {390, 340, 420, 360});
+    EXPECT_EQ(kTemplate.cx - 60, layout.leastSize().cx) << "a button moves up to what stays and no further";
+}
+
+TEST(Layout, joinedRows_putTheButtonsSideBySideAndGrowTheBody) {
+    Layout layout(kTemplate, kRows, kBodyId, kBody);
+    layout.add(kBodyId, kBody);
+    layout.add(kOk, {500, 340, 580, 360});
+    layout.add(kUp, {500, 366, 580, 386});
+    layout.joinRows(kOk, kUp);
+    expectRect({414, 366, 494, 386}, layout.rectOf(1, kTemplate), "with the gap that was between the rows");
+    expectRect({500, 366, 580, 386}, layout.rectOf(2, kTemplate), "the lower one stays");
+    expectRect({120, 40, 580, 326}, layout.rectOf(0, kTemplate), "the body");
+    layout.joinRows(kOk, kUp);
+    expectRect({414, 366, 494, 386}, layout.rectOf(1, kTemplate), "once is enough");
 }
 
 TEST(Layout, closedColumn_givesItsRoomToTheRight) {

@@ -1,10 +1,14 @@
 #include "dialog/NetworkCheck.h"
 
+#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <mutex>
 
+#include "dialog/DialogUser.h"
+#include "dialog/FolderTexts.h"
+#include "dialog/NetworkAnswers.h"
 #include "support/Printers.h"
 
 namespace knav {
@@ -55,10 +59,14 @@ public:
     unsigned long path(const std::wstring& path, std::wstring& message) override {
         return note(L"path " + path, message);
     }
-    std::wstring asked() const { return m_asked; }
+    std::wstring asked() const {
+        const std::scoped_lock lock(m_mutex);
+        return m_asked;
+    }
 
 private:
     unsigned long note(std::wstring question, std::wstring& message) {
+        const std::scoped_lock lock(m_mutex);
         m_asked = std::move(question);
         message = m_message;
         return m_error;
@@ -66,8 +74,12 @@ private:
 
     const unsigned long m_error;
     const std::wstring m_message;
+    mutable std::mutex m_mutex;
     std::wstring m_asked;
 };
+
+/// A thread can start late on a machine that has much to do.
+constexpr unsigned kLongEnough = 50'000;
 
 TEST(NetworkCheck, ReachableLocation_IsAskedForByItsKind) {
     const std::pair<const wchar_t*, const wchar_t*> rows[] = {
@@ -77,7 +89,7 @@ TEST(NetworkCheck, ReachableLocation_IsAskedForByItsKind) {
     };
     for (const auto& [name, question] : rows) {
         FakeNetwork network(NO_ERROR);
-        EXPECT_TRUE(checkNetworkLocation(network, name).reachable) << test::utf8(name);
+        EXPECT_TRUE(checkNetworkLocation(network, name, kLongEnough).reachable) << test::utf8(name);
         EXPECT_EQ(network.asked(), question);
     }
 }
@@ -97,7 +109,7 @@ TEST(NetworkCheck, RefusedLocation_TellsInvalidNamesFromUnreachableOnes) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.why);
         FakeNetwork network(row.error, L"in the network's words");
-        const NetworkAnswer answer = checkNetworkLocation(network, L"\\\\knav-no-such-server\\plans");
+        const NetworkAnswer answer = checkNetworkLocation(network, L"\\\\knav-no-such-server\\plans", kLongEnough);
         EXPECT_FALSE(answer.reachable);
         EXPECT_EQ(answer.code == kNetworkNameInvalid, row.invalidName);
         EXPECT_EQ(answer.message, L"in the network's words");
@@ -107,13 +119,13 @@ TEST(NetworkCheck, RefusedLocation_TellsInvalidNamesFromUnreachableOnes) {
 TEST(NetworkCheck, LocationThatWantsALogin_IsThere) {
     for (const unsigned long error : {ERROR_ACCESS_DENIED, ERROR_LOGON_FAILURE, ERROR_INVALID_PASSWORD}) {
         FakeNetwork network(error);
-        EXPECT_TRUE(checkNetworkLocation(network, L"\\\\srv\\plans").reachable) << error;
+        EXPECT_TRUE(checkNetworkLocation(network, L"\\\\srv\\plans", kLongEnough).reachable) << error;
     }
 }
 
 TEST(NetworkCheck, TextThatIsNoNetworkName_IsInvalidWithoutAsking) {
     FakeNetwork network(NO_ERROR);
-    const NetworkAnswer answer = checkNetworkLocation(network, L"\\\\\\srv");
+    const NetworkAnswer answer = checkNetworkLocation(network, L"\\\\\\srv", kLongEnough);
     EXPECT_FALSE(answer.reachable);
     EXPECT_EQ(answer.code, kNetworkNameInvalid);
     EXPECT_EQ(network.asked(), L"");
@@ -128,6 +140,10 @@ public:
         const unsigned long error = FakeNetwork::server(name, message);
         m_answered = true;
         return error;
+    }
+    unsigned long path(const std::wstring& name, std::wstring& message) override { return server(name, message); }
+    unsigned long share(const std::wstring& name, const std::wstring&, std::wstring& message) override {
+        return server(name, message);
     }
     void letGo() { SetEvent(m_letGo); }
     bool answered() const { return m_answered; }
@@ -154,6 +170,105 @@ TEST(NetworkCheck, NetworkThatDoesNotAnswer_IsGivenUpInTime) {
     }
     EXPECT_TRUE(network.answered());
     Sleep(20);
+}
+
+/// A window that counts how often it is painted.
+class PaintedWindow {
+public:
+    PaintedWindow()
+        : m_window(CreateWindowExW(0, WC_STATICW, L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr,
+                                   nullptr)) {
+        SetWindowSubclass(m_window, &count, 1, reinterpret_cast<DWORD_PTR>(this));
+        InvalidateRect(m_window, nullptr, TRUE);
+    }
+    ~PaintedWindow() { DestroyWindow(m_window); }
+    PaintedWindow(const PaintedWindow&) = delete;
+    PaintedWindow& operator=(const PaintedWindow&) = delete;
+    HWND window() const { return m_window; }
+    int painted() const { return m_painted; }
+    int keys() const { return m_keys; }
+
+private:
+    static LRESULT CALLBACK count(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR self) {
+        auto& counted = *reinterpret_cast<PaintedWindow*>(self);
+        counted.m_painted += message == WM_PAINT;
+        counted.m_keys += message == WM_KEYDOWN;
+        return DefSubclassProc(window, message, wParam, lParam);
+    }
+
+    int m_painted = 0;
+    int m_keys = 0;
+    const HWND m_window;
+};
+
+TEST(NetworkCheck, WhileTheAnswerIsAwaited_WindowsPaintAndKeysStayForLater) {
+    static HangingNetwork network;
+    PaintedWindow window;
+    PostMessageW(window.window(), WM_KEYDOWN, VK_RETURN, 1);
+    EXPECT_FALSE(checkNetworkLocation(network, L"\\\\srv", 60).reachable);
+    network.letGo();
+    EXPECT_GE(window.painted(), 1);
+    EXPECT_EQ(window.keys(), 0);
+    MSG message;
+    EXPECT_TRUE(PeekMessageW(&message, window.window(), WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE));
+}
+
+TEST(NetworkCheck, AnswersAreKeptForOneThingTheUserDoesAndShareOnePatience) {
+    static FakeNetwork there(NO_ERROR);
+    setNetworkProbe(&there);
+    NetworkAnswers answers;
+    EXPECT_TRUE(answers.withinReach(L"\\\\srv\\plans\\a.dwg"));
+    EXPECT_EQ(there.asked(), L"path \\\\srv\\plans\\a.dwg");
+    EXPECT_TRUE(answers.withinReach(L"\\\\SRV\\Plans\\sub\\b.dwg"));
+    EXPECT_TRUE(answers.withinReach(L"C:\\plans"));
+    EXPECT_EQ(there.asked(), L"path \\\\srv\\plans\\a.dwg") << "the share is known";
+    EXPECT_TRUE(answers.withinReach(L"\\\\srv\\plans"));
+    EXPECT_EQ(there.asked(), L"share \\\\srv plans");
+    answers.forget();
+    EXPECT_TRUE(answers.withinReach(L"\\\\srv\\plans\\c.dwg"));
+    EXPECT_EQ(there.asked(), L"path \\\\srv\\plans\\c.dwg");
+
+    static HangingNetwork gone;
+    setNetworkProbe(&gone);
+    setNetworkPatience(200);
+    answers.forget();
+    const ULONGLONG start = GetTickCount64();
+    for (const wchar_t* const name : {L"\\\\one", L"\\\\two", L"\\\\three", L"\\\\four", L"\\\\one"}) {
+        EXPECT_FALSE(answers.withinReach(name));
+    }
+    EXPECT_LT(GetTickCount64() - start, 700u);
+    gone.letGo();
+    setNetworkPatience(10'000);
+    setNetworkProbe(nullptr);
+}
+
+TEST(NetworkCheck, OptionsOnAServerThatIsGone_AreTakenByTheirTextAlone) {
+    static HangingNetwork gone;
+    setNetworkProbe(&gone);
+    setNetworkPatience(50);
+    {
+        test::TestDialog dialog;
+        const CString path = L"\\\\gone\\plans\\house.dwg";
+        dialog.SetInitialFileName(path);
+        dialog.SetForceInitialFolder(path);
+        CString name;
+        CString extension;
+        CString forced;
+        CString folder;
+        dialog.GetInitialFileName(name);
+        dialog.GetDefaultFileExtension(extension);
+        dialog.GetForceInitialFolder(forced);
+        dialog.GetDefaultInitialFolder(folder);
+        EXPECT_EQ(name, L"house.dwg");
+        EXPECT_EQ(extension, L"dwg");
+        EXPECT_EQ(forced, L"");
+        EXPECT_EQ(folder, currentDirectory());
+        EXPECT_EQ(dialog.NavigateToFolder(L"\\\\gone\\plans"), 0);
+    }
+    EXPECT_EQ(gone.asked(), L"") << "nobody has an answer yet";
+    gone.letGo();
+    setNetworkPatience(10'000);
+    setNetworkProbe(nullptr);
 }
 
 }  // namespace

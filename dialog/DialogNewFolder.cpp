@@ -1,0 +1,160 @@
+// Making a new folder, and letting the user name it.
+#include <knav/CNavNode.h>
+#include <knav/NavNames.h>
+
+#include <set>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/Messages.h"
+#include "resources/ids.h"
+#include "shell/Guard.h"
+
+namespace {
+
+/// Names of the folder's items that contain `part`, or nothing when the folder cannot be enumerated.
+std::optional<std::set<std::wstring>> namesContaining(IShellFolder* folder, HWND owner, const CString& part) {
+    constexpr SHCONTF all = SHCONTF_FOLDERS | SHCONTF_NONFOLDERS | SHCONTF_INCLUDEHIDDEN;
+    const auto items =
+        knav::ComPtr<IEnumIDList>::from([&](IEnumIDList** list) { return folder->EnumObjects(owner, all, list); });
+    if (!items) {
+        return std::nullopt;
+    }
+    std::set<std::wstring> names;
+    while (true) {
+        ITEMIDLIST* raw = nullptr;
+        if (knav::guarded([&] { return items->Next(1, &raw, nullptr); }) != S_OK) {
+            return names;
+        }
+        const auto item = knav::ItemList::adopt(raw);
+        CString name;
+        if (NavGetItemNameInFolder(folder, item.get(), name) && name.Find(part) >= 0) {
+            names.emplace(name.view());
+        }
+    }
+}
+
+bool isRemote(const CNavNode& node) {
+    return node.IsFTP() || node.IsWebFoldersType() || node.IsInternetType();
+}
+
+}  // namespace
+
+CString CNavDialogImp::GetNewFolderNameToAdd() {
+    const CString base = knav::messageText(IDS_KNAV_NEW_FOLDER_NAME);
+    IShellFolder* folder = m_browser.GetCurrentFolder();
+    const auto taken = folder ? namesContaining(folder, m_facade.GetSafeHwnd(), base) : std::nullopt;
+    if (!taken) {
+        return CString();
+    }
+    CString candidate = base;
+    const int most = static_cast<int>(taken->size()) + 1;
+    for (int n = 2; taken->contains(std::wstring(candidate.view())) && n <= most + 1; ++n) {
+        candidate.Format(L"%s (%d)", base, n);
+    }
+    return candidate;
+}
+
+void CNavDialogImp::CmdNewFolder() {
+    const CNavNode* node = currentFolderNode();
+    if (!m_newFolderButton.IsWindowEnabled() || !node) {
+        return;
+    }
+    if (node->GetType() == NavNodeExtensionRoot && node->IsFTPRoot()) {
+        OnFTPConfig();
+        return;
+    }
+    const CString name = GetNewFolderNameToAdd();
+    if (name.IsEmpty()) {
+        return;
+    }
+    if (isRemote(*node)) {
+        CreateNewWebFolder(name);
+    } else {
+        createFolderOnDisk(name);
+    }
+}
+
+void CNavDialogImp::createFolderOnDisk(const CString& name) {
+    CNavPathname folder;
+    CString path;
+    if (!selectedFolderPathname(folder) || !folder.GetFullPath(path)) {
+        return;
+    }
+    const CString full = CString(path).TrimRight(L'\\') + L"\\" + name;
+    if (!CreateDirectoryW(full, nullptr)) {
+        knav::showMessage(m_facade, IDS_KNAV_NEW_FOLDER_FAILED, name);
+        return;
+    }
+    SHChangeNotify(SHCNE_MKDIR, SHCNF_PATHW | SHCNF_FLUSH, full.GetString(), nullptr);
+    renameWhenShown(name);
+}
+
+/// A namespace that can make folders has the verb for it on the menu of its background; it is told the name.
+void CNavDialogImp::CreateNewWebFolder(const CString& name) {
+    IShellFolder* folder = m_browser.GetCurrentFolder();
+    const auto menu = knav::ComPtr<IContextMenu>::from([&](IContextMenu** made) {
+        return folder->CreateViewObject(m_facade.GetSafeHwnd(), IID_IContextMenu, reinterpret_cast<void**>(made));
+    });
+    CMINVOKECOMMANDINFOEX invoke{};
+    invoke.cbSize = sizeof invoke;
+    invoke.fMask = CMIC_MASK_UNICODE;
+    invoke.hwnd = m_facade.GetSafeHwnd();
+    invoke.lpVerb = "NewFolder";
+    invoke.lpVerbW = L"NewFolder";
+    invoke.lpParametersW = name;
+    invoke.nShow = SW_SHOWNORMAL;
+    const bool made =
+        menu &&
+        SUCCEEDED(knav::guarded([&] { return menu->InvokeCommand(reinterpret_cast<CMINVOKECOMMANDINFO*>(&invoke)); }));
+    if (!made) {
+        knav::showMessage(m_facade, IDS_KNAV_NEW_FOLDER_FAILED, name);
+        return;
+    }
+    m_facade.Refresh();
+    renameWhenShown(name);
+}
+
+/// Selects the new folder and lets the user type its name over the one it was made with. A view that has not heard of
+/// it yet is refreshed; one that takes its time over that is asked again for a while.
+void CNavDialogImp::renameWhenShown(const CString& name) {
+    if (beginRename(name)) {
+        return;
+    }
+    m_browser.RefreshView();
+    if (!beginRename(name)) {
+        constexpr ULONGLONG kPatienceMs = 2000;
+        m_newFolder = name;
+        m_newFolderUntil = GetTickCount64() + kPatienceMs;
+    }
+}
+
+void CNavDialogImp::renameNewFolder() {
+    if (!m_newFolder.IsEmpty() && (GetTickCount64() > m_newFolderUntil || beginRename(m_newFolder))) {
+        m_newFolder.Empty();
+    }
+}
+
+bool CNavDialogImp::beginRename(const CString& name) {
+    IShellView* view = m_browser.GetCurrentShellView();
+    const HWND list = m_listInUse->GetSafeHwnd();
+    const auto item = view ? FindIdInCurrentFolder(name) : knav::ItemList();
+    if (!item || !list) {
+        return false;
+    }
+    ::SetFocus(list);
+    constexpr UINT how = SVSI_SELECT | SVSI_DESELECTOTHERS | SVSI_FOCUSED | SVSI_ENSUREVISIBLE | SVSI_EDIT;
+    knav::guarded([&] { return view->SelectItem(item.get(), how); });
+    // Views answer with success for an item that they do not show.
+    return ListView_GetEditControl(list) != nullptr;
+}
+
+knav::ItemList CNavDialogImp::FindIdInCurrentFolder(const CString& name) {
+    IShellFolder* folder = m_browser.GetCurrentFolder();
+    std::wstring text(name.view());
+    ITEMIDLIST* found = nullptr;
+    if (folder) {
+        knav::guarded(
+            [&] { return folder->ParseDisplayName(nullptr, nullptr, text.data(), nullptr, &found, nullptr); });
+    }
+    return knav::ItemList::adopt(found);
+}

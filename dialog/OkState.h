@@ -1,0 +1,15 @@
+// What the dialog keeps while OK is being worked off.
+#pragma once
+
+#include "dialog/NetworkAnswers.h"
+
+namespace knav {
+
+struct OkState {
+    bool running = false;          ///< the items must not change under the steps
+    bool closing = false;          ///< accepted: the dialog is about to end
+    bool selectionMissed = false;  ///< the view's selection changed meanwhile
+    NetworkAnswers network;
+};
+
+}  // namespace knav

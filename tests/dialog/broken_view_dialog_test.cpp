@@ -1,0 +1,71 @@
+// A folder whose folder object, view or data object misbehaves in one method is shown in the dialog.
+#include <knav/NavViewMode.h>
+
+#include "dialog/CNavDialogImp.h"
+#include "dialog/DialogUser.h"
+#include "view/ViewStore.h"
+
+namespace knav::test {
+namespace {
+
+class DialogBrokenView : public DialogTest, public testing::WithParamInterface<Conduct> {
+protected:
+    DialogBrokenView() {
+        m_store.script.standardWindow = true;
+        m_store.script.selection = {L"item"};
+        m_store.script.attributes = SFGAO_FOLDER | SFGAO_FILESYSTEM;
+    }
+
+    /// What a user may do while the folder is shown.
+    static void useFolder(CNavDialogImp& dialog) {
+        const HWND list = dialog.folderListCtrl()->GetSafeHwnd();
+        LVITEMW row{};
+        ListView_InsertItem(list, &row);
+        ListView_SetItemState(list, 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        dialog.SyncEditFieldToBrowser();
+        dialog.UpdateUIState();
+        MSG key{list, WM_KEYDOWN, VK_F2, 1, 0, {}};
+        dialog.PreTranslateMessage(&key);
+        dialog.CmdDelete();
+        dialog.Refresh();
+        dialog.setFileNameText(L"item");
+        dialog.SyncBrowserToEditField();
+        dialog.GetNewFolderNameToAdd();
+        dialog.browser().SetViewMode(dialog.browser().GetViewMode() == NavViewList ? NavViewDetails : NavViewList);
+    }
+
+    ViewStore m_store;
+};
+
+TEST_P(DialogBrokenView, InWhicheverMethod_TheDialogStaysOpenAndUsable) {
+    const CString file = folder.addFile(L"a.dwg");
+    TestDialog dialog(folder.path());
+    auto& implementation = *static_cast<CNavDialogImp*>(dialog.GetImpObject());
+    const auto goThereAndBack = [&](const Misconduct& bad) {
+        EXPECT_TRUE(implementation.NavigateToItemList(m_store.root()));
+        m_store.script.conduct = bad;
+        useFolder(implementation);
+        EXPECT_TRUE(implementation.NavigateToFolder(folder.path()));
+        EXPECT_EQ(shownNames(), std::vector<std::wstring>{L"a.dwg"});
+        if (!implementation.NavigateToItemList(m_store.root())) {
+            EXPECT_EQ(dialog.shownFolder(), folder.path());
+            EXPECT_EQ(shownNames(), std::vector<std::wstring>{L"a.dwg"});
+        }
+        m_store.script.conduct.clear();
+    };
+    DialogUser user(dialog);
+    user.untilShown({L"a.dwg"}).check([&] {
+        for (const ViewCall call : reachedMethods(m_store.script, goThereAndBack)) {
+            SCOPED_TRACE(static_cast<int>(call));
+            goThereAndBack({{call, GetParam()}});
+        }
+        EXPECT_TRUE(implementation.NavigateToFolder(folder.path()));
+    });
+    EXPECT_EQ(user.settle().type(L"a").ok().run(), IDOK);
+    EXPECT_EQ(dialog.chosen(), std::vector{wide(file)});
+}
+
+INSTANTIATE_TEST_SUITE_P(Conducts, DialogBrokenView, testing::Values(Conduct::Fails, Conduct::Faults, Conduct::Throws));
+
+}  // namespace
+}  // namespace knav::test

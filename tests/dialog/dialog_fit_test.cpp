@@ -1,0 +1,302 @@
+// The running dialog as it looks: nothing clipped or covered in any size, and known to assistive tools. The language
+// and the resolution are those of the environment: KNAV_TEST_LANGUAGE (one of the built modules) and KNAV_TEST_DPI.
+#include <knav/CNavHostApplication.h>
+#include <knav/CNavListBox.h>
+#include <oleacc.h>
+
+#include <cstdlib>
+
+#include "controls/Accessible.h"
+#include "dialog/DialogUser.h"
+#include "shell/ComPtr.h"
+
+namespace knav::test {
+namespace {
+
+class DialogFit : public DialogTest {
+protected:
+    DialogFit() {
+        if (const char* language = std::getenv("KNAV_TEST_LANGUAGE")) {
+            const std::string name(language);
+            KNavSetLanguage(std::wstring(name.begin(), name.end()).c_str());
+        }
+        folder.addFile(L"plan.dwg");
+    }
+};
+
+std::wstring textOf(HWND window) {
+    wchar_t text[300] = L"";
+    GetWindowTextW(window, text, 300);
+    return text;
+}
+
+std::wstring classOf(HWND window) {
+    wchar_t name[64] = L"";
+    GetClassNameW(window, name, 64);
+    return name;
+}
+
+RECT rectIn(HWND dialog, HWND control) {
+    RECT rect{};
+    GetWindowRect(control, &rect);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+std::vector<HWND> visibleControls() {
+    std::vector<HWND> controls;
+    for (HWND child = GetWindow(DialogDriver::dialog(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (IsWindowVisible(child) && classOf(child) != L"ScrollBar") {  // the grip lies in the corner on purpose
+            controls.push_back(child);
+        }
+    }
+    return controls;
+}
+
+SIZE extentOf(HWND control) {
+    const HDC dc = GetDC(control);
+    const HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    RECT rect{};
+    DrawTextW(dc, textOf(control).c_str(), -1, &rect, DT_CALCRECT | DT_SINGLELINE);
+    SelectObject(dc, old);
+    ReleaseDC(control, dc);
+    return {rect.right, rect.bottom};
+}
+
+/// Room that a control needs for its text: what a push button has around it, with the arrow of the one with a menu.
+SIZE neededBy(HWND control) {
+    const UINT dpi = GetDpiForWindow(control);
+    const SIZE text = extentOf(control);
+    if (classOf(control) == L"Static") {
+        return text;
+    }
+    const int id = GetDlgCtrlID(control);
+    if (id == IDOK || id == IDCANCEL) {
+        return {text.cx + MulDiv(id == IDOK ? 28 : 10, static_cast<int>(dpi), 96), text.cy};
+    }
+    const int picture = MulDiv(16, static_cast<int>(dpi), 96);
+    return classOf(control) == L"Button" ? SIZE{picture, picture} : SIZE{};
+}
+
+void expectEverythingFits(const char* when) {
+    SCOPED_TRACE(when);
+    const HWND dialog = DialogDriver::dialog();
+    RECT area{};
+    GetClientRect(dialog, &area);
+    std::vector<std::pair<RECT, std::string>> placed;
+    for (HWND control : visibleControls()) {
+        const std::string name = std::to_string(GetDlgCtrlID(control)) + " " + utf8(textOf(control));
+        const RECT at = rectIn(dialog, control);
+        const SIZE needed = neededBy(control);
+        EXPECT_LE(needed.cx, at.right - at.left) << name;
+        EXPECT_LE(needed.cy, at.bottom - at.top) << name;
+        EXPECT_TRUE(at.left >= 0 && at.top >= 0 && at.right <= area.right && at.bottom <= area.bottom)
+            << name << " at " << at.left << "," << at.top << "," << at.right << "," << at.bottom;
+        for (const auto& [other, otherName] : placed) {
+            RECT common{};
+            EXPECT_FALSE(IntersectRect(&common, &at, &other)) << name << " covers " << otherName;
+        }
+        placed.emplace_back(at, name);
+    }
+    EXPECT_GE(placed.size(), 13u);
+}
+
+/// Fields, whose height is the system's, stand in the middle of their rows.
+void expectRowsLevel() {
+    for (const auto& [field, button] : {std::pair{IDC_KNAV_LOOK_IN, IDC_KNAV_UP}, std::pair{IDC_KNAV_FILE_NAME, IDOK},
+                                        std::pair{IDC_KNAV_FILE_TYPE, IDCANCEL}}) {
+        const RECT left = rectIn(DialogDriver::dialog(), DialogDriver::control(static_cast<UINT>(field)));
+        const RECT right = rectIn(DialogDriver::dialog(), DialogDriver::control(static_cast<UINT>(button)));
+        EXPECT_NEAR((left.top + left.bottom) / 2.0, (right.top + right.bottom) / 2.0, 1.0)
+            << field << " " << left.top << "-" << left.bottom;
+    }
+}
+
+/// The labels of the places, which the list cuts when they are too long.
+void expectPlacesFit(CNavListBox& places) {
+    const HDC dc = GetDC(places);
+    const HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(places, WM_GETFONT, 0, 0)));
+    for (int row = 0; row < places.GetCount(); ++row) {
+        const CString text = places.GetItemDisplayText(row);
+        SIZE size{};
+        GetTextExtentPoint32W(dc, text, text.GetLength(), &size);
+        EXPECT_LE(size.cx, places.GetAvailableWidth(row)) << utf8(text.view());
+    }
+    SelectObject(dc, old);
+    ReleaseDC(places, dc);
+}
+
+TEST_F(DialogFit, EveryTextHasRoom_AsOpenedAndAtItsSmallestAndLarge) {
+    TestDialog dialog(folder.path());
+    DialogUser user(dialog);
+    user.untilShown({L"plan.dwg"}).check([&dialog] {
+        expectPlacesFit(*knaviGetPlacesList(&dialog));
+        const HWND window = DialogDriver::dialog();
+        if (const char* dpi = std::getenv("KNAV_TEST_DPI")) {
+            EXPECT_EQ(std::to_string(GetDpiForWindow(window)), dpi);
+        }
+        RECT whole{};
+        GetWindowRect(window, &whole);
+        EXPECT_LE(whole.bottom - whole.top, GetSystemMetrics(SM_CYSCREEN));
+        expectEverythingFits("as opened");
+        expectRowsLevel();
+        SetWindowPos(window, nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER);
+        expectEverythingFits("at the smallest size");
+        RECT least{};
+        GetWindowRect(window, &least);
+        EXPECT_LT(least.right - least.left, whole.right - whole.left) << "it can be made smaller";
+        EXPECT_GT(least.right - least.left, 100);
+        SetWindowPos(window, nullptr, 0, 0, 3000, 2000, SWP_NOMOVE | SWP_NOZORDER);
+        expectEverythingFits("large");
+    });
+    EXPECT_EQ(user.cancel().run(), IDCANCEL);
+}
+
+TEST_F(DialogFit, FoldersOnly_HasOneRowBelowTheView) {
+    TestDialog dialog(folder.path());
+    dialog.SetFoldersOnly(1);
+    DialogUser user(dialog);
+    user.untilShown({}).check([] {
+        expectEverythingFits("as opened");
+        const HWND window = DialogDriver::dialog();
+        const RECT ok = rectIn(window, DialogDriver::control(IDOK));
+        const RECT cancel = rectIn(window, DialogDriver::control(IDCANCEL));
+        EXPECT_EQ(ok.top, cancel.top);
+        EXPECT_LT(ok.right, cancel.left);
+        EXPECT_LT(ok.top - rectIn(window, GetParent(viewList())).bottom, ok.bottom - ok.top) << "and little between";
+    });
+    EXPECT_EQ(user.cancel().run(), IDCANCEL);
+}
+
+TEST_F(DialogFit, LanguageReadFromTheRight_MirrorsTheDialog) {
+    const char* language = std::getenv("KNAV_TEST_LANGUAGE");
+    const bool mirrored = language && language == std::string("xr");
+    TestDialog dialog(folder.path());
+    DialogUser user(dialog);
+    user.untilShown({L"plan.dwg"}).check([mirrored] {
+        const auto leftOf = [](UINT id) {
+            RECT at{};
+            GetWindowRect(DialogDriver::control(id), &at);
+            return at.left;
+        };
+        EXPECT_EQ(leftOf(IDC_KNAV_PLACES) > leftOf(IDC_KNAV_FILE_NAME), mirrored);
+        EXPECT_EQ(leftOf(IDOK) < leftOf(IDC_KNAV_FILE_NAME), mirrored);
+        EXPECT_EQ(leftOf(IDC_KNAV_BACK) > leftOf(IDC_KNAV_TOOLS), mirrored);
+        COMBOBOXINFO info{};
+        info.cbSize = sizeof info;
+        GetComboBoxInfo(DialogDriver::control(IDC_KNAV_FILE_NAME), &info);
+        EXPECT_FALSE(GetWindowLongW(info.hwndItem, GWL_EXSTYLE) & (WS_EX_LAYOUTRTL | WS_EX_RTLREADING))
+            << "names are read from the left all the same";
+    });
+    EXPECT_EQ(user.cancel().run(), IDCANCEL);
+}
+
+// --- assistive tools -------------------------------------------------------------------------------------------
+
+struct Told {
+    std::wstring name;
+    long role = 0;
+    std::wstring shortcut;
+    std::wstring description;
+    long state = 0;
+};
+
+std::wstring take(BSTR text) {
+    const std::wstring taken(text ? text : L"");
+    SysFreeString(text);
+    return taken;
+}
+
+/// What the window's accessible object says, as an assistive tool reads it.
+Told toldBy(HWND window) {
+    ComPtr<IAccessible> object;
+    Told told;
+    if (FAILED(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                                          reinterpret_cast<void**>(object.put())))) {
+        return told;
+    }
+    VARIANT self{};
+    self.vt = VT_I4;
+    VARIANT value{};
+    BSTR text = nullptr;
+    if (object->get_accName(self, &text) == S_OK) {
+        told.name = take(text);
+    }
+    if (object->get_accRole(self, &value) == S_OK) {
+        told.role = value.lVal;
+    }
+    if (object->get_accKeyboardShortcut(self, &(text = nullptr)) == S_OK) {
+        told.shortcut = take(text);
+    }
+    if (object->get_accDescription(self, &(text = nullptr)) == S_OK) {
+        told.description = take(text);
+    }
+    if (object->get_accState(self, &value) == S_OK) {
+        told.state = value.lVal;
+    }
+    return told;
+}
+
+TEST_F(DialogFit, EveryControl_TellsItsNameAndRole) {
+    if (std::getenv("KNAV_TEST_LANGUAGE")) {
+        GTEST_SKIP() << "in English only";
+    }
+    struct Row {
+        UINT id;
+        const wchar_t* name;
+        long role;
+        const wchar_t* shortcut;
+    };
+    constexpr Row rows[] = {
+        {IDC_KNAV_LOOK_IN, L"Look in", ROLE_SYSTEM_COMBOBOX, L"Alt+I"},
+        {IDC_KNAV_BACK, L"Back", ROLE_SYSTEM_PUSHBUTTON, L""},
+        {IDC_KNAV_UP, L"Up One Level", ROLE_SYSTEM_PUSHBUTTON, L""},
+        {IDC_KNAV_REFRESH, L"Refresh", ROLE_SYSTEM_PUSHBUTTON, L""},
+        {IDC_KNAV_WEB, L"Browse the Web", ROLE_SYSTEM_PUSHBUTTON, L"Alt+W"},
+        {IDC_KNAV_DELETE, L"Delete", ROLE_SYSTEM_PUSHBUTTON, L""},
+        {IDC_KNAV_NEW_FOLDER, L"New Folder", ROLE_SYSTEM_PUSHBUTTON, L""},
+        {IDC_KNAV_VIEWS, L"Views", ROLE_SYSTEM_BUTTONMENU, L"Alt+V"},
+        {IDC_KNAV_TOOLS, L"Tools", ROLE_SYSTEM_BUTTONMENU, L"Alt+L"},
+        {IDC_KNAV_PLACES, L"Places", ROLE_SYSTEM_LIST, L""},
+        {IDC_KNAV_FILE_NAME, L"File name", ROLE_SYSTEM_COMBOBOX, L"Alt+N"},
+        {IDC_KNAV_FILE_TYPE, L"Files of type", ROLE_SYSTEM_COMBOBOX, L"Alt+T"},
+        {IDOK, L"Open", ROLE_SYSTEM_SPLITBUTTON, L"Alt+O"},
+        {IDCANCEL, L"Cancel", ROLE_SYSTEM_PUSHBUTTON, L""},
+    };
+    TestDialog dialog(folder.path());
+    DialogUser user(dialog);
+    user.untilShown({L"plan.dwg"}).check([&rows] {
+        for (const Row& row : rows) {
+            const Told told = toldBy(DialogDriver::control(row.id));
+            EXPECT_EQ(utf8(told.name), utf8(row.name));
+            EXPECT_EQ(told.role, row.role) << utf8(row.name);
+            EXPECT_EQ(utf8(told.shortcut), utf8(row.shortcut)) << utf8(row.name);
+        }
+        EXPECT_EQ(utf8(toldBy(viewList()).name), "Contents");
+        EXPECT_EQ(utf8(toldBy(DialogDriver::control(IDC_KNAV_REFRESH)).description), "Refresh (F5)");
+        EXPECT_TRUE(toldBy(DialogDriver::control(IDC_KNAV_TOOLS)).state & STATE_SYSTEM_HASPOPUP);
+        EXPECT_TRUE(toldBy(DialogDriver::control(IDC_KNAV_BACK)).state & STATE_SYSTEM_UNAVAILABLE);
+    });
+    EXPECT_EQ(user.cancel().run(), IDCANCEL);
+}
+
+TEST(AccessibleNames, MarksAndColonsAreLeftOut) {
+    const struct {
+        const wchar_t* caption;
+        const wchar_t* name;
+        const wchar_t* shortcut;
+    } rows[] = {
+        {L"File &name:", L"File name", L"Alt+N"},
+        {L"Save && &close", L"Save & close", L"Alt+C"},
+        {L"Plain", L"Plain", L""},
+        {L"", L"", L""},
+        {L"Odd&", L"Odd&", L""},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(plainName(row.caption), row.name);
+        EXPECT_EQ(shortcutOf(row.caption), row.shortcut) << utf8(row.caption);
+    }
+}
+
+}  // namespace
+}  // namespace knav::test

@@ -1,0 +1,62 @@
+// What happens around an open dialog: a key still held down, and folders that go away.
+#include <filesystem>
+
+#include "dialog/DialogUser.h"
+#include "dialog/Messages.h"
+
+namespace knav::test {
+namespace {
+
+class DialogMeanwhile : public DialogTest {
+protected:
+    static HWND nameField() { return GetWindow(DialogDriver::control(IDC_KNAV_FILE_NAME), GW_CHILD); }
+
+    /// As the keyboard repeats a key that is held down, or as it is pressed anew.
+    static void postEnter(bool repeated) {
+        PostMessageW(nameField(), WM_KEYDOWN, VK_RETURN, repeated ? 0x40000001 : 1);
+    }
+    static void releaseEnter() { PostMessageW(nameField(), WM_KEYUP, VK_RETURN, static_cast<LPARAM>(0xC0000001)); }
+};
+
+TEST_F(DialogMeanwhile, EnterHeldDownSinceBefore_DoesNotAccept) {
+    const CString file = folder.addFile(L"a.dwg");
+    TestDialog dialog(folder.path());
+    dialog.SetInitialFileName(L"a.dwg");
+    bool pressedAnew = false;
+    DialogUser user(dialog);
+    user.untilShown({L"a.dwg"}).check([] {
+        postEnter(true);
+        postEnter(true);
+    });
+    user.settle().check([&] {
+        EXPECT_EQ(dialog.data.GetCount(), 0);
+        pressedAnew = true;
+        releaseEnter();
+        postEnter(false);
+    });
+    EXPECT_EQ(user.run(), IDOK);
+    EXPECT_TRUE(pressedAnew);
+    EXPECT_EQ(dialog.chosen(), std::vector{wide(file)});
+}
+
+TEST_F(DialogMeanwhile, FoldersThatGoAway_AreToldAndTheDialogCanBeUsedOn) {
+    const CString inner = folder.addFolder(L"outer\\inner");
+    const CString file = folder.addFile(L"a.dwg");
+    prompts.answer(IDOK);
+    TestDialog dialog(inner);
+    DialogUser user(dialog);
+    user.untilFolder(inner).settle().check([&] {
+        SetCurrentDirectoryW(folder.path());  // the dialog started in there, and a folder in use stays
+        EXPECT_GT(std::filesystem::remove_all(folder.path(L"outer").GetString()), 0u);
+    });
+    user.command(IDM_KNAV_UP).untilAsked(prompts).settle();
+    user.check([&] { SendMessageW(DialogDriver::dialog(), WM_DEVICECHANGE, 0, 0); }).command(IDM_KNAV_REFRESH).settle();
+    user.type(wide(folder.path())).ok().untilFolder(folder.path()).untilShown({L"a.dwg"});
+    user.command(IDM_KNAV_BACK).settle().check([&] { EXPECT_EQ(dialog.shownFolder(), folder.path()); });
+    user.type(L"a.dwg").ok();
+    EXPECT_EQ(user.run(), IDOK);
+    EXPECT_EQ(dialog.chosen(), std::vector{wide(file)});
+}
+
+}  // namespace
+}  // namespace knav::test

@@ -1,0 +1,160 @@
+// A network provider that the platform's network functions load: a small network of servers that behave in different
+// ways.
+//
+//   \\knavtest   has the shares "plans" and "site"
+//   \\knavbare   has no shares
+//   \\knavslow   never answers
+//
+// Every other server is unknown.
+#include <windows.h>
+// Needs windows.h first and has no linkage of its own.
+extern "C" {
+#include <npapi.h>
+}
+
+#include <algorithm>
+#include <cwchar>
+#include <mutex>
+#include <new>
+#include <string>
+#include <string_view>
+
+#define EXPORTED extern "C" __declspec(dllexport)
+
+namespace {
+
+constexpr wchar_t kProvider[] = L"Test network";
+constexpr std::wstring_view kShares[] = {L"plans", L"site"};
+
+std::mutex g_mutex;
+std::wstring g_questions;
+
+struct Name {
+    std::wstring server;
+    std::wstring share;
+};
+
+Name split(std::wstring_view text) {
+    text.remove_prefix(std::min<std::size_t>(text.size(), 2));
+    const std::size_t serverEnd = std::min(text.find(L'\\'), text.size());
+    const std::wstring_view rest = text.substr(std::min(serverEnd + 1, text.size()));
+    return {std::wstring(text.substr(0, serverEnd)), std::wstring(rest.substr(0, rest.find(L'\\')))};
+}
+
+bool same(std::wstring_view a, std::wstring_view b) {
+    return a.size() == b.size() && _wcsnicmp(a.data(), b.data(), a.size()) == 0;
+}
+
+bool isShare(const std::wstring& name) {
+    return std::ranges::any_of(kShares, [&](std::wstring_view share) { return same(share, name); });
+}
+
+void note(const wchar_t* verb, const wchar_t* name) {
+    const std::scoped_lock lock(g_mutex);
+    g_questions += std::wstring(verb) + L" " + name + L"\n";
+}
+
+DWORD answerOf(const std::wstring& server) {
+    if (same(server, L"knavslow")) {
+        Sleep(INFINITE);
+    }
+    return same(server, L"knavtest") || same(server, L"knavbare") ? WN_SUCCESS : ERROR_BAD_NETPATH;
+}
+
+struct Enumeration {
+    std::wstring server;
+    std::size_t next = 0;
+};
+
+}  // namespace
+
+/// What was asked so far, one question a line, into `text`; starts anew.
+EXPORTED void TakeQuestions(wchar_t* text, std::size_t room) {
+    const std::scoped_lock lock(g_mutex);
+    wcsncpy(text, g_questions.c_str(), room - 1);
+    text[room - 1] = L'\0';
+    g_questions.clear();
+}
+
+EXPORTED DWORD WINAPI NPGetCaps(DWORD index) {
+    switch (index) {
+        case WNNC_SPEC_VERSION:
+            return WNNC_SPEC_VERSION51;
+        case WNNC_START:
+            return WNNC_WAIT_FOR_START;
+        case WNNC_ENUMERATION:
+            return WNNC_ENUM_GLOBAL;
+        case WNNC_DIALOG:
+            return WNNC_DLG_GETRESOURCEINFORMATION;
+        default:
+            return 0;
+    }
+}
+
+EXPORTED DWORD WINAPI NPOpenEnum(DWORD scope, DWORD, DWORD, LPNETRESOURCEW container, LPHANDLE handle) {
+    if (scope != RESOURCE_GLOBALNET) {
+        return WN_NOT_SUPPORTED;
+    }
+    if (!container || !container->lpRemoteName) {
+        return WN_BAD_NETNAME;
+    }
+    note(L"list", container->lpRemoteName);
+    const Name name = split(container->lpRemoteName);
+    if (const DWORD error = answerOf(name.server); error != WN_SUCCESS) {
+        return error;
+    }
+    *handle = new (std::nothrow) Enumeration{name.server};
+    return *handle ? WN_SUCCESS : WN_OUT_OF_MEMORY;
+}
+
+EXPORTED DWORD WINAPI NPEnumResource(HANDLE handle, LPDWORD count, LPVOID buffer, LPDWORD) {
+    auto& all = *static_cast<Enumeration*>(handle);
+    if (!same(all.server, L"knavtest") || all.next == std::size(kShares)) {
+        return WN_NO_MORE_ENTRIES;
+    }
+    // One at a time; the texts follow the record.
+    auto& found = *static_cast<NETRESOURCEW*>(buffer);
+    auto* const texts = reinterpret_cast<wchar_t*>(&found + 1);
+    const std::wstring remote = L"\\\\" + all.server + L"\\" + std::wstring(kShares[all.next++]);
+    wcscpy(texts, remote.c_str());
+    wchar_t* const provider = texts + remote.size() + 1;
+    wcscpy(provider, kProvider);
+    wchar_t* const nothing = provider + std::size(kProvider);
+    *nothing = L'\0';
+    found = {RESOURCE_GLOBALNET,
+             RESOURCETYPE_DISK,
+             RESOURCEDISPLAYTYPE_SHARE,
+             RESOURCEUSAGE_CONNECTABLE,
+             nothing,
+             texts,
+             nothing,
+             provider};
+    *count = 1;
+    return WN_SUCCESS;
+}
+
+EXPORTED DWORD WINAPI NPCloseEnum(HANDLE handle) {
+    delete static_cast<Enumeration*>(handle);
+    return WN_SUCCESS;
+}
+
+EXPORTED DWORD WINAPI NPGetResourceInformation(LPNETRESOURCEW asked, LPVOID buffer, LPDWORD, LPWSTR* rest) {
+    note(L"find", asked->lpRemoteName);
+    const Name name = split(asked->lpRemoteName);
+    if (const DWORD error = answerOf(name.server); error != WN_SUCCESS) {
+        return error;
+    }
+    if (!name.share.empty() && !isShare(name.share)) {
+        return WN_BAD_NETNAME;
+    }
+    auto& found = *static_cast<NETRESOURCEW*>(buffer);
+    auto* const remote = reinterpret_cast<wchar_t*>(&found + 1);
+    wcscpy(remote, asked->lpRemoteName);
+    found = {};
+    found.dwScope = RESOURCE_GLOBALNET;
+    found.dwType = RESOURCETYPE_DISK;
+    found.dwDisplayType = name.share.empty() ? RESOURCEDISPLAYTYPE_SERVER : RESOURCEDISPLAYTYPE_SHARE;
+    found.lpRemoteName = remote;
+    *rest = nullptr;
+    return WN_SUCCESS;
+}
