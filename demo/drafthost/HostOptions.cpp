@@ -15,14 +15,13 @@ struct FlagOption {
 };
 
 constexpr std::array kTexts{
-    TextOption{L"--folder", &HostOptions::folder},
-    TextOption{L"--name", &HostOptions::name},
-    TextOption{L"--filter", &HostOptions::filter},
+    TextOption{L"--folder", &HostOptions::folder},     TextOption{L"--start", &HostOptions::start},
+    TextOption{L"--settings", &HostOptions::settings}, TextOption{L"--language", &HostOptions::language},
+    TextOption{L"--name", &HostOptions::name},         TextOption{L"--filter", &HostOptions::filter},
 };
 constexpr std::array kFlags{
-    FlagOption{L"--save", &HostOptions::save},
-    FlagOption{L"--folders-only", &HostOptions::foldersOnly},
-    FlagOption{L"--multi", &HostOptions::multi},
+    FlagOption{L"--save", &HostOptions::save},   FlagOption{L"--folders-only", &HostOptions::foldersOnly},
+    FlagOption{L"--multi", &HostOptions::multi}, FlagOption{L"--window", &HostOptions::window},
     FlagOption{L"--help", &HostOptions::help},
 };
 
@@ -55,10 +54,13 @@ bool HostOptions::parse(std::span<const wchar_t* const> arguments, HostOptions& 
 }
 
 const char* HostOptions::usage() noexcept {
-    return "drafthost [--folder DIR] [--name TEXT] [--filter \"Drawings (*.dwg)|*.dwg|All files|*.*|\"]\n"
+    return "drafthost [--window [--start DIR]] [--folder DIR] [--settings KEY]\n"
+           "          [--language NAME]\n"
+           "          [--name TEXT] [--filter \"Drawings (*.dwg)|*.dwg|All files|*.*|\"]\n"
            "          [--save] [--folders-only] [--multi]\n"
            "\n"
-           "Shows the file navigation dialog. Prints a line \"picked KIND TEXT\" for each chosen item and exits with "
-           "0;\n"
-           "prints \"cancelled\" and exits with 1 when the dialog was cancelled.\n";
+           "Without options, or with --window, shows a window with the commands of a drafting program. Otherwise shows "
+           "one\n"
+           "file navigation dialog, prints a line \"picked KIND TEXT\" for each chosen item and exits with 0; prints\n"
+           "\"cancelled\" and exits with 1 when the dialog was cancelled.\n";
 }

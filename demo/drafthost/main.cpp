@@ -1,12 +1,16 @@
-// The sample host: shows the dialog as the command line says and prints what was chosen.
+// The sample host. Without options it shows its window; with options it shows one dialog as they say and prints what
+// was chosen.
 #include <knav/CNavDataArray.h>
 #include <knav/CNavDialog.h>
 #include <knav/CNavFilterArray.h>
+#include <knav/CNavHostApplication.h>
 
 #include <cstdio>
 #include <string>
 
+#include "FileTypes.h"
 #include "HostOptions.h"
+#include "MainWindow.h"
 
 namespace {
 
@@ -18,6 +22,14 @@ std::string utf8(const wchar_t* text) {
     WideCharToMultiByte(CP_UTF8, 0, text, -1, result.data(), size, nullptr, nullptr);
     result.resize(result.size() - 1);
     return result;
+}
+
+// A program with windows has no console of its own: it prints into that of the one who started it.
+void useConsoleOfParent() {
+    if (GetStdHandle(STD_OUTPUT_HANDLE) == nullptr && AttachConsole(ATTACH_PARENT_PROCESS)) {
+        std::freopen("CONOUT$", "w", stdout);
+        std::freopen("CONOUT$", "w", stderr);
+    }
 }
 
 void configure(CNavDialog& dialog, const HostOptions& options) {
@@ -35,10 +47,8 @@ void configure(CNavDialog& dialog, const HostOptions& options) {
 }
 
 int pick(const HostOptions& options) {
-    CString types = options.filter + L"||";
-    types.Replace(L'|', L'\0');
     CNavFilterArray filters;
-    filters.SetFrom(types, 1);
+    setFileTypes(filters, options.filter);
     CNavDataArray data;
 
     CNavDialog dialog(data, filters);
@@ -62,6 +72,7 @@ int pick(const HostOptions& options) {
 }  // namespace
 
 int wmain(int count, wchar_t** arguments) {
+    useConsoleOfParent();
     HostOptions options;
     CString error;
     if (!HostOptions::parse({arguments + 1, static_cast<std::size_t>(count - 1)}, options, error)) {
@@ -71,6 +82,15 @@ int wmain(int count, wchar_t** arguments) {
     if (options.help) {
         std::fputs(HostOptions::usage(), stdout);
         return kPicked;
+    }
+    if (!options.language.IsEmpty()) {
+        KNavSetLanguage(options.language);
+    }
+    if (!options.settings.IsEmpty()) {
+        CZoUiDialog::SetDefaultRootKey(options.settings);
+    }
+    if (options.window || count == 1) {
+        return MainWindow(options).DoModal() == kDialogFailed ? kNotShown : kPicked;
     }
     return pick(options);
 }

@@ -1,5 +1,6 @@
 #include "demo/driver/Input.h"
 
+#include <cstdlib>
 #include <vector>
 
 namespace {
@@ -40,6 +41,21 @@ void sendWith(WORD modifier, std::vector<INPUT> inputs) {
     send(std::move(inputs));
 }
 
+// Two clicks at one place soon after each other are a double click, also when they are meant apart.
+void waitUntilClickStandsAlone(POINT position) {
+    static POINT lastPosition{};
+    static ULONGLONG lastTime = 0;
+    const ULONGLONG free = lastTime + GetDoubleClickTime() + kPollMs;
+    const ULONGLONG now = GetTickCount64();
+    const bool sameSpot = std::abs(position.x - lastPosition.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+                          std::abs(position.y - lastPosition.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
+    if (sameSpot && now < free) {
+        Sleep(static_cast<DWORD>(free - now));
+    }
+    lastPosition = position;
+    lastTime = GetTickCount64();
+}
+
 }  // namespace
 
 void knav::input::typeText(std::wstring_view text) {
@@ -56,6 +72,7 @@ void knav::input::pressKey(WORD virtualKey, WORD modifier) {
 }
 
 void knav::input::click(POINT position, int times, WORD modifier) {
+    waitUntilClickStandsAlone(position);
     SetCursorPos(position.x, position.y);
     std::vector<INPUT> inputs;
     for (int i = 0; i < times; ++i) {

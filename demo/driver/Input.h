@@ -12,7 +12,8 @@ namespace knav::input {
 void typeText(std::wstring_view text);
 /// Presses and releases `key` while `modifier` (0: none) is held.
 void pressKey(WORD key, WORD modifier = 0);
-/// Clicks the left button at a screen position, `times` times in a row.
+/// Clicks the left button at a screen position, `times` times in a row. Waits first when the click before it was at the
+/// same place, so that the two are not taken for a double click.
 void click(POINT position, int times = 1, WORD modifier = 0);
 
 /// Polls until `ready` or until `limitMs` has passed; the last answer of `ready`.

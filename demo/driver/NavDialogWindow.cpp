@@ -1,14 +1,19 @@
 #include "demo/driver/NavDialogWindow.h"
 
+#include <algorithm>
 #include <optional>
 #include <stdexcept>
 
 #include "demo/driver/Input.h"
 #include "demo/driver/RemoteList.h"
+#include "demo/driver/WindowSearch.h"
 #include "resources/ids.h"
 
 namespace {
 
+using knav::input::findTopLevel;
+using knav::input::isClass;
+using knav::input::isShownBy;
 using knav::input::RemoteList;
 using knav::input::waitUntil;
 
@@ -22,34 +27,8 @@ std::string utf8(const std::wstring& text) {
     return result;
 }
 
-bool isClass(HWND window, const wchar_t* name) {
-    wchar_t className[64] = L"";
-    GetClassNameW(window, className, ARRAYSIZE(className));
-    return lstrcmpiW(className, name) == 0;
-}
-
-template <class Accept>
-HWND findTopLevel(Accept accept) {
-    struct Search {
-        Accept& accept;
-        HWND found;
-    } search{accept, nullptr};
-    const auto look = [](HWND window, LPARAM parameter) -> BOOL {
-        auto& current = *reinterpret_cast<Search*>(parameter);
-        if (!current.accept(window)) {
-            return TRUE;
-        }
-        current.found = window;
-        return FALSE;
-    };
-    EnumWindows(look, reinterpret_cast<LPARAM>(&search));
-    return search.found;
-}
-
 bool isNavDialog(HWND window, DWORD process) {
-    DWORD owner = 0;
-    GetWindowThreadProcessId(window, &owner);
-    return (process == 0 || process == owner) && IsWindowVisible(window) && isClass(window, L"#32770") &&
+    return isShownBy(window, process) && isClass(window, L"#32770") &&
            GetDlgItem(window, IDC_KNAV_FILE_NAME) != nullptr;
 }
 
@@ -69,12 +48,6 @@ HWND focusOf(HWND dialog) {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;
     return GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &info) ? info.hwndFocus : nullptr;
-}
-
-POINT middleOf(HWND window) {
-    RECT area{};
-    GetWindowRect(window, &area);
-    return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
 }  // namespace
@@ -112,24 +85,35 @@ void knav::input::NavDialogWindow::typeName(const std::wstring& text) const {
     pressKey(VK_END, VK_SHIFT);
     pressKey(VK_DELETE);
     typeText(text);
-    waitUntilHandled();
+    // Completion may take its time over a letter, and adds to the text.
+    if (!waitUntil([&] { return textOf(field).starts_with(text); }, kItemLimitMs)) {
+        throw std::runtime_error("the file name field does not take \"" + utf8(text) + "\"");
+    }
 }
 
 void knav::input::NavDialogWindow::select(const std::vector<std::wstring>& names) const {
-    WORD modifier = 0;
-    for (const std::wstring& name : names) {
-        click(itemPoint(name), 1, modifier);
+    const auto isSelected = [this](const std::wstring& name) {
         const RemoteList items(list());
-        const auto selected = [&] {
-            const std::optional<int> index = items.find(name);
-            return index && items.isSelected(*index);
-        };
-        if (!waitUntil(selected, kItemLimitMs)) {
-            throw std::runtime_error("\"" + utf8(name) + "\" was clicked but is not selected");
+        const std::optional<int> index = items.find(name);
+        return index && items.isSelected(*index);
+    };
+    // A late change of the focus releases the modifier key, and the click then selects one item alone.
+    constexpr int kTries = 3;
+    for (int tries = 0; tries < kTries; ++tries) {
+        WORD modifier = 0;
+        for (const std::wstring& name : names) {
+            click(itemPoint(name), 1, modifier);
+            if (!waitUntil([&] { return isSelected(name); }, kItemLimitMs)) {
+                throw std::runtime_error("\"" + utf8(name) + "\" was clicked but is not selected");
+            }
+            modifier = VK_CONTROL;
         }
-        modifier = VK_CONTROL;
+        waitUntilHandled();
+        if (std::ranges::all_of(names, isSelected)) {
+            return;
+        }
     }
-    waitUntilHandled();
+    throw std::runtime_error("the items clicked with Ctrl do not stay selected together");
 }
 
 void knav::input::NavDialogWindow::open(const std::wstring& name) const {
@@ -138,11 +122,13 @@ void knav::input::NavDialogWindow::open(const std::wstring& name) const {
 
 void knav::input::NavDialogWindow::focusFileType() const {
     const HWND combo = GetDlgItem(m_dialog, IDC_KNAV_FILE_TYPE);
-    for (int opensAndCloses = 0; opensAndCloses < 2; ++opensAndCloses) {
+    // A click opens the list or closes it again; a late change of the focus may have closed it before.
+    const auto ready = [&] { return focusOf(m_dialog) == combo && SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) == 0; };
+    for (int clicks = 0; clicks < 4 && !ready(); ++clicks) {
         click(middleOf(combo));
         waitUntilHandled();
     }
-    if (focusOf(m_dialog) != combo) {
+    if (!ready()) {
         throw std::runtime_error("the list of file types does not take the focus");
     }
 }

@@ -29,6 +29,8 @@ public:
     void pressEnter() const;
     void pressEscape() const;
 
+    /// Waits until the dialog has seen the input that was sent so far.
+    void waitUntilHandled() const;
     /// Waits until the dialog has closed; false when it is still open after that time, or when a box came up over it.
     bool waitUntilClosed(DWORD limitMs = 10'000) const;
     /// The text of the box that has come up over the dialog, or empty. `dismiss` presses its default button.
@@ -40,7 +42,6 @@ private:
     HWND list() const;
     HWND box() const;
     POINT itemPoint(const std::wstring& name) const;
-    void waitUntilHandled() const;
 
     HWND m_dialog;
 };

@@ -18,8 +18,6 @@ namespace {
 
 using knav::input::NavDialogWindow;
 
-constexpr DWORD kPaintMs = 400;
-
 struct Action {
     bool types;
     std::vector<std::wstring> texts;
@@ -72,15 +70,15 @@ Plan parse(int count, wchar_t** arguments) {
 
 void takePicture(const NavDialogWindow& dialog, const Plan& plan) {
     if (!plan.screenshot.empty()) {
-        Sleep(kPaintMs);
-        knav::input::saveScreenshot(dialog.window(), plan.screenshot);
+        knav::input::saveScreenshot({dialog.window()}, plan.screenshot);
     }
 }
 
 void carryOut(const NavDialogWindow& dialog, const Action& action, const Plan& plan, bool last) {
+    const bool pressesOk = last && (plan.foldersOnly || action.texts.size() > 1);
     if (action.types) {
         dialog.typeName(action.texts.front());
-    } else {
+    } else if (pressesOk || (last && !plan.screenshot.empty())) {
         dialog.select(action.texts);
     }
     if (last) {
@@ -88,7 +86,7 @@ void carryOut(const NavDialogWindow& dialog, const Action& action, const Plan& p
     }
     if (action.types) {
         dialog.pressEnter();
-    } else if (last && (plan.foldersOnly || action.texts.size() > 1)) {
+    } else if (pressesOk) {
         dialog.pressOk();
     } else {
         dialog.open(action.texts.front());

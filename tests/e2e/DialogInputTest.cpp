@@ -1,84 +1,8 @@
 // A person at the dialog: real keyboard and mouse input, from a second thread, into the dialog that the first one runs.
-#include <knav/knav.h>
+#include "e2e/DialogInput.h"
 
-#include <exception>
-#include <thread>
-
-#include "demo/driver/Input.h"
-#include "demo/driver/NavDialogWindow.h"
-#include "support/Printers.h"
-#include "support/RegistryRedirect.h"
-#include "support/ScopedTempFolder.h"
-#include "support/ScriptedPrompts.h"
-
-using knav::input::NavDialogWindow;
-using knav::input::pressKey;
-using knav::input::waitUntil;
-using knav::test::ScopedTempFolder;
-
+namespace knav::test {
 namespace {
-
-class DialogInput : public testing::Test {
-protected:
-    DialogInput() {
-        m_folder.addFile(L"plan.dwg");
-        m_folder.addFile(L"site plan.dwg");
-        m_folder.addFile(L"notes.txt");
-        m_folder.addFile(L"Details\\door.dwg");
-        m_filters.SetFrom(L"Drawings\0*.dwg\0Texts\0*.txt\0", 1);
-        m_dialog.SetForceInitialFolder(m_folder.path());
-        m_dialog.SetNoURLsAllowed(1);
-    }
-
-    // Runs the dialog; `person` operates it meanwhile. A dialog left open is cancelled.
-    template <class Person>
-    INT_PTR run(Person person) {
-        std::thread operating([&person] {
-            try {
-                const NavDialogWindow window = NavDialogWindow::waitFor(GetCurrentProcessId());
-                person(window);
-                if (!window.waitUntilClosed()) {
-                    ADD_FAILURE() << "the dialog stays open";
-                    PostMessageW(window.window(), WM_COMMAND, IDCANCEL, 0);
-                }
-            } catch (const std::exception& error) {
-                ADD_FAILURE() << error.what();
-                cancelAll();
-            }
-        });
-        const INT_PTR result = m_dialog.DoModal();
-        operating.join();
-        return result;
-    }
-
-    CString chosen(int index) const {
-        const CNavData* const item = m_data.GetData(index);
-        return item == nullptr ? L"" : item->GetText();
-    }
-
-    ScopedTempFolder m_folder;
-    CNavDataArray m_data;
-    CNavFilterArray m_filters;
-    CNavDialog m_dialog{m_data, m_filters};
-
-private:
-    static void cancelAll() {
-        const auto cancel = [](HWND window, LPARAM) -> BOOL {
-            DWORD process = 0;
-            GetWindowThreadProcessId(window, &process);
-            if (process == GetCurrentProcessId()) {
-                PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
-            }
-            return TRUE;
-        };
-        EnumWindows(cancel, 0);
-    }
-
-    knav::test::RegistryRedirect m_registry;
-    knav::test::ScriptedPrompts m_prompts;
-};
-
-}  // namespace
 
 TEST_F(DialogInput, DoubleClickPicksAFile) {
     EXPECT_EQ(run([](const NavDialogWindow& window) { window.open(L"plan.dwg"); }), IDOK);
@@ -145,3 +69,6 @@ TEST_F(DialogInput, BackspaceInTheListGoesUpAndEnterOpensTheSelectedFolder) {
     EXPECT_EQ(run(person), IDOK);
     EXPECT_EQ(chosen(0), m_folder.path(L"plan.dwg"));
 }
+
+}  // namespace
+}  // namespace knav::test
