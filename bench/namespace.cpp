@@ -75,16 +75,24 @@ void benchFilter(int count, const std::vector<std::wstring>& names) {
 
 constexpr ULONG kAttributes = 0xF2038177;
 
-/// What no tree of folders with icons can do without for one item: attributes, icon, folder.
-knav::ComPtr<IShellFolder> touch(IShellFolder* parent, ITEMIDLIST* child, ITEMIDLIST* qualified) {
-    ULONG attributes = kAttributes;
-    PCUITEMID_CHILD item = child;
-    parent->GetAttributesOf(1, &item, &attributes);
+enum class Icons { LeftOut, Taken };
+
+void takeIcon(ITEMIDLIST* qualified) {
     SHFILEINFOW info{};
     const auto images =
         reinterpret_cast<HIMAGELIST>(SHGetFileInfoW(reinterpret_cast<const wchar_t*>(qualified), 0, &info, sizeof info,
                                                     SHGFI_PIDL | SHGFI_SYSICONINDEX | SHGFI_SMALLICON));
-    const zoui::UniqueIcon icon(ImageList_GetIcon(images, info.iIcon, 0));
+    zoui::UniqueIcon(ImageList_GetIcon(images, info.iIcon, 0)).reset();
+}
+
+/// What no tree of folders can do without for one item: attributes, folder, and its icon when it is to be shown.
+knav::ComPtr<IShellFolder> touch(IShellFolder* parent, ITEMIDLIST* child, ITEMIDLIST* qualified, Icons icons) {
+    ULONG attributes = kAttributes;
+    PCUITEMID_CHILD item = child;
+    parent->GetAttributesOf(1, &item, &attributes);
+    if (icons == Icons::Taken) {
+        takeIcon(qualified);
+    }
     knav::ComPtr<IShellFolder> folder;
     if (attributes & SFGAO_FOLDER) {
         parent->BindToObject(child, nullptr, IID_IShellFolder, reinterpret_cast<void**>(folder.put()));
@@ -92,36 +100,45 @@ knav::ComPtr<IShellFolder> touch(IShellFolder* parent, ITEMIDLIST* child, ITEMID
     return folder;
 }
 
-void touchChildren(IShellFolder* folder, ITEMIDLIST* id, SHCONTF what) {
+int touchChildren(IShellFolder* folder, ITEMIDLIST* id, SHCONTF what, Icons icons) {
     knav::ComPtr<IEnumIDList> items;
+    int count = 0;
     if (folder->EnumObjects(nullptr, what, items.put()) != S_OK) {
-        return;
+        return count;
     }
     ITEMIDLIST* raw = nullptr;
     while (items->Next(1, &raw, nullptr) == S_OK) {
         const auto item = knav::ItemList::adopt(raw);
-        touch(folder, item.get(), knav::ItemList::join(id, item.get()).get());
+        touch(folder, item.get(), knav::ItemList::join(id, item.get()).get(), icons);
+        ++count;
     }
+    return count;
 }
 
-void touchChain(ITEMIDLIST* target) {
+void touchChain(ITEMIDLIST* target, Icons icons) {
     auto folder = knav::ComPtr<IShellFolder>::adopt(NavGetDesktopFolder());
     knav::ItemList parent;
     for (ITEMIDLIST* at = target; at && folder; at = NavGetNextItemElement(at)) {
         const auto element = knav::ItemList::firstOf(at);
         auto qualified = knav::ItemList::join(parent.get(), element.get());
-        folder = touch(folder.get(), element.get(), qualified.get());
+        folder = touch(folder.get(), element.get(), qualified.get(), icons);
         parent = std::move(qualified);
     }
 }
 
-void bareHierarchy(ITEMIDLIST* target) {
+void bareHierarchy(ITEMIDLIST* target, Icons icons) {
     const auto desktop = knav::ComPtr<IShellFolder>::adopt(NavGetDesktopFolder());
-    touchChildren(desktop.get(), nullptr, SHCONTF_FOLDERS);
+    touchChildren(desktop.get(), nullptr, SHCONTF_FOLDERS, icons);
     const auto drives = knav::ItemList::adopt(NavGetDrivesFolderItem(nullptr));
     const auto drivesFolder = knav::ComPtr<IShellFolder>::adopt(NavGetDrivesFolder());
-    touchChildren(drivesFolder.get(), drives.get(), 0x800);
-    touchChain(target);
+    if (touchChildren(drivesFolder.get(), drives.get(), SHCONTF_STORAGE, icons) == 0) {
+        touchChildren(drivesFolder.get(), drives.get(), SHCONTF_FOLDERS, icons);
+    }
+    std::array<wchar_t, MAX_PATH> path{};  // a location may be a shortcut, which only its file tells
+    if (SHGetPathFromIDListW(target, path.data())) {
+        g_sink = static_cast<int>(GetFileAttributesW(path.data()));
+    }
+    touchChain(target, icons);
 }
 
 std::wstring makeDeepFolder() {
@@ -136,16 +153,21 @@ std::wstring makeDeepFolder() {
     return path;
 }
 
-void benchHierarchy(ITEMIDLIST* target) {
+// A tree takes the icon of a node when it is first shown, so both sides are measured with and without icons.
+void benchHierarchy(const std::string& name, ITEMIDLIST* target, Icons icons) {
     const auto ours = [&] {
         CNavTree tree;
         g_sink = tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, target);
+        for (CNavNode* node = tree.GetRootNode(); icons == Icons::Taken && node != nullptr;
+             node = CNavNode::EnumerateNextNode(node)) {
+            g_sink = node->GetIcon() != nullptr;
+        }
     };
-    const auto bare = [&] { bareHierarchy(target); };
+    const auto bare = [&] { bareHierarchy(target, icons); };
     const bench::Comparison result = bench::compare(ours, bare, 5);
-    bench::figure("build_standard_hierarchy", result.ours / 1000, "us");
-    bench::figure("bare_shell_calls", result.bare / 1000, "us");
-    bench::ratio("build_standard_hierarchy", result.ratio, 1.3);
+    bench::figure(name.c_str(), result.ours / 1000, "us");
+    bench::figure((name + "_bare_shell_calls").c_str(), result.bare / 1000, "us");
+    bench::ratio(name.c_str(), result.ratio, 1.3);
 }
 
 // --- item lists ------------------------------------------------------------------------------------------------------
@@ -186,7 +208,8 @@ int main() {
         std::fputs("the folder for the measurements cannot be made\n", stderr);
         return 1;
     }
-    benchHierarchy(target.get());
+    benchHierarchy("build_standard_hierarchy", target.get(), Icons::LeftOut);
+    benchHierarchy("build_standard_hierarchy_with_icons", target.get(), Icons::Taken);
     benchLists(target.get());
     return 0;
 }

@@ -1,0 +1,129 @@
+// The shell's folder view in a plain window.
+#include "bench/open/Dialogs.h"
+
+#include "shell/ComPtr.h"
+#include "shell/InterfaceIds.h"
+
+namespace {
+
+constexpr wchar_t kClass[] = L"BenchBareView";
+constexpr SIZE kSize{560, 340};
+
+/// The least that a view needs. It lives on the stack and outlives the view, so references are not counted.
+class Browser final : public IShellBrowser, public ICommDlgBrowser {
+public:
+    Browser(HWND window, IShellFolder* folder) : m_window(window), m_folder(folder) {}
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** result) override {
+        if (iid == IID_ICommDlgBrowser) {
+            *result = static_cast<ICommDlgBrowser*>(this);
+            return S_OK;
+        }
+        const bool browser = iid == IID_IUnknown || iid == IID_IOleWindow || iid == IID_IShellBrowser;
+        *result = browser ? static_cast<IShellBrowser*>(this) : nullptr;
+        return browser ? S_OK : E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return 1; }
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override {
+        *window = m_window;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE InsertMenusSB(HMENU, OLEMENUGROUPWIDTHS*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetMenuSB(HMENU, HOLEMENU, HWND) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE RemoveMenusSB(HMENU) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetStatusTextSB(LPCWSTR) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE EnableModelessSB(BOOL) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE TranslateAcceleratorSB(MSG*, WORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE BrowseObject(PCUIDLIST_RELATIVE, UINT) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetViewStateStream(DWORD, IStream**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetControlWindow(UINT, HWND*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SendControlMsg(UINT, UINT, WPARAM, LPARAM, LRESULT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE QueryActiveShellView(IShellView**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE OnViewWindowActive(IShellView*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetToolbarItems(LPTBBUTTONSB, UINT, UINT) override { return E_NOTIMPL; }
+
+    HRESULT STDMETHODCALLTYPE OnDefaultCommand(IShellView*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE OnStateChange(IShellView*, ULONG) override { return E_NOTIMPL; }
+    /// Folders, and files whose name fits.
+    HRESULT STDMETHODCALLTYPE IncludeObject(IShellView*, PCUITEMID_CHILD item) override {
+        SFGAOF attributes = SFGAO_FOLDER;
+        if (FAILED(m_folder->GetAttributesOf(1, &item, &attributes)) || (attributes & SFGAO_FOLDER) != 0) {
+            return S_OK;
+        }
+        STRRET name{};
+        wchar_t text[MAX_PATH] = L"";
+        m_folder->GetDisplayNameOf(item, SHGDN_INFOLDER | SHGDN_FORPARSING, &name);
+        StrRetToBufW(&name, item, text, MAX_PATH);
+        return PathMatchSpecW(text, bench::kPattern) ? S_OK : S_FALSE;
+    }
+
+private:
+    HWND m_window;
+    IShellFolder* m_folder;
+};
+
+LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL) {
+        PostQuitMessage(0);
+        return 0;
+    }
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+HWND makeWindow() {
+    WNDCLASSEXW type{};
+    type.cbSize = sizeof type;
+    type.lpfnWndProc = &onMessage;
+    type.hInstance = GetModuleHandleW(nullptr);
+    type.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    type.lpszClassName = kClass;
+    RegisterClassExW(&type);
+    return CreateWindowExW(0, kClass, bench::kCaption, WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT, kSize.cx,
+                           kSize.cy, nullptr, nullptr, type.hInstance, nullptr);
+}
+
+knav::ComPtr<IShellFolder> bindFolder(const wchar_t* path) {
+    knav::ComPtr<IShellFolder> desktop;
+    knav::ComPtr<IShellFolder> folder;
+    ITEMIDLIST* list = nullptr;
+    SHGetDesktopFolder(desktop.put());
+    if (SUCCEEDED(SHParseDisplayName(path, nullptr, &list, 0, nullptr))) {
+        desktop->BindToObject(list, nullptr, IID_IShellFolder, reinterpret_cast<void**>(folder.put()));
+        ILFree(list);
+    }
+    return folder;
+}
+
+void runUntilCancelled() {
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+}  // namespace
+
+void bench::showBareView(const wchar_t* path) {
+    const auto folder = bindFolder(path);
+    const HWND window = makeWindow();
+    Browser browser(window, folder.get());
+    knav::ComPtr<IShellView> view;
+    folder->CreateViewObject(window, IID_IShellView, reinterpret_cast<void**>(view.put()));
+
+    RECT place;
+    GetClientRect(window, &place);
+    FOLDERSETTINGS settings{FVM_DETAILS, 0};
+    HWND viewWindow = nullptr;
+    view->CreateViewWindow(nullptr, &settings, &browser, &place, &viewWindow);
+    view->UIActivate(SVUIA_ACTIVATE_FOCUS);
+    ShowWindow(window, SW_SHOW);
+    runUntilCancelled();
+    view->UIActivate(SVUIA_DEACTIVATE);
+    view->DestroyViewWindow();
+    view.reset();
+    DestroyWindow(window);
+}
