@@ -3,7 +3,7 @@
 cmake_minimum_required(VERSION 3.25)
 
 file(GLOB documents ${ROOT}/README.md ${ROOT}/docs/*.md)
-file(GLOB sources ${ROOT}/docs/examples/*.cpp ${ROOT}/demo/*.cpp)
+file(GLOB sources ${ROOT}/docs/examples/*.cpp ${ROOT}/demo/*.cpp ${ROOT}/demo/*/*.cpp)
 set(all "")
 foreach(source ${sources})
   file(READ ${source} text)

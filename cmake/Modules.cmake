@@ -1,5 +1,5 @@
 # How a layer of the library becomes an object library, and what the whole links to.
-set(KNAV_SYSTEM_LIBRARIES comctl32 ole32 oleaut32 uuid shell32 shlwapi uxtheme gdi32 gdiplus advapi32 mpr wininet urlmon)
+set(KNAV_SYSTEM_LIBRARIES comctl32 ole32 oleaut32 uuid shell32 shlwapi uxtheme gdi32 gdiplus advapi32 mpr oleacc wininet urlmon)
 
 # knav_sources(OUT folder...): every .cpp of the folders.
 function(knav_sources out)
@@ -39,9 +39,16 @@ function(knav_layer_objects out)
   set(${out} ${all} PARENT_SCOPE)
 endfunction()
 
+# knav_mapped(TARGET): a module whose sections stand in the file as they do in memory. A loader that can map nothing smaller
+# than a page would read them into private memory of every host.
+function(knav_mapped target)
+  target_link_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wl,--file-alignment=4096>)
+endfunction()
+
 # knav_shipped(TARGET): a module that is installed carries no symbol table in a release build.
 function(knav_shipped target)
   target_link_options(${target} PRIVATE $<$<CONFIG:Release>:-s>)
+  knav_mapped(${target})
 endfunction()
 
 # knav_subdirectory(FOLDER): a part of the tree that has a build file.

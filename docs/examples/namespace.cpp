@@ -59,6 +59,23 @@ bool withFolder(const wchar_t* path, Visit visit) {
     return true;
 }
 
+/// What a typed or stored text is.
+void printLocation(const wchar_t* text) {
+    CNavPathname pathname;
+    const PathErr result = pathname.Parse(text, true);  // true: the last name may be a pattern, such as *.dwg
+    CString location;
+    CString server;
+    pathname.GetFullPath(location);
+    pathname.GetServerName(server);
+    if (pathname.GetIsURL()) {
+        std::printf("%ls on %ls\n", location.GetString(), server.GetString());
+    } else if (result == PathErr::None) {
+        std::printf("%ls, kind %d\n", location.GetString(), pathname.GetType());
+    } else {
+        std::printf("%ls is no location\n", text);
+    }
+}
+
 int wmain(int count, wchar_t** arguments) {
     OleInitialize(nullptr);
     const bool found = withFolder(count > 1 ? arguments[1] : L"C:\\windows", [](IShellFolder* folder) {
@@ -69,6 +86,9 @@ int wmain(int count, wchar_t** arguments) {
         NavFreeItemList(target);
         NavFreeItemList(item);
     });
+    for (const wchar_t* const text : {L"C:\\windows\\*.ini", L"ftp://host/plan.dwg", L"a|b"}) {
+        printLocation(text);
+    }
     OleUninitialize();
     return found ? 0 : 1;
 }

@@ -3,11 +3,11 @@
 
 display_processes=()
 
-# start_display: sets DISPLAY; stop_display ends it.
+# start_display [WIDTHxHEIGHT]: sets DISPLAY; stop_display ends it.
 start_display() {
-    local number_file=$root/build/tmp/display.$$ number=
+    local size=${1:-1280x1024} number_file=$root/build/tmp/display.$$ number=
     mkfifo "$number_file" || die "cannot make $number_file"
-    Xvfb -displayfd 7 -screen 0 1280x1024x24 -nolisten tcp 7>"$number_file" >"$logs/display.log" 2>&1 3>&- 8>&- &
+    Xvfb -displayfd 7 -screen 0 "${size}x24" -nolisten tcp 7>"$number_file" >"$logs/display.log" 2>&1 3>&- 8>&- &
     display_processes+=($!)
     read -r -t 20 number <"$number_file"
     rm -f "$number_file"
