@@ -1,4 +1,14 @@
 # How a layer of the library becomes an object library, and what the whole links to.
+
+# The precompiled header is built once, here, for every target that is compiled with the project's own flags: it is large,
+# and each copy takes as long as a dozen sources.
+file(WRITE ${CMAKE_BINARY_DIR}/pch.cpp.new "")
+file(COPY_FILE ${CMAKE_BINARY_DIR}/pch.cpp.new ${CMAKE_BINARY_DIR}/pch.cpp ONLY_IF_DIFFERENT)
+add_library(knav_pch OBJECT ${CMAKE_BINARY_DIR}/pch.cpp)
+target_link_libraries(knav_pch PRIVATE knav_build)
+target_include_directories(knav_pch PRIVATE ${CMAKE_SOURCE_DIR}/host)
+target_precompile_headers(knav_pch PRIVATE ${CMAKE_SOURCE_DIR}/cmake/pch.h)
+
 set(KNAV_SYSTEM_LIBRARIES comctl32 ole32 oleaut32 uuid shell32 shlwapi uxtheme gdi32 gdiplus advapi32 mpr oleacc wininet urlmon)
 
 # knav_sources(OUT folder...): every .cpp of the folders.
@@ -24,7 +34,7 @@ function(knav_layer name)
   target_compile_definitions(knav_${name} PUBLIC KNAV_BUILDING)
   target_include_directories(knav_${name} PUBLIC ${CMAKE_SOURCE_DIR}/include ${CMAKE_SOURCE_DIR})
   target_link_libraries(knav_${name} PUBLIC ${arg_LINKS})
-  target_precompile_headers(knav_${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/pch.h)
+  target_precompile_headers(knav_${name} REUSE_FROM knav_pch)
 endfunction()
 
 # knav_layer_objects(OUT layer...): the objects of those layers that have sources.
