@@ -264,6 +264,7 @@ private:
     int commitUnparsed(CNavData& item, const CString& text, CNavPathname& path);
     int acceptFile(CNavData& item, CNavPathname& path, CNavNode* node);
     void enterTypedFolder(CNavPathname& folder);
+    void leaveTypedFolder(bool typed);
     void canonicalizeSiteItem(CNavData& item);
     bool mayReplace(CNavData& item);
     bool refuseFileInUse(const CString& name);

@@ -87,9 +87,20 @@ int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathn
         NavigateToWildCard(path);
         return 0;
     }
+    // Moving on may take the item out of the array.
+    const auto picked = knav::ItemList::copyOf(item.GetID());
     if (NavIsUNCPath(text)) {
         item.SetDataType(NAV_DATA_NETWORK);
-        return NavigateToFolder(text) ? 0 : 1;
+        const bool dirty = m_fileNameEditDirty;
+        if (!(picked ? NavigateToItemList(picked.get()) : NavigateToFolder(text))) {
+            return 1;
+        }
+        leaveTypedFolder(dirty);
+        return 0;
+    }
+    if (picked && !path.GetIsExtension() && !path.GetIsURL()) {
+        goOrTell(picked.get());
+        return 0;
     }
     const wchar_t last = text.GetAt(text.GetLength() - 1);
     if (NavIsURL(text) && ((last != L'/' && last != L'\\') || m_options.foldersOnly)) {
@@ -119,7 +130,12 @@ void CNavDialogImp::enterTypedFolder(CNavPathname& folder) {
         refuseFileName();
         return;
     }
-    if (dirty) {
+    leaveTypedFolder(dirty);
+}
+
+/// The name of a folder that was typed to be entered is of no use in it.
+void CNavDialogImp::leaveTypedFolder(bool typed) {
+    if (typed) {
         setFileNameText(CString());
         m_fileNameEditDirty = false;
     }

@@ -47,7 +47,9 @@ OkHandlerErr CNavDialogImp::finishItem(CNavData& item) {
         return error;
     }
     text = knav::trimName(text.view(), false);
-    UpdateFileExtension(text, 0);
+    if (!item.GetID()) {
+        UpdateFileExtension(text, 0);
+    }
     resolveShortcut(item, text);
     item.SetText(text);
     if (!withinReach(text)) {
@@ -130,7 +132,8 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
         return OkErrNone;
     }
     CNavPathname parsed;
-    if (parsed.Parse(text, true) == PathErr::None) {
+    const bool isPath = parsed.Parse(text, true) == PathErr::None;
+    if (isPath) {
         if (parsed.GetType() == CZoUiPathname::Wildcard && !prefix.IsEmpty()) {
             text = prefix + text;
             return OkErrNone;
@@ -145,6 +148,10 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
     }
     if (isUrlLike(node)) {
         text = knav::joinUrl(folder.value_or(CString()).view(), text.view());
+        return OkErrNone;
+    }
+    // Picked in the view, but no path: a server, or a place such as My Computer. It can be entered.
+    if (item->GetID() && !isPath) {
         return OkErrNone;
     }
     if (node && !node->IsInFileSystem()) {

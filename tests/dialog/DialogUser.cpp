@@ -102,7 +102,8 @@ DialogUser& DialogUser::untilShown(std::vector<std::wstring> names) {
 }
 
 DialogUser& DialogUser::untilFolder(const CString& path) {
-    return until("folder " + utf8(path.view()), [this, path] { return m_dialog.shownFolder() == path; });
+    return until("folder " + utf8(path.view()),
+                 [this, path] { return m_dialog.shownFolder().CompareNoCase(path) == 0; });
 }
 
 DialogUser& DialogUser::untilName(std::wstring text) {

@@ -24,6 +24,9 @@ inline constexpr int kDrawings = 0;
 inline constexpr int kTexts = 1;
 inline constexpr int kAllFiles = 2;
 
+/// The name for parsing of the folder with the drives, which has no path.
+inline constexpr wchar_t kMyComputer[] = L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
+
 struct ResultArrays {
     ResultArrays() { filters.SetFrom(kFileTypes, 1); }
 

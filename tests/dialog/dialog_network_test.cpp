@@ -1,4 +1,5 @@
 // Network names typed into the dialog, with a network provider of the tests' own behind the platform's functions.
+#include <knav/NavFolders.h>
 #include <knav/NavNames.h>
 
 #include "dialog/DialogUser.h"
@@ -172,6 +173,22 @@ TEST_F(InsideNetwork, ServerOnTheNetwork_IsReturned) {
         EXPECT_EQ(dialog.data.GetData(0)->GetDataType(), NAV_DATA_NETWORK);
         EXPECT_EQ(questions(), std::wstring(L"list ") + server + L"\n");
     }
+}
+
+TEST_F(InsideNetwork, ServerPickedInTheView_IsEntered) {
+    struct Picking : TestDialog {
+        using TestDialog::TestDialog;
+        OkHandlerErr PreprocessData(CNavDataArray& items) override {
+            CNavData& item = *items.AddData();
+            item.SetText(L"\\\\knavtest");
+            item.SetDataType(NAV_DATA_FILE);
+            item.SetID(NavGetDrivesFolderItem(nullptr));  // the platform of these tests has no servers to pick
+            return TestDialog::PreprocessData(items);
+        }
+    };
+    Picking dialog(folder.path());
+    EXPECT_EQ(DialogUser(dialog).ok().untilFolder(kMyComputer).cancel().run(), IDCANCEL);
+    EXPECT_EQ(questions(), L"list \\\\knavtest\n");
 }
 
 TEST_F(InsideNetwork, FolderOnAShare_IsEnteredOrRefusedButNotReturned) {

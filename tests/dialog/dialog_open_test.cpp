@@ -93,6 +93,18 @@ TEST_F(DialogOpen, DoubleClickOnFolder_EntersItAndStaysOpen) {
     EXPECT_EQ(user.run(), IDCANCEL);
 }
 
+TEST_F(DialogOpen, PlaceWithoutAPath_IsEnteredAndNeverReturned) {
+    for (const int foldersOnly : {0, 1}) {
+        TestDialog dialog;
+        dialog.SetForceInitialFolder(L"Desktop");
+        dialog.SetFoldersOnly(foldersOnly);
+        DialogUser user(dialog);
+        user.doubleClick(L"My Computer").untilFolder(kMyComputer).command(IDM_KNAV_BACK).untilFolder(L"Desktop");
+        user.pick({L"My Computer"}).ok().untilFolder(kMyComputer).cancel();
+        EXPECT_EQ(user.run(), IDCANCEL);
+    }
+}
+
 TEST_F(DialogOpen, EnterInTheField_IsOk) {
     const CString file = folder.addFile(L"plan.dwg");
     TestDialog dialog(folder.path());
