@@ -41,34 +41,36 @@ TEST(ExtensionRoot, IsOneElementWithThePrefixAndTheName) {
 }
 
 TEST(ExtensionItem, KindFollowsFromPrefixAndElements) {
+    using enum ExtensionItem;
     struct Row {
         const char* why;
         ItemList list;
         ExtensionItem kind;
-        CString name;
+        const wchar_t* name;
     };
     const Row rows[] = {
-        {"null", ItemList(), ExtensionItem::None, L""},
-        {"desktop", makeList({}), ExtensionItem::None, L""},
-        {"shell item", makeList({"some bytes that are long enough for a prefix"}), ExtensionItem::None, L""},
-        {"root", textList({L"Extension-Foo"_z}), ExtensionItem::Root, L"Foo"},
-        {"root without an end of its text", textList({L"Extension-Foo"}), ExtensionItem::Root, L"Foo"},
-        {"root without a name", textList({L"Extension-"_z}), ExtensionItem::Root, L""},
-        {"text behind the end is not the name", textList({L"Extension-Foo\0bar"_z}), ExtensionItem::Root, L"Foo"},
-        {"prefix too short", textList({L"Extension"_z}), ExtensionItem::None, L""},
-        {"prefix in other letters", textList({L"extension-Foo"_z}), ExtensionItem::None, L""},
-        {"child", textList({L"Extension-Foo"_z, L"site"}), ExtensionItem::Child, L"Foo"},
-        {"deeper child", textList({L"Extension-Foo"_z, L"site", L"x"}), ExtensionItem::Child, L"Foo"},
-        {"root element that is not the first", textList({L"site", L"Extension-Foo"_z}), ExtensionItem::None, L""},
+        {"null", ItemList(), None, L""},
+        {"desktop", makeList({}), None, L""},
+        {"shell item", makeList({"some bytes that are long enough for a prefix"}), None, L""},
+        {"root", textList({L"Extension-Foo"_z}), Root, L"Foo"},
+        {"root without an end of its text", textList({L"Extension-Foo"}), Root, L"Foo"},
+        {"root without a name", textList({L"Extension-"_z}), Root, L""},
+        {"text behind the end is not the name", textList({L"Extension-Foo\0bar"_z}), Root, L"Foo"},
+        {"prefix too short", textList({L"Extension"_z}), None, L""},
+        {"prefix in other letters", textList({L"extension-Foo"_z}), None, L""},
+        {"child", textList({L"Extension-Foo"_z, L"site"}), Child, L"Foo"},
+        {"deeper child", textList({L"Extension-Foo"_z, L"site", L"x"}), Child, L"Foo"},
+        {"root element that is not the first", textList({L"site", L"Extension-Foo"_z}), None, L""},
     };
     for (const Row& row : rows) {
+        SCOPED_TRACE(row.why);
         ITEMIDLIST* const list = row.list.get();
-        EXPECT_EQ(NavIsExtensionRootItem(list) != 0, row.kind == ExtensionItem::Root) << row.why;
-        EXPECT_EQ(NavIsExtensionChildItem(list) != 0, row.kind == ExtensionItem::Child) << row.why;
-        EXPECT_EQ(NavIsExtensionItem(list) != 0, row.kind != ExtensionItem::None) << row.why;
+        EXPECT_EQ(NavIsExtensionRootItem(list) != 0, row.kind == Root);
+        EXPECT_EQ(NavIsExtensionChildItem(list) != 0, row.kind == Child);
+        EXPECT_EQ(NavIsExtensionItem(list) != 0, row.kind != None);
         CString name = L"old";
         NavGetExtensionNameFromItem(list, name);
-        EXPECT_EQ(name, row.name) << row.why;
+        EXPECT_EQ(name, row.name);
     }
 }
 
@@ -88,6 +90,7 @@ TEST(ExtensionItem, CutByTheEndOfMemoryIsReadOnlyAsFarAsItGoes) {
     }
 }
 
+// An extension with a site in it that holds a plan.
 class Extensions : public testing::Test {
 protected:
     Extensions() {
@@ -95,86 +98,79 @@ protected:
         m_site->add(L"plan", 0);
     }
 
+    ItemList item(std::wstring_view path) const { return below(m_foo, path); }
+    static ItemList below(const CNavExtension& extension, std::wstring_view path) {
+        return ItemList::join(extension.GetID(), FakeFolder::item(path).get());
+    }
+
     RegisteredForTest m_registered;
     ComPtr<FakeFolder> m_site = FakeFolder::make(L"site");
     ComPtr<FakeFolder> m_root = FakeFolder::make(L"root");
+    CNavExtension& m_foo = m_registered.add(L"Foo", m_root);
+    LONG m_references = m_root->references();
 };
 
 TEST_F(Extensions, AreFoundByNameAndByItemIgnoringCase) {
-    CNavExtension& foo = m_registered.add(L"foo", m_root);
     CNavExtension& bar = m_registered.add(L"Bar", m_root);
     m_registered.add(L"FOO", m_root);
     EXPECT_EQ(NavFindExtensionByName(L"BAR"), &bar);
-    EXPECT_EQ(NavFindExtensionByName(L"Foo"), &foo) << "the first registered";
+    EXPECT_EQ(NavFindExtensionByName(L"foo"), &m_foo) << "the first registered";
     EXPECT_EQ(NavFindExtensionByName(L"fo"), nullptr);
     EXPECT_EQ(NavFindExtensionByName(L""), nullptr);
     EXPECT_EQ(NavFindExtensionByName(nullptr), nullptr);
-    EXPECT_EQ(NavFindExtensionForItem(textList({L"Extension-FOO"_z}).get()), &foo);
+    EXPECT_EQ(NavFindExtensionForItem(textList({L"Extension-FOO"_z}).get()), &m_foo);
     EXPECT_EQ(NavFindExtensionForItem(textList({L"Extension-bar"_z, L"site"}).get()), &bar);
     EXPECT_EQ(NavFindExtensionForItem(textList({L"Extension-Other"_z}).get()), nullptr);
     EXPECT_EQ(NavFindExtensionForItem(makeList({"shell item"}).get()), nullptr);
 }
 
 TEST_F(Extensions, FolderComesFromTheirRootAndNotFromTheParent) {
-    CNavExtension& extension = m_registered.add(L"Foo", m_root);
-    const LONG references = m_root->references();
-    const ItemList site = ItemList::join(extension.GetID(), FakeFolder::item(L"site").get());
     const auto parent = FakeFolder::make(L"parent");
     {
-        const auto root = ComPtr<IShellFolder>::adopt(NavGetFolderFromItem(parent.get(), extension.GetID()));
+        const auto root = ComPtr<IShellFolder>::adopt(NavGetFolderFromItem(parent.get(), m_foo.GetID()));
         EXPECT_EQ(root.get(), m_root.get());
-        EXPECT_EQ(m_root->references(), references + 1);
-        const auto below = ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(site.get()));
+        EXPECT_EQ(m_root->references(), m_references + 1);
+        const auto below = ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(item(L"site").get()));
         EXPECT_EQ(below.get(), m_site.get());
     }
-    EXPECT_EQ(m_root->references(), references);
+    EXPECT_EQ(m_root->references(), m_references);
     EXPECT_EQ(parent->calls(FolderCall::BindToObject), 0);
     EXPECT_EQ(NavGetFolderFromItem(parent.get(), textList({L"Extension-None"_z}).get()), nullptr);
     EXPECT_EQ(NavGetFolderFromItem(parent.get(), textList({L"Extension-None"_z, L"site"}).get()), nullptr);
-    EXPECT_EQ(NavGetFolderFromExtensionItem(extension.GetID()), nullptr) << "the root is no child";
-    const ItemList missing = ItemList::join(extension.GetID(), FakeFolder::item(L"missing").get());
-    EXPECT_EQ(NavGetFolderFromExtensionItem(missing.get()), nullptr);
+    EXPECT_EQ(NavGetFolderFromExtensionItem(m_foo.GetID()), nullptr) << "the root is no child";
+    EXPECT_EQ(NavGetFolderFromExtensionItem(item(L"missing").get()), nullptr);
 }
 
-TEST(Folder, IsTakenFromTheUiObjectWhenBindingFails) {
-    const auto child = FakeFolder::make(L"child");
-    const auto parent = FakeFolder::make(L"parent");
-    parent->add(L"child", SFGAO_FOLDER, child);
-    const ItemList item = FakeFolder::item(L"child");
-    const auto bound = ComPtr<IShellFolder>::adopt(NavGetFolderFromItem(parent.get(), item.get()));
-    EXPECT_EQ(bound.get(), child.get());
-    EXPECT_EQ(parent->calls(FolderCall::GetUIObjectOf), 0);
-    parent->setBindThroughUiObject(true);
-    const auto second = ComPtr<IShellFolder>::adopt(NavGetFolderFromItem(parent.get(), item.get()));
-    EXPECT_EQ(second.get(), child.get());
+TEST_F(Extensions, FolderOfAnItemIsItsUiObjectWhenBindingFails) {
+    const ItemList site = FakeFolder::item(L"site");
+    for (const bool throughUiObject : {false, true}) {
+        m_root->setBindThroughUiObject(throughUiObject);
+        const auto folder = ComPtr<IShellFolder>::adopt(NavGetFolderFromItem(m_root.get(), site.get()));
+        EXPECT_EQ(folder.get(), m_site.get());
+        EXPECT_EQ(m_root->calls(FolderCall::GetUIObjectOf), throughUiObject);
+    }
 }
 
 TEST_F(Extensions, CompareByNamesOfTheirOwn) {
-    CNavExtension& a = m_registered.add(L"alpha", m_root);
-    CNavExtension& b = m_registered.add(L"Beta", m_root);
-    CNavExtension& unloaded = m_registered.add(L"unloaded");
-    const auto child = [](const CNavExtension& extension, std::wstring_view path) {
-        return ItemList::join(extension.GetID(), FakeFolder::item(path).get());
-    };
-    const ItemList upper = textList({L"Extension-ALPHA"_z});
-    const ItemList unknown = textList({L"Extension-zzz"_z});
-    const ItemList shellItem = FakeFolder::item(L"site");
+    const CNavExtension& bar = m_registered.add(L"bar", m_root);
+    const CNavExtension& unloaded = m_registered.add(L"unloaded");
+    const auto root = [](std::wstring_view text) { return textList({text}); };
     struct Row {
         const char* why;
         ItemList left, right;
         int order;
     };
     const Row rows[] = {
-        {"roots by name", ItemList::copyOf(a.GetID()), ItemList::copyOf(b.GetID()), -1},
-        {"roots by name, reversed", ItemList::copyOf(b.GetID()), ItemList::copyOf(a.GetID()), 1},
-        {"roots ignoring case", ItemList::copyOf(a.GetID()), ItemList::copyOf(upper.get()), 0},
-        {"children by parsing name", child(a, L"site"), child(a, L"site/plan"), -1},
-        {"children ignoring case", child(a, L"site"), child(a, L"SITE"), 0},
-        {"children of two extensions in the first one's folder", child(a, L"site"), child(b, L"site"), 0},
-        {"unloaded extension on the left", child(unloaded, L"site"), child(a, L"site"), -1},
-        {"unloaded extension on the right", child(a, L"site"), child(unloaded, L"site"), -1},
-        {"shell item on the left", ItemList::copyOf(shellItem.get()), child(a, L"site"), -1},
-        {"child of no extension", ItemList::join(unknown.get(), shellItem.get()), child(a, L"site"), -1},
+        {"roots by name", root(L"Extension-Foo"), root(L"Extension-bar"), 1},
+        {"roots by name, reversed", root(L"Extension-bar"), root(L"Extension-Foo"), -1},
+        {"roots ignoring case", root(L"Extension-Foo"), root(L"Extension-FOO"), 0},
+        {"children by parsing name", item(L"site"), item(L"site/plan"), -1},
+        {"children ignoring case", item(L"site"), item(L"SITE"), 0},
+        {"children of two extensions in the first one's folder", item(L"site"), below(bar, L"site"), 0},
+        {"unloaded extension on the left", below(unloaded, L"site"), item(L"site"), -1},
+        {"unloaded extension on the right", item(L"site"), below(unloaded, L"site"), -1},
+        {"shell item on the left", FakeFolder::item(L"site"), item(L"site"), -1},
+        {"child of no extension", textList({L"Extension-zzz"_z, L"site"}), item(L"site"), -1},
     };
     const auto folder = FakeFolder::make(L"desktop");
     for (const Row& row : rows) {
@@ -182,44 +178,40 @@ TEST_F(Extensions, CompareByNamesOfTheirOwn) {
         EXPECT_EQ((order > 0) - (order < 0), row.order) << row.why;
     }
     EXPECT_EQ(folder->calls(FolderCall::CompareIDs), 0);
-    NavCompareFolderItems(folder.get(), a.GetID(), unknown.get());
+    NavCompareFolderItems(folder.get(), m_foo.GetID(), root(L"Extension-zzz").get());
     EXPECT_EQ(folder->calls(FolderCall::CompareIDs), 1) << "a root that no extension matches is an ordinary item";
 }
 
 TEST_F(Extensions, RootIsNamedByItsTextOrElseByItself) {
-    CNavExtension& extension = m_registered.add(L"Foo", m_root);
-    const LONG references = m_root->references();
     CString name;
-    EXPECT_TRUE(NavGetItemDisplayName(SHGDN_NORMAL, nullptr, extension.GetID(), name));
+    EXPECT_TRUE(NavGetItemDisplayName(SHGDN_NORMAL, nullptr, m_foo.GetID(), name));
     EXPECT_EQ(name, L"root");
-    EXPECT_EQ(m_root->references(), references);
-    extension.SetRootFolderDisplayName(L"Foo sites");
-    EXPECT_TRUE(NavGetItemNameInFolder(nullptr, extension.GetID(), name));
+    EXPECT_EQ(m_root->references(), m_references);
+    m_foo.SetRootFolderDisplayName(L"Foo sites");
+    EXPECT_TRUE(NavGetItemNameInFolder(nullptr, m_foo.GetID(), name));
     EXPECT_EQ(name, L"Foo sites");
     EXPECT_FALSE(NavGetItemDisplayName(SHGDN_NORMAL, nullptr, textList({L"Extension-None"_z}).get(), name));
     EXPECT_TRUE(name.IsEmpty());
 }
 
 TEST_F(Extensions, NamesInsideAreParsedBehindTheirScheme) {
-    CNavExtension& extension = m_registered.add(L"Foo", m_root);
-    const ItemList expected = ItemList::join(extension.GetID(), FakeFolder::item(L"site/plan").get());
+    const ItemList expected = item(L"site/plan");
     for (const wchar_t* const path : {L"site/plan", L"foo://site/plan"}) {
-        EXPECT_THAT(ItemList::adopt(NavBuildExtensionItemList(&extension, path)).get(), HoldsSameBytes(expected.get()));
-        EXPECT_EQ(extension.GetItemListFromName(path), nullptr) << "names cannot be parsed";
-        extension.SetAttributes(3);
-        EXPECT_THAT(ItemList::adopt(extension.GetItemListFromName(path)).get(), HoldsSameBytes(expected.get()));
-        extension.SetAttributes(2);
+        EXPECT_THAT(ItemList::adopt(NavBuildExtensionItemList(&m_foo, path)).get(), HoldsSameBytes(expected.get()));
+        EXPECT_EQ(m_foo.GetItemListFromName(path), nullptr) << "names cannot be parsed";
+        m_foo.SetAttributes(3);
+        EXPECT_THAT(ItemList::adopt(m_foo.GetItemListFromName(path)).get(), HoldsSameBytes(expected.get()));
+        m_foo.SetAttributes(2);
     }
-    EXPECT_EQ(NavBuildExtensionItemList(&extension, L"missing"), nullptr);
-    EXPECT_EQ(NavBuildExtensionItemList(&extension, L"foo://"), nullptr);
-    EXPECT_EQ(NavBuildExtensionItemList(&extension, nullptr), nullptr);
+    for (const wchar_t* const path : {L"missing", L"foo://", static_cast<const wchar_t*>(nullptr)}) {
+        EXPECT_EQ(NavBuildExtensionItemList(&m_foo, path), nullptr);
+    }
     EXPECT_EQ(NavBuildExtensionItemList(nullptr, L"site"), nullptr);
     EXPECT_EQ(NavBuildExtensionItemList(&m_registered.add(L"unloaded"), L"site"), nullptr);
 }
 
 TEST_F(Extensions, OwnTheirFolderAndTheirItem) {
-    const LONG references = m_root->references();
-    expectNoTaskMemoryLeft([&] {
+    expectNoTaskMemoryLeft([this] {
         CNavExtension extension;
         extension.SetRootFolder(m_root.get());
         extension.SetRootFolder(m_root.get());
@@ -227,9 +219,9 @@ TEST_F(Extensions, OwnTheirFolderAndTheirItem) {
         extension.SetID(makeList({"b"}).release());
         extension.SetID(extension.GetID());
         EXPECT_THAT(extension.GetID(), HoldsSameBytes(makeList({"b"}).get()));
-        EXPECT_EQ(m_root->references(), references + 1);
+        EXPECT_EQ(m_root->references(), m_references + 1);
     });
-    EXPECT_EQ(m_root->references(), references);
+    EXPECT_EQ(m_root->references(), m_references);
 }
 
 // Registers a class in this process that hands out one folder.
@@ -253,7 +245,7 @@ TEST_F(Extensions, RootFolderIsCreatedOnceAndOnDemand) {
     const auto factory = ComPtr<FolderClass>::adopt(new FolderClass(conducts, m_root.get()));
     DWORD cookie = 0;
     ASSERT_EQ(CoRegisterClassObject(clsid, factory.get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie), S_OK);
-    CNavExtension& extension = m_registered.add(L"Foo");
+    CNavExtension& extension = m_registered.add(L"later");
     EXPECT_EQ(extension.FetchRootFolder(), nullptr) << "no class is known";
     extension.SetRootFolderCLSID(clsid);
     const auto first = ComPtr<IShellFolder>::adopt(extension.FetchRootFolder());
@@ -267,12 +259,11 @@ TEST_F(Extensions, RootFolderIsCreatedOnceAndOnDemand) {
 TEST_F(Extensions, PictureIsHandedOutAsACopy) {
     BITMAPINFO info{};
     info.bmiHeader = {sizeof info.bmiHeader, 3, 2, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    CNavExtension& extension = m_registered.add(L"Foo");
-    EXPECT_EQ(extension.GetBitmapCopy(), nullptr);
+    EXPECT_EQ(m_foo.GetBitmapCopy(), nullptr);
     void* pixels = nullptr;
-    extension.SetBitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
+    m_foo.SetBitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
     std::memset(pixels, 0x5A, 3 * 2 * 4);
-    const zoui::UniqueBitmap copy(extension.GetBitmapCopy());
+    const zoui::UniqueBitmap copy(m_foo.GetBitmapCopy());
     DIBSECTION section{};
     ASSERT_EQ(GetObjectW(copy.get(), sizeof section, &section), static_cast<int>(sizeof section));
     EXPECT_EQ(section.dsBm.bmWidth, 3);
@@ -286,9 +277,8 @@ constexpr wchar_t kDisableKey[] = L"Software\\Kelvara\\Dialogs\\AllNavDialogs";
 
 TEST_F(Extensions, AreSwitchedOffOnTheMachine) {
     ScratchHive machine(HKEY_LOCAL_MACHINE);
-    const CNavExtension& foo = m_registered.add(L"Foo");
     const CNavExtension& ftp = m_registered.add(L"ftpSITES");
-    EXPECT_FALSE(foo.IsFTP());
+    EXPECT_FALSE(m_foo.IsFTP());
     EXPECT_TRUE(ftp.IsFTP());
     struct Row {
         const char* why;
@@ -309,7 +299,7 @@ TEST_F(Extensions, AreSwitchedOffOnTheMachine) {
         if (row.value != nullptr) {
             machine.set(kDisableKey, row.value, row.data);
         }
-        EXPECT_EQ(foo.IsDisabled(), row.fooOff) << row.why;
+        EXPECT_EQ(m_foo.IsDisabled(), row.fooOff) << row.why;
         EXPECT_EQ(ftp.IsDisabled(), row.ftpOff) << row.why;
         EXPECT_EQ(CNavExtension::AllDisabled(), row.allOff) << row.why;
     }

@@ -18,67 +18,55 @@ volatile int g_sink = 1;
 
 constexpr std::uintptr_t kNowhere = 16;  // not null, which a checked build would report before the processor does
 
-void writeNowhere() {
+int writeNowhere() {
     *reinterpret_cast<volatile int*>(kNowhere) = 1;
+    return 3;
 }
 
 __attribute__((no_sanitize("undefined"))) void divideByZero() {
     g_sink = g_sink / g_zero;
 }
 
-struct Row {
-    const char* why;
-    HRESULT (*body)();
-    HRESULT expected;
-};
+void throwOtherCompilersException() {
+    RaiseException(0xE06D7363, 0, 0, nullptr);
+}
 
-constexpr DWORD kOtherCompilersException = 0xE06D7363;
-
-const Row kRows[] = {
-    {"an answer passes through", [] { return HRESULT{S_FALSE}; }, S_FALSE},
-    {"a failure passes through", [] { return HRESULT{E_ACCESSDENIED}; }, E_ACCESSDENIED},
-    {"access violation",
-     [] {
-         writeNowhere();
-         return HRESULT{S_OK};
-     },
-     E_UNEXPECTED},
-    {"division by zero",
-     [] {
-         divideByZero();
-         return HRESULT{S_OK};
-     },
-     E_UNEXPECTED},
-    {"int thrown", []() -> HRESULT { throw 1; }, E_UNEXPECTED},
-    {"std::exception thrown", []() -> HRESULT { throw std::runtime_error("x"); }, E_UNEXPECTED},
-    {"memory ran out", []() -> HRESULT { throw std::bad_alloc(); }, E_OUTOFMEMORY},
-    {"another compiler's exception",
-     [] {
-         RaiseException(kOtherCompilersException, 0, 0, nullptr);
-         return HRESULT{S_OK};
-     },
-     E_UNEXPECTED},
-    {"debugger text is no failure",
-     [] {
-         OutputDebugStringA("knav");
-         return HRESULT{S_OK};
-     },
-     S_OK},
-    {"the body's own handler comes first",
-     [] {
-         try {
-             throw 1;
-         } catch (int) {
-             return HRESULT{S_FALSE};
-         }
-     },
-     S_FALSE},
-};
+void catchItself() {
+    try {
+        throw 1;
+    } catch (int) {
+    }
+}
 
 TEST(Guard, EachWayToEndABodyHasItsAnswer) {
-    for (const Row& row : kRows) {
-        EXPECT_EQ(guarded(row.body), row.expected) << row.why;
+    struct Row {
+        const char* why;
+        void (*body)();
+        HRESULT expected;
+    };
+    const Row rows[] = {
+        {"nothing happens", [] {}, S_FALSE},
+        {"access violation", [] { writeNowhere(); }, E_UNEXPECTED},
+        {"division by zero", divideByZero, E_UNEXPECTED},
+        {"int thrown", [] { throw 1; }, E_UNEXPECTED},
+        {"std::exception thrown", [] { throw std::runtime_error("x"); }, E_UNEXPECTED},
+        {"memory ran out", [] { throw std::bad_alloc(); }, E_OUTOFMEMORY},
+        {"another compiler's exception", throwOtherCompilersException, E_UNEXPECTED},
+        {"debugger text is no failure", [] { OutputDebugStringA("knav"); }, S_FALSE},
+        {"the body's own handler comes first", catchItself, S_FALSE},
+    };
+    for (const Row& row : rows) {
+        const HRESULT result = guarded([&row] {
+            row.body();
+            return S_FALSE;
+        });
+        EXPECT_EQ(result, row.expected) << row.why;
     }
+    EXPECT_EQ(guarded([] { return E_ACCESSDENIED; }), E_ACCESSDENIED);
+    EXPECT_EQ(guardedOr(7, [] { return 3; }), 3);
+    EXPECT_EQ(guardedOr(7, writeNowhere), 7);
+    EXPECT_TRUE(guardedTrue([] { return 5; }));
+    EXPECT_FALSE(guardedTrue(writeNowhere));
 }
 
 TEST(Guard, ThrownExceptionRunsDestructorsOfTheBody) {
@@ -95,49 +83,28 @@ TEST(Guard, ThrownExceptionRunsDestructorsOfTheBody) {
 }
 
 TEST(Guard, FaultInANestedGuardEndsOnlyTheInnerBody) {
-    HRESULT inner = S_OK;
+    bool inner = true;
     bool wentOn = false;
-    const HRESULT outer = guarded([&] {
-        inner = guarded(kRows[2].body);
+    EXPECT_FALSE(guardedRun([&] {
+        inner = guardedRun(writeNowhere);
         wentOn = true;
         writeNowhere();
-        return HRESULT{S_OK};
-    });
-    EXPECT_EQ(inner, E_UNEXPECTED);
+    }));
+    EXPECT_FALSE(inner);
     EXPECT_TRUE(wentOn);
-    EXPECT_EQ(outer, E_UNEXPECTED);
 }
 
-TEST(Guard, LocalsOfTheCallerSurviveAFault) {
+TEST(Guard, LocalsOfTheCallerSurviveAFaultAgainAndAgain) {
     // The guard must give back every register that a caller may keep values in.
     int a = g_sink, b = a + 1, c = b + 1, d = c + 1, e = d + 1, f = e + 1, g = f + 1;
     double x = a * 0.5, y = b * 0.5;
-    EXPECT_FALSE(guardedRun(writeNowhere));
-    EXPECT_EQ(b + c + d + e + f + g, 6 * a + 21);
-    EXPECT_EQ(x + y, a * 0.5 + b * 0.5);
-}
-
-TEST(Guard, WorksAgainAndAgain) {
     int caught = 0;
     for (int index = 0; index < 100'000; ++index) {
         caught += guardedRun(writeNowhere) ? 0 : 1;
     }
     EXPECT_EQ(caught, 100'000);
-}
-
-TEST(Guard, OtherFormsHaveTheirFailureValue) {
-    EXPECT_EQ(guardedOr(7, [] { return 3; }), 3);
-    EXPECT_EQ(guardedOr(7,
-                        [] {
-                            writeNowhere();
-                            return 3;
-                        }),
-              7);
-    EXPECT_TRUE(guardedTrue([] { return 5; }));
-    EXPECT_FALSE(guardedTrue([] {
-        writeNowhere();
-        return true;
-    }));
+    EXPECT_EQ(b + c + d + e + f + g, 6 * a + 21);
+    EXPECT_EQ(x + y, a * 0.5 + b * 0.5);
 }
 
 TEST(GuardDeathTest, StackOverflowIsNotTaken) {
