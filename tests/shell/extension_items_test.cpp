@@ -74,22 +74,6 @@ TEST(ExtensionItem, KindFollowsFromPrefixAndElements) {
     }
 }
 
-TEST(ExtensionItem, CutByTheEndOfMemoryIsReadOnlyAsFarAsItGoes) {
-    const RegisteredForTest registered;
-    const std::vector<BYTE> whole = bytesOf(textList({L"Extension-Foo"_z, L"site"}).get());
-    const std::size_t root = 2 + 2 * 14;
-    PageEnd page;
-    for (std::size_t cut = 0; cut <= whole.size(); ++cut) {
-        ITEMIDLIST* const list = page.put(whole.data(), cut);
-        EXPECT_EQ(NavIsExtensionItem(list) != 0, cut >= 2 + 20) << cut;
-        EXPECT_EQ(NavIsExtensionChildItem(list) != 0, cut >= root + 2) << cut;
-        CString name;
-        NavGetExtensionNameFromItem(list, name);
-        EXPECT_EQ(name.IsEmpty(), cut < root) << cut;
-        EXPECT_EQ(NavFindExtensionForItem(list), nullptr);
-    }
-}
-
 // An extension with a site in it that holds a plan.
 class Extensions : public testing::Test {
 protected:

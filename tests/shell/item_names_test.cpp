@@ -75,34 +75,6 @@ TEST(ConvertToString, WideTextIsFreedEvenWhenItCannotBeRead) {
     EXPECT_TRUE(text.IsEmpty());
 }
 
-TEST(DisplayName, ComesFromTheFolderInAnyKind) {
-    const auto folder = FakeFolder::make(L"root");
-    folder->add(L"plan", 0);
-    const ItemList plan = FakeFolder::item(L"plan");
-    for (const UINT kind : {STRRET_WSTR, STRRET_CSTR}) {
-        folder->setNameKind(kind);
-        CString name;
-        EXPECT_TRUE(NavGetItemNameInFolder(folder.get(), plan.get(), name));
-        EXPECT_EQ(name, L"plan");
-        EXPECT_TRUE(NavGetItemNameForParsing(folder.get(), plan.get(), name));
-        EXPECT_EQ(name, L"root/plan");
-        EXPECT_TRUE(NavGetItemNameWithExtensionInFolder(folder.get(), plan.get(), name));
-        EXPECT_EQ(name, L"plan");
-    }
-}
-
-TEST(Compare, AsksTheFolderOnlyWhenItMust) {
-    const auto folder = FakeFolder::make(L"root");
-    const ItemList a = FakeFolder::item(L"a");
-    const ItemList b = FakeFolder::item(L"b");
-    EXPECT_EQ(NavCompareFolderItems(folder.get(), a.get(), a.get()), 0);
-    EXPECT_EQ(NavCompareFolderItems(nullptr, a.get(), b.get()), 0);
-    EXPECT_EQ(folder->calls(FolderCall::CompareIDs), 0);
-    EXPECT_EQ(NavCompareFolderItems(folder.get(), a.get(), b.get()), -1);
-    EXPECT_EQ(NavCompareFolderItems(folder.get(), b.get(), a.get()), 1);
-    EXPECT_EQ(NavCompareFolderItems(folder.get(), a.get(), ItemList::copyOf(a.get()).get()), 0);
-}
-
 TEST(LastPathComponent, IsWhatFollowsTheLastSeparatorOfTheFirstKindFound) {
     struct Row {
         const wchar_t* folder;
@@ -128,13 +100,12 @@ TEST(LastPathComponent, IsWhatFollowsTheLastSeparatorOfTheFirstKindFound) {
 
 TEST(QualifiedList, ItemThatTheDesktopCannotParseIsTakenAsItIs) {
     CNavShell shell;
-    const auto folder = FakeFolder::make(L"root");
     const ItemList item = FakeFolder::item(L"no such thing on the desktop");
-    EXPECT_THAT(ItemList::adopt(NavGetQualifiedItemList(shell, folder.get(), item.get())).get(),
-                HoldsSameBytes(item.get()));
-    const auto longName = FakeFolder::make(std::wstring(MAX_PATH, L'x'));
-    EXPECT_THAT(ItemList::adopt(NavGetQualifiedItemList(shell, longName.get(), item.get())).get(),
-                HoldsSameBytes(item.get()));
+    for (const std::wstring& name : {std::wstring(L"root"), std::wstring(MAX_PATH, L'x')}) {
+        const auto folder = FakeFolder::make(name);
+        EXPECT_THAT(ItemList::adopt(NavGetQualifiedItemList(shell, folder.get(), item.get())).get(),
+                    HoldsSameBytes(item.get()));
+    }
 }
 
 }  // namespace

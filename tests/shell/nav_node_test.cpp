@@ -94,6 +94,21 @@ TEST_F(NavNode, EachShellAttributeSetsItsFlagOnly) {
     folder->set(FolderCall::GetAttributesOf, Conduct::Faults);
     EXPECT_FALSE(node->GetAttributes());
     EXPECT_TRUE(node->IsShared()) << "a failed query leaves the flags";
+
+    folder->set(FolderCall::GetAttributesOf, Conduct::Works);
+    folder->add(L"item", SFGAO_CANRENAME | SFGAO_FILESYSTEM | SFGAO_CANCOPY);
+    node->SetType(NavNodeExtensionRoot);
+    ASSERT_TRUE(node->GetAttributes());
+    EXPECT_TRUE(node->CanCopy());
+    EXPECT_FALSE(node->CanRename() || node->IsInFileSystem()) << "the root of an extension has no path";
+    EXPECT_TRUE(node->IsFileSystemAncestor() && node->IsFolder());
+}
+
+TEST_F(NavNode, ListOfMoreThanOneElementIsQualifiedAlready) {
+    const auto parent = nodeOver(FakeFolder::make(L"root"));
+    const ItemList list = makeList({"x", "y"});
+    parent->AddChild(nullptr)->SetID(ItemList::copyOf(list.get()).release());
+    EXPECT_THAT(ItemList::adopt(parent->GetChild()->CalculateQualifiedItemList()).get(), HoldsSameBytes(list.get()));
 }
 
 TEST_F(NavNode, FolderOfTheParentIsAskedAboutANodeAndItsOwnWithoutOne) {
@@ -115,31 +130,6 @@ TEST_F(NavNode, FolderOfTheParentIsAskedAboutANodeAndItsOwnWithoutOne) {
     nameless.SetParent(parent.get());
     EXPECT_FALSE(nameless.GetAttributes());
     EXPECT_EQ(outer->calls(FolderCall::GetAttributesOf), asked) << "without an item there is nothing to ask for";
-}
-
-TEST_F(NavNode, ExtensionRootIsAFolderWithoutAPath) {
-    const auto folder = FakeFolder::make(L"root");
-    folder->add(L"item", SFGAO_CANRENAME | SFGAO_FILESYSTEM | SFGAO_CANCOPY);
-    const auto parent = nodeOver(folder);
-    const auto root = itemBelow(*parent, NavNodeExtensionRoot);
-    ASSERT_TRUE(root->GetAttributes());
-    EXPECT_TRUE(root->CanCopy());
-    EXPECT_FALSE(root->CanRename());
-    EXPECT_FALSE(root->IsInFileSystem());
-    EXPECT_TRUE(root->IsFileSystemAncestor());
-    EXPECT_TRUE(root->IsFolder());
-}
-
-TEST_F(NavNode, QualifiedListIsThePathFromTheRoot) {
-    const auto node = nodeOver(FakeFolder::make(L"root"));
-    CNavNode* const child = node->AddChild(nullptr);
-    child->SetID(makeList({"child"}).release());
-    EXPECT_THAT(ItemList::adopt(child->CalculateQualifiedItemList()).get(),
-                HoldsSameBytes(makeList({"parent", "child"}).get()));
-    CNavNode* const qualified = child->AddChild(nullptr);
-    qualified->SetID(makeList({"x", "y"}).release());
-    EXPECT_THAT(ItemList::adopt(qualified->CalculateQualifiedItemList()).get(),
-                HoldsSameBytes(makeList({"x", "y"}).get()));
 }
 
 TEST_F(NavNode, NameOfAnExtensionRootIsThatOfItsFolder) {
@@ -180,13 +170,11 @@ TEST_F(NavNode, InitializeForgetsWithoutFreeing) {
     CNavNode node(m_shell);
     node.SetID(id.get());
     node.SetFolder(folder.get());
-    node.SetType(NavNodeInternetItem);
     node.SetDisplayNode(&node);
     node.SetExtensionName(L"Foo");
     node.Initialize();
     EXPECT_EQ(node.GetID(), nullptr);
     EXPECT_EQ(node.GetFolder(), nullptr);
-    EXPECT_EQ(node.GetType(), NavNodeShell);
     EXPECT_EQ(node.GetDisplayNode(), nullptr);
     EXPECT_STREQ(node.GetExtensionName(), L"Foo");
 }

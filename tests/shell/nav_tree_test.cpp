@@ -239,30 +239,24 @@ TEST_F(NavTree, DeletingTakesTheFollowingSiblingsAndTheChainAlong) {
 }
 
 TEST_F(NavTree, DeletingLeavesNothingThatPresentsTheNode) {
-    m_tree.AddChild(nullptr);
+    CNavNode* const root = m_tree.AddChild(nullptr);
     CNavNode* const presented = m_tree.AddChild(nullptr);
+    EXPECT_EQ(m_tree.GetRootNode(), root);
+    EXPECT_EQ(presented->GetParent(), root);
     CNavNode* const deleted = presented->AddNode(nullptr);
-    CNavNode* const below = deleted->AddChild(nullptr);
-    m_tree.GetRootNode()->SetDisplayNode(presented);
-    presented->SetDisplayNode(below);
+    root->SetDisplayNode(presented);
+    presented->SetDisplayNode(deleted->AddChild(nullptr));
     m_tree.DeleteNode(deleted);
     EXPECT_EQ(presented->GetDisplayNode(), nullptr);
-    EXPECT_EQ(m_tree.GetRootNode()->GetDisplayNode(), presented);
+    EXPECT_EQ(root->GetDisplayNode(), presented);
 
     auto* const detached = new CNavNode(m_tree);
-    detached->SetParent(m_tree.GetRootNode());
+    detached->SetParent(root);
     m_tree.DeleteNode(detached);
-    EXPECT_EQ(m_tree.GetRootNode()->GetChild(), presented) << "the parent's children are others";
-}
-
-TEST_F(NavTree, NodesAreAddedByHandToo) {
-    CNavNode* const root = m_tree.AddChild(nullptr);
-    EXPECT_EQ(m_tree.GetRootNode(), root);
-    CNavNode* const child = m_tree.AddChild(nullptr);
-    EXPECT_EQ(child->GetParent(), root);
-    CNavNode* const sibling = m_tree.AddNode(nullptr);
-    EXPECT_EQ(m_tree.GetRootNode(), root);
+    EXPECT_EQ(root->GetChild(), presented) << "the parent's children are others";
+    const CNavNode* const sibling = m_tree.AddNode(nullptr);
     EXPECT_EQ(root->GetNext(), sibling);
+    EXPECT_EQ(m_tree.GetRootNode(), root);
 }
 
 TEST_F(NavTree, NothingIsLeftBehind) {

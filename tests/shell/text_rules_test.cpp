@@ -7,47 +7,40 @@
 
 namespace {
 
-TEST(IsUrl, DecidesByTheSchemeOfTheTrimmedText) {
+TEST(IsUrl, DecidesByTheSchemeOfTheTrimmedTextAndUncByTwoBackslashes) {
+    enum Kind { Neither, Url, Unc };
     struct Row {
         const wchar_t* text;
-        bool isUrl;
+        Kind kind;
     };
     constexpr Row rows[] = {
-        {nullptr, false},
-        {L"", false},
-        {L"http:", false},
-        {L"http://host", true},
-        {L"HTTPS://host/plan.dwg", true},
-        {L"  FTP://host/plan.dwg", true},
-        {L"\t ftp://host", true},
-        {L"file:///C:/plan.dwg", true},
-        {L"mailto:", false},
-        {L"mailto:a@b", true},
-        {L"gopher://host", true},
-        {L"news:some.group", false},
-        {L"C:\\plan.dwg", false},
-        {L"\\\\server\\share", false},
-        {L"plan http://host", false},
+        {nullptr, Neither},
+        {L"", Neither},
+        {L"  ", Neither},
+        {L"http:", Neither},
+        {L"http://host", Url},
+        {L"HTTPS://host/plan.dwg", Url},
+        {L"\t FTP://host/plan.dwg", Url},
+        {L"file:///C:/plan.dwg", Url},
+        {L"mailto:", Neither},
+        {L"mailto:a@b", Url},
+        {L"gopher://host", Url},
+        {L"news:some.group", Neither},
+        {L"plan http://host", Neither},
+        {L"C:\\plan.dwg", Neither},
+        {L"C:\\\\", Neither},
+        {L"\\\\", Unc},
+        {L"\\\\s", Unc},
+        {L"  \\\\server\\share ", Unc},
+        {L"\\\\\\", Neither},
+        {L"\\\\\\s", Neither},
+        {L"\\server", Neither},
+        {L"//server/s", Neither},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(NavIsURL(row.text) != 0, row.isUrl) << (row.text != nullptr ? knav::test::utf8(row.text) : "null");
-    }
-}
-
-TEST(IsUncPath, BeginsWithExactlyTwoBackslashes) {
-    struct Row {
-        const wchar_t* text;
-        bool isUnc;
-    };
-    constexpr Row rows[] = {
-        {nullptr, false},       {L"", false},        {L"  ", false},
-        {L"\\\\", true},        {L"\\\\s", true},    {L"  \\\\server\\share ", true},
-        {L"\\\\\\", false},     {L"\\\\\\s", false}, {L"\\server", false},
-        {L"//server/s", false}, {L"C:\\\\", false},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(NavIsUNCPath(row.text) != 0, row.isUnc)
-            << (row.text != nullptr ? knav::test::utf8(row.text) : "null");
+        SCOPED_TRACE(row.text != nullptr ? knav::test::utf8(row.text) : "null");
+        EXPECT_EQ(NavIsURL(row.text) != 0, row.kind == Url);
+        EXPECT_EQ(NavIsUNCPath(row.text) != 0, row.kind == Unc);
     }
 }
 
