@@ -11,15 +11,16 @@ namespace {
 
 constexpr std::size_t kMostFolders = 64;
 
+bool sameEntry(const ItemList& a, const ItemList& b) {
+    return a && b ? sameFolder(a.get(), b.get()) : !a && !b;
+}
+
 }  // namespace
 
 void BackHistory::add(ITEMIDLIST* folder) {
     ItemList entry = NavIsDesktop(folder) ? ItemList() : ItemList::copyOf(folder);
-    if (!m_folders.empty()) {
-        const ItemList& head = m_folders.front();
-        if (entry ? head && sameFolder(head.get(), entry.get()) : !head) {
-            return;
-        }
+    if (!m_folders.empty() && sameEntry(m_folders.front(), entry)) {
+        return;
     }
     m_folders.push_front(std::move(entry));
     if (m_folders.size() > kMostFolders) {
@@ -41,6 +42,10 @@ void BackHistory::wentBack() {
 
 void BackHistory::forgetPrevious() {
     if (canGoBack()) {
+        m_folders.erase(m_folders.begin() + 1);
+    }
+    // What lay before the one that is gone may be the folder shown: going back to it would not be seen.
+    if (canGoBack() && sameEntry(m_folders[0], m_folders[1])) {
         m_folders.erase(m_folders.begin() + 1);
     }
 }

@@ -120,6 +120,7 @@ void CNavDialogImp::resetRun() {
     m_nameCameFromSelection = false;
     m_placesListDirty = false;
     m_currentPlace.Empty();
+    m_newFolder = {};
 }
 
 /// OLE ends with this object, after the folders and views that it holds.

@@ -119,6 +119,7 @@ public:
     int OnUrlOK();
     int ReportURLTransferStatus(CDWordArray& codes, CStringArray& urls, CStringArray& files);
     int IsExistingFolder(const CString& name);
+    int ReplaceEnvironmentStrings(CString& text);
     int ExtractDirectoryFromURL(const CString& url, CString& directory);
     int validateDrive(const CString& name);
     int validateUNC(const CString& name);
@@ -261,12 +262,14 @@ private:
     void processOk();
     std::optional<CString> folderTextForNames(CNavNode* node, CString& prefix, bool& unnamed);
     int commitParsed(CNavData& item, CNavPathname& path, CNavNode* node);
-    int commitUnparsed(CNavData& item, const CString& text, CNavPathname& path);
+    int commitUnparsed(CNavData& item, const CString& text, bool inSite);
     int acceptFile(CNavData& item, CNavPathname& path, CNavNode* node);
     void enterTypedFolder(CNavPathname& folder);
     void leaveTypedFolder(bool typed);
     void canonicalizeSiteItem(CNavData& item);
-    bool mayReplace(CNavData& item);
+    CString caption();
+    bool mayReplaceAll();
+    bool mayReplace(const CString& text);
     bool refuseFileInUse(const CString& name);
     bool refuseMissing(CNavData& item);
     void parseOtherItems();
@@ -338,7 +341,10 @@ private:
     bool m_placesListCustomized = false;
     bool m_enterHeldSinceStart = true;
     CString m_currentPlace;
-    CString m_newFolder;  // waits to be shown and named until that time
-    ULONGLONG m_newFolderUntil = 0;
+    struct NewFolder {
+        CString name;
+        ULONGLONG until = 0;
+        HWND focus = nullptr;
+    } m_newFolder;  // waits to be shown and named until that time, or until the focus moves
     int m_appendCompletion = 1;
 };

@@ -13,7 +13,8 @@
 #include "shell/Guard.h"
 
 void CNavDialogImp::CmdPrevious() {
-    if (!m_backButton.IsWindowEnabled() || !m_previous.canGoBack()) {
+    // While a folder is on its way, a browse is put off and counts as done.
+    if (m_inShellViewRegen || !m_backButton.IsWindowEnabled() || !m_previous.canGoBack()) {
         return;
     }
     const auto target = m_previous.previous();

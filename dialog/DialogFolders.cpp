@@ -63,7 +63,7 @@ void CNavDialogImp::NavigateToWildCard(const CNavPathname& pattern) {
     CString current;
     GetCurrentFolderForPersistence(current);
     const CString folder = full.Left(separator + 1).TrimRight(L'\\');
-    const bool elsewhere = separator > 0 && folder.CompareNoCase(CString(current).TrimRight(L'\\')) != 0;
+    const bool elsewhere = pattern.WasAbsolute() && folder.CompareNoCase(CString(current).TrimRight(L'\\')) != 0;
     if (!elsewhere || !NavigateToFolder(full.Left(separator + 1))) {
         m_browser.BrowseCurrentObject();
     }
@@ -123,10 +123,11 @@ void CNavDialogImp::leaveBrowse() {
 
 void CNavDialogImp::browsed(ITEMIDLIST* folder, UINT) {
     // What was selected in the view that is gone is selected no more; what is under way in OK keeps its items.
-    if (!m_ok.running) {
-        m_data.RemoveAllData();
+    m_newFolder = {};
+    if (m_ok.running) {
+        m_ok.moved = true;
     } else {
-        m_fileName.SetFileNameComboBoxDirty(1);
+        m_data.RemoveAllData();
     }
     nameView();
     showInLookIn(folder);

@@ -1,36 +1,40 @@
 // Making a new folder, and letting the user name it.
 #include <knav/CNavNode.h>
 #include <knav/NavNames.h>
+#include <platform/CMenu.h>
 
 #include <set>
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
 #include "resources/ids.h"
-#include "shell/Guard.h"
+#include "shell/FolderCalls.h"
 
 namespace {
 
 /// Names of the folder's items that contain `part`, or nothing when the folder cannot be enumerated.
 std::optional<std::set<std::wstring>> namesContaining(IShellFolder* folder, HWND owner, const CString& part) {
     constexpr SHCONTF all = SHCONTF_FOLDERS | SHCONTF_NONFOLDERS | SHCONTF_INCLUDEHIDDEN;
-    const auto items =
-        knav::ComPtr<IEnumIDList>::from([&](IEnumIDList** list) { return folder->EnumObjects(owner, all, list); });
-    if (!items) {
+    knav::ComPtr<IEnumIDList> items;
+    if (!knav::enumerateItems(folder, owner, all, items)) {
         return std::nullopt;
     }
     std::set<std::wstring> names;
-    while (true) {
-        ITEMIDLIST* raw = nullptr;
-        if (knav::guarded([&] { return items->Next(1, &raw, nullptr); }) != S_OK) {
-            return names;
-        }
-        const auto item = knav::ItemList::adopt(raw);
+    while (const knav::ItemList item = knav::nextItem(items)) {
         CString name;
         if (NavGetItemNameInFolder(folder, item.get(), name) && name.Find(part) >= 0) {
             names.emplace(name.view());
         }
     }
+    return names;
+}
+
+/// Only a menu that has been asked for its entries knows its verbs.
+bool fillMenu(IContextMenu* menu) {
+    CMenu entries;
+    entries.CreatePopupMenu();
+    const HMENU filled = entries.m_hMenu;
+    return SUCCEEDED(knav::guarded([=] { return menu->QueryContextMenu(filled, 0, 1, 0x7FFF, CMF_NORMAL); }));
 }
 
 bool isRemote(const CNavNode& node) {
@@ -104,7 +108,7 @@ void CNavDialogImp::CreateNewWebFolder(const CString& name) {
     invoke.lpParametersW = name;
     invoke.nShow = SW_SHOWNORMAL;
     const bool made =
-        menu &&
+        menu && fillMenu(menu.get()) &&
         SUCCEEDED(knav::guarded([&] { return menu->InvokeCommand(reinterpret_cast<CMINVOKECOMMANDINFO*>(&invoke)); }));
     if (!made) {
         knav::showMessage(m_facade, IDS_KNAV_NEW_FOLDER_FAILED, name);
@@ -115,7 +119,8 @@ void CNavDialogImp::CreateNewWebFolder(const CString& name) {
 }
 
 /// Selects the new folder and lets the user type its name over the one it was made with. A view that has not heard of
-/// it yet is refreshed; one that takes its time over that is asked again for a while.
+/// it yet is refreshed; one that takes its time over that is asked again for a while, as long as the user does nothing
+/// else.
 void CNavDialogImp::renameWhenShown(const CString& name) {
     if (beginRename(name)) {
         return;
@@ -123,14 +128,17 @@ void CNavDialogImp::renameWhenShown(const CString& name) {
     m_browser.RefreshView();
     if (!beginRename(name)) {
         constexpr ULONGLONG kPatienceMs = 2000;
-        m_newFolder = name;
-        m_newFolderUntil = GetTickCount64() + kPatienceMs;
+        m_newFolder = {name, GetTickCount64() + kPatienceMs, ::GetFocus()};
     }
 }
 
 void CNavDialogImp::renameNewFolder() {
-    if (!m_newFolder.IsEmpty() && (GetTickCount64() > m_newFolderUntil || beginRename(m_newFolder))) {
-        m_newFolder.Empty();
+    if (m_newFolder.name.IsEmpty()) {
+        return;
+    }
+    const bool over = GetTickCount64() > m_newFolder.until || ::GetFocus() != m_newFolder.focus;
+    if (over || beginRename(m_newFolder.name)) {
+        m_newFolder = {};
     }
 }
 
@@ -141,20 +149,18 @@ bool CNavDialogImp::beginRename(const CString& name) {
     if (!item || !list) {
         return false;
     }
+    const bool canRename =
+        knav::attributesOf(m_browser.GetCurrentFolder(), item.get(), SFGAO_CANRENAME).value_or(0) != 0;
     ::SetFocus(list);
-    constexpr UINT how = SVSI_SELECT | SVSI_DESELECTOTHERS | SVSI_FOCUSED | SVSI_ENSUREVISIBLE | SVSI_EDIT;
+    constexpr UINT select = SVSI_SELECT | SVSI_DESELECTOTHERS | SVSI_FOCUSED | SVSI_ENSUREVISIBLE;
+    const UINT how = canRename ? select | SVSI_EDIT : select;
     knav::guarded([&] { return view->SelectItem(item.get(), how); });
     // Views answer with success for an item that they do not show.
-    return ListView_GetEditControl(list) != nullptr;
+    return !canRename || ListView_GetEditControl(list) != nullptr;
 }
 
 knav::ItemList CNavDialogImp::FindIdInCurrentFolder(const CString& name) {
-    IShellFolder* folder = m_browser.GetCurrentFolder();
-    std::wstring text(name.view());
-    ITEMIDLIST* found = nullptr;
-    if (folder) {
-        knav::guarded(
-            [&] { return folder->ParseDisplayName(nullptr, nullptr, text.data(), nullptr, &found, nullptr); });
-    }
-    return knav::ItemList::adopt(found);
+    // Some folders parse a pattern or a path as an item of theirs.
+    const bool isName = name.view().find_first_of(L"*?\\/:") == std::wstring_view::npos;
+    return isName ? knav::parseName(m_browser.GetCurrentFolder(), name) : knav::ItemList();
 }

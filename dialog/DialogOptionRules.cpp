@@ -49,6 +49,7 @@ void CNavDialogImp::SetDefaultFileExtension(const wchar_t* text) {
 }
 
 void CNavDialogImp::SetInitialFileName(const wchar_t* text) {
+    const knav::NetworkAnswers::Scope asked(m_ok.network);
     if (NavIsURL(text)) {
         const CString url = text;
         const int dot = url.ReverseFind(L'.');

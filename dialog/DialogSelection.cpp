@@ -82,10 +82,6 @@ void CNavDialogImp::SyncBrowserToEditField() {
     m_fileName.GetEditBoxStrings(names);
     CNavDataArray selection;
     for (int i = 0; i < names.GetSize(); ++i) {
-        const std::wstring_view name = names[i].view();
-        if (name.find_first_of(L"*?\\/:") != std::wstring_view::npos) {
-            continue;  // a pattern or a path is not an item of this folder, though some folders parse it as one
-        }
         auto child = FindIdInCurrentFolder(names[i]);
         CNavData* item = child ? selection.AddData() : nullptr;
         if (item) {

@@ -1,6 +1,7 @@
 // Rules about typed names, as plain functions without windows.
 #pragma once
 
+#include <knav/CNavData.h>
 #include <platform/CString.h>
 
 #include <functional>
@@ -12,6 +13,11 @@ namespace knav {
 
 /// Longest text of a path: fixed path buffers hold 260 characters with their terminator.
 inline constexpr std::size_t kLongestPath = 259;
+
+/// A file or a folder, here or on the network.
+inline bool isFileKind(const CNavData& item) {
+    return item.GetDataType() == NAV_DATA_FILE || item.GetDataType() == NAV_DATA_NETWORK;
+}
 
 /// Where a name's extension starts: the position of its dot, when the dot lies behind the last separator and is not
 /// the last character.

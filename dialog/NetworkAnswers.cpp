@@ -14,7 +14,28 @@ bool sameLocation(const NetworkName& a, const NetworkName& b) {
     return a.place == b.place && equalNoCase(a.server, b.server) && equalNoCase(a.share, b.share);
 }
 
+/// A text as the file system takes it: without the blanks and quotes around it, with backslashes, and without the mark
+/// of a path that may be long.
+std::wstring plainPath(std::wstring_view text) {
+    constexpr std::wstring_view around = L" \t\"";
+    constexpr std::wstring_view longPath = L"\\\\?\\";
+    constexpr std::wstring_view longNetworkPath = L"\\\\?\\UNC\\";
+    const std::size_t start = std::min(text.find_first_not_of(around), text.size());
+    std::wstring path(text.substr(start, text.find_last_not_of(around) + 1 - start));
+    std::ranges::replace(path, L'/', L'\\');
+    if (startsWithNoCase(path, longNetworkPath)) {
+        return path.replace(0, longNetworkPath.size(), L"\\\\");
+    }
+    return path.starts_with(longPath) ? path.substr(longPath.size()) : path;
+}
+
 }  // namespace
+
+NetworkAnswers::Scope::Scope(NetworkAnswers& answers) : m_answers(answers) {
+    if (m_answers.m_scopes++ == 0) {
+        m_answers.forget();
+    }
+}
 
 void NetworkAnswers::forget() {
     m_known.clear();
@@ -22,7 +43,7 @@ void NetworkAnswers::forget() {
 }
 
 const NetworkAnswer& NetworkAnswers::about(const CString& name) {
-    const NetworkName location = splitNetworkName(trimmed(name.view()));
+    const NetworkName location = splitNetworkName(name.view());
     const auto known =
         std::ranges::find_if(m_known, [&](const auto& entry) { return sameLocation(entry.first, location); });
     if (known != m_known.end()) {
@@ -36,8 +57,14 @@ const NetworkAnswer& NetworkAnswers::about(const CString& name) {
     return m_known.emplace_back(location, answer).second;
 }
 
-bool NetworkAnswers::withinReach(const CString& text) {
-    return !NavIsUNCPath(text) || about(text).reachable;
+const NetworkAnswer* NetworkAnswers::refusal(const CString& text) {
+    const CString path(plainPath(text.view()));
+    if (!NavIsUNCPath(path)) {
+        return nullptr;
+    }
+    const Scope alone(*this);
+    const NetworkAnswer& answer = about(path);
+    return answer.reachable ? nullptr : &answer;
 }
 
 }  // namespace knav

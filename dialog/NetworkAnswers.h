@@ -9,22 +9,34 @@
 namespace knav {
 
 /// Asks about each location once, and about nothing on a disk: a server that is not there would hold whoever asks the
-/// file system. All questions together take no longer than the user is expected to wait (networkPatience).
+/// file system. All questions of one scope together take no longer than the user is expected to wait (networkPatience).
 /// User-interface thread only.
 class NetworkAnswers {
 public:
-    /// Forgets everything: the next question is asked anew.
-    void forget();
+    /// One thing that the user or the host does: answers are kept as long as the outermost of these lives. Without
+    /// one, each question is asked anew.
+    class Scope {
+    public:
+        explicit Scope(NetworkAnswers& answers);
+        ~Scope() { --m_answers.m_scopes; }
+        Scope(const Scope&) = delete;
+        Scope& operator=(const Scope&) = delete;
 
-    /// The answer about a network name; an hourglass shows while it is awaited.
-    const NetworkAnswer& about(const CString& name);
+    private:
+        NetworkAnswers& m_answers;
+    };
 
-    /// False for the name of a network location that cannot be reached; true for every other text.
-    bool withinReach(const CString& text);
+    /// Why a path on a network cannot be used; null when it can, and for every text that is no such path. An hourglass
+    /// shows while the answer is awaited. Valid until the next question.
+    const NetworkAnswer* refusal(const CString& text);
 
 private:
+    const NetworkAnswer& about(const CString& name);
+    void forget();
+
     std::vector<std::pair<NetworkName, NetworkAnswer>> m_known;
     unsigned long long m_waited = 0;
+    int m_scopes = 0;
 };
 
 }  // namespace knav

@@ -48,7 +48,7 @@ unsigned long ask(NetworkProbe& probe, const NetworkName& name, const std::wstri
             error = probe.path(text, message);
             break;
         case NetworkPlace::None:
-            return ERROR_BAD_NET_NAME;
+            return ERROR_INVALID_NAME;
     }
     // A machine without any network provider can still have the location mounted.
     if (error == ERROR_NO_NETWORK &&
@@ -62,7 +62,7 @@ unsigned long ask(NetworkProbe& probe, const NetworkName& name, const std::wstri
 }
 
 unsigned codeOf(unsigned long error) {
-    const bool invalid = error == ERROR_BAD_NET_NAME || error == ERROR_INVALID_NAME || error == ERROR_BAD_PATHNAME;
+    const bool invalid = error == ERROR_INVALID_NAME || error == ERROR_BAD_PATHNAME;
     return invalid ? kNetworkNameInvalid : 1;
 }
 

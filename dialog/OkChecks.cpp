@@ -51,6 +51,11 @@ constexpr GuardedType kGuardedTypes[] = {{L"VMF", IDS_KNAV_DRAWING_IN_USE_TITLE}
                                          {L"VMFx", IDS_KNAV_DRAWING_IN_USE_TITLE},
                                          {L"pdf", IDS_KNAV_PDF_IN_USE_TITLE}};
 
+bool exists(const CString& name) {
+    CZoUiPathname path;
+    return path.Parse(name, false) == PathErr::None && path.Exists();
+}
+
 bool isInUse(const CString& path) {
     const HANDLE file =
         CreateFileW(path, GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -76,22 +81,19 @@ int CNavDialogImp::validateDrive(const CString& name) {
 
 /// Whether the file system may be asked about a text without the danger of waiting for a server that is not there.
 bool CNavDialogImp::withinReach(const CString& text) {
-    if (!m_ok.running) {
-        m_ok.network.forget();
-    }
-    return m_ok.network.withinReach(text);
+    return m_ok.network.refusal(text) == nullptr;
 }
 
 int CNavDialogImp::validateUNC(const CString& name) {
-    if (withinReach(name)) {
+    const knav::NetworkAnswer* refusal = m_ok.network.refusal(name);
+    if (!refusal) {
         return 1;
     }
-    const knav::NetworkAnswer answer = m_ok.network.about(name);
-    if (!answer.message.IsEmpty()) {
-        knav::showText(m_facade, answer.message);
+    if (const CString message = refusal->message; !message.IsEmpty()) {
+        knav::showText(m_facade, message);
     } else {
         knav::showMessage(
-            m_facade, answer.code == knav::kNetworkNameInvalid ? IDS_KNAV_INVALID_NAME : IDS_KNAV_NETWORK_UNREACHABLE,
+            m_facade, refusal->code == knav::kNetworkNameInvalid ? IDS_KNAV_INVALID_NAME : IDS_KNAV_NETWORK_UNREACHABLE,
             name);
     }
     refuseFileName();
@@ -117,17 +119,40 @@ void CNavDialogImp::canonicalizeSiteItem(CNavData& item) {
     }
 }
 
-bool CNavDialogImp::mayReplace(CNavData& item) {
-    const CString name = knav::trimName(item.GetText(), true);
-    CZoUiPathname path;
-    if (path.Parse(name, false) != PathErr::None || !path.Exists()) {
-        return true;
+/// The title of boxes that ask about a file.
+CString CNavDialogImp::caption() {
+    CString caption = m_options.caption;
+    if (caption.IsEmpty()) {
+        m_facade.GetWindowText(caption);
+    }
+    return caption;
+}
+
+bool CNavDialogImp::mayReplaceAll() {
+    for (int i = 0; i < m_data.GetCount(); ++i) {
+        // Asking pumps messages: the host may have emptied the array.
+        const CNavData* item = m_data.GetData(i);
+        if (item && knav::isFileKind(*item) && withinReach(item->GetText()) && !mayReplace(item->GetText())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool CNavDialogImp::mayReplace(const CString& text) {
+    // What is written is the name as it stands; without its stray blanks it may be the file that the user means.
+    CString name = text;
+    if (!exists(name)) {
+        name = knav::trimName(text.view(), true);
+        if (!exists(name)) {
+            return true;
+        }
     }
     if (refuseFileInUse(name)) {
         return false;
     }
     const CString question = knav::messageText(IDS_KNAV_REPLACE, name);
-    if (knav::showText(m_facade, question, m_options.caption, MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) == IDYES) {
+    if (knav::showText(m_facade, question, caption(), MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) == IDYES) {
         return true;
     }
     refuseFileName();
@@ -150,7 +175,7 @@ bool CNavDialogImp::refuseMissing(CNavData& item) {
     if (item.GetPathname()->Exists() || m_browser.GetMultiSelectAllowed()) {
         return false;
     }
-    const knav::TaskDialogPair pairs[] = {{L"FeatureName", m_options.caption}, {L"FileName", fileNameText()}};
+    const knav::TaskDialogPair pairs[] = {{L"FeatureName", caption()}, {L"FileName", fileNameText()}};
     if (!knav::showTaskDialog(m_facade, L"Standard.FileNotFound", pairs)) {
         knav::showMessage(m_facade, IDS_KNAV_INVALID_PATH, fileNameText());
     }

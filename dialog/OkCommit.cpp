@@ -4,8 +4,26 @@
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
+#include "dialog/NameRules.h"
 #include "resources/ids.h"
 #include "shell/TextRules.h"
+
+namespace {
+
+/// The item is this path from now on. A text such as "\name" depends on the folder that was shown when it was typed;
+/// the full path does not.
+void takePath(CNavData& item, CNavPathname& path) {
+    item.SetPathname(&path);
+    if (item.GetDataType() == NAV_DATA_FTP || path.GetIsExtension()) {
+        return;
+    }
+    if (CString full; path.GetFullPath(full)) {
+        item.SetText(full);
+    }
+    item.SetDataType(NavIsUNCPath(path.GetPathString()) ? NAV_DATA_NETWORK : NAV_DATA_FILE);
+}
+
+}  // namespace
 
 int CNavDialogImp::CommitFileNameEdit() {
     if (m_data.GetCount() == 0) {
@@ -29,7 +47,7 @@ int CNavDialogImp::CommitFileNameEdit() {
     if (path.ParseRelative(text, &folder, node, 1) == PathErr::None) {
         return commitParsed(*item, path, node);
     }
-    return commitUnparsed(*item, text, path);
+    return commitUnparsed(*item, text, path.GetIsExtension() || path.GetIsURL());
 }
 
 int CNavDialogImp::commitParsed(CNavData& item, CNavPathname& path, CNavNode* node) {
@@ -42,7 +60,7 @@ int CNavDialogImp::commitParsed(CNavData& item, CNavPathname& path, CNavNode* no
             return 0;
         case CZoUiPathname::Directory:
             if (m_options.foldersOnly) {
-                item.SetPathname(&path);
+                takePath(item, path);
                 return 1;
             }
             enterTypedFolder(path);
@@ -57,16 +75,8 @@ int CNavDialogImp::commitParsed(CNavData& item, CNavPathname& path, CNavNode* no
 }
 
 int CNavDialogImp::acceptFile(CNavData& item, CNavPathname& path, CNavNode* node) {
-    item.SetPathname(&path);
-    if (item.GetDataType() == NAV_DATA_FTP) {
-        return 1;
-    }
-    if (!path.GetIsExtension()) {
-        // A text such as "\name" depends on the folder that was shown when it was typed; the full path does not.
-        if (CString full; path.GetFullPath(full)) {
-            item.SetText(full);
-        }
-        item.SetDataType(NavIsUNCPath(path.GetPathString()) ? NAV_DATA_NETWORK : NAV_DATA_FILE);
+    takePath(item, path);
+    if (item.GetDataType() == NAV_DATA_FTP || !path.GetIsExtension()) {
         return 1;
     }
     item.SetDataType(NAV_DATA_EXTENSION);
@@ -82,9 +92,11 @@ int CNavDialogImp::acceptFile(CNavData& item, CNavPathname& path, CNavNode* node
     return 1;
 }
 
-int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathname& path) {
-    if (path.GetType() == CZoUiPathname::Wildcard) {
-        NavigateToWildCard(path);
+int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, bool inSite) {
+    CNavPathname alone;
+    const PathErr error = alone.Parse(text, true);
+    if (alone.GetType() == CZoUiPathname::Wildcard) {
+        NavigateToWildCard(alone);
         return 0;
     }
     // Moving on may take the item out of the array.
@@ -98,7 +110,7 @@ int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathn
         leaveTypedFolder(dirty);
         return 0;
     }
-    if (picked && !path.GetIsExtension() && !path.GetIsURL()) {
+    if (picked && !inSite) {
         goOrTell(picked.get());
         return 0;
     }
@@ -110,8 +122,12 @@ int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, CNavPathn
         item.SetPathname(&url);
         return 1;
     }
+    if (error == PathErr::TooLong) {
+        reportNameError(OkErrNameTooLong);
+        return 0;
+    }
     const knav::TaskDialogPair pairs[] = {
-        {L"ObjectName", m_options.caption},
+        {L"ObjectName", caption()},
         {L"FieldName", knav::messageText(IDS_KNAV_UNSUPPORTED_FIELD)},
         {L"UnsupportedCharacters", knav::messageText(IDS_KNAV_UNSUPPORTED_CHARACTERS)}};
     if (!knav::showTaskDialog(m_facade, L"Standard.Object.UnsupportCharacters", pairs)) {
@@ -142,12 +158,15 @@ void CNavDialogImp::leaveTypedFolder(bool typed) {
 }
 
 void CNavDialogImp::parseOtherItems() {
+    CNavPathname folder;
+    selectedFolderPathname(folder);
     for (int i = 1; i < m_data.GetCount(); ++i) {
         CNavData* item = m_data.GetData(i);
-        const bool isFile = item && (item->GetDataType() == NAV_DATA_FILE || item->GetDataType() == NAV_DATA_NETWORK);
+        const bool isFile = item && knav::isFileKind(*item);
         CNavPathname path;
-        if (isFile && withinReach(item->GetText()) && path.Parse(item->GetText(), true) == PathErr::None) {
-            item->SetPathname(&path);
+        if (isFile && withinReach(item->GetText()) &&
+            path.CZoUiPathname::ParseRelative(item->GetText(), &folder, true) == PathErr::None) {
+            takePath(*item, path);
         }
     }
 }

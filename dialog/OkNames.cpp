@@ -39,8 +39,7 @@ OkHandlerErr CNavDialogImp::PreprocessData(CNavDataArray& data) {
 
 OkHandlerErr CNavDialogImp::finishItem(CNavData& item) {
     CString text = item.GetText();
-    if (const auto expansion = knav::expandEnvironment(text.view()); expansion.replaced > 0) {
-        text = expansion.text;
+    if (ReplaceEnvironmentStrings(text) > 0) {
         item.SetText(text);
     }
     if (const OkHandlerErr error = m_facade.CombineDataTextWithFolderName(&item, text); error != OkErrNone) {
@@ -54,7 +53,7 @@ OkHandlerErr CNavDialogImp::finishItem(CNavData& item) {
     item.SetText(text);
     if (!withinReach(text)) {
         item.SetDataType(NAV_DATA_NETWORK);
-        return OkErrNone;  // the user is told when the name is committed
+        return OkErrNone;  // the user is told when the first name is committed
     }
     if (CString name = item.GetTextInFolder(); isRoot(currentFolderNode()) && !name.IsEmpty()) {
         item.SetText(name);
@@ -63,8 +62,16 @@ OkHandlerErr CNavDialogImp::finishItem(CNavData& item) {
     return OkErrNone;
 }
 
+int CNavDialogImp::ReplaceEnvironmentStrings(CString& text) {
+    const knav::Expansion expansion = knav::expandEnvironment(text.view());
+    text = expansion.text;
+    return expansion.replaced;
+}
+
+/// A file that the selection knows to be no shortcut is not read to find that out: it may be far away.
 void CNavDialogImp::resolveShortcut(CNavData& item, CString& text) {
-    if (!item.GetID()) {
+    const CNavPathname* path = item.GetPathname();
+    if (!item.GetID() || (path && path->GetType() == CZoUiPathname::ExistingFile && !path->isShortCut())) {
         return;
     }
     const auto target = knav::ItemList::adopt(NavResolveLink(item.GetID(), 0));
@@ -131,6 +138,9 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
     if (unnamed) {
         return OkErrNone;
     }
+    if (!withinReach(text)) {
+        return OkErrNone;
+    }
     CNavPathname parsed;
     const bool isPath = parsed.Parse(text, true) == PathErr::None;
     if (isPath) {
@@ -183,14 +193,14 @@ int CNavDialogImp::IsExistingFolder(const CString& name) {
         return 0;
     }
     CNavPathname parsed;
+    CNavPathname folder;
+    selectedFolderPathname(folder);
     CNavNode* node = lookInNode();
-    if (node && isUrlLike(node)) {
-        CNavPathname folder;
-        selectedFolderPathname(folder);
+    if (isUrlLike(node)) {
         return parsed.ParseRelative(name, &folder, node, 0) == PathErr::None &&
                parsed.GetType() == CZoUiPathname::Directory;
     }
-    parsed.CZoUiPathname::Parse(name, false);
+    parsed.CZoUiPathname::ParseRelative(name, &folder, false);
     return parsed.GetType() == CZoUiPathname::Directory;
 }
 

@@ -9,28 +9,19 @@
 #include "resources/ids.h"
 #include "shell/TextRules.h"
 
-namespace {
-
-bool isRemoteType(NAV_DATA_TYPE type) {
-    return type == NAV_DATA_URL || type == NAV_DATA_EXTENSION || type == NAV_DATA_FTP;
-}
-
-bool isFileType(NAV_DATA_TYPE type) {
-    return type == NAV_DATA_FILE || type == NAV_DATA_NETWORK;
-}
-
-}  // namespace
-
 void CNavDialogImp::OnOK() {
     // Prompts and hooks pump messages: the items that are being worked on must not change under them.
     if (m_ok.running) {
         return;
     }
     m_ok.closing = false;
-    m_ok.network.forget();
     {
+        const knav::NetworkAnswers::Scope asked(m_ok.network);
         const knav::ScopedFlag running(m_ok.running);
         processOk();
+    }
+    if (std::exchange(m_ok.moved, false) && !m_ok.closing) {
+        m_data.RemoveAllData();  // of the folder that was left
     }
     if (std::exchange(m_ok.selectionMissed, false) && !m_ok.closing) {
         postToSelf(OwnMessage::SyncSelection);
@@ -114,7 +105,7 @@ int CNavDialogImp::OnFileNameOK() {
     if (!first) {
         return 0;
     }
-    if (isRemoteType(first->GetDataType()) && !m_options.foldersOnly && !m_facade.OnUrlOK()) {
+    if (first->IsRemote() && !m_options.foldersOnly && !m_facade.OnUrlOK()) {
         refuseFileName();
         return 0;
     }
@@ -123,13 +114,11 @@ int CNavDialogImp::OnFileNameOK() {
         return 0;
     }
     canonicalizeSiteItem(*first);
-    if (isFileType(first->GetDataType())) {
-        if (asksBeforeReplacing && !mayReplace(*first)) {
-            return 0;
-        }
-        if (!m_options.creatingFile && m_options.confirmReplace && refuseMissing(*first)) {
-            return 0;
-        }
+    if (asksBeforeReplacing && !mayReplaceAll()) {
+        return 0;
+    }
+    if (knav::isFileKind(*first) && !m_options.creatingFile && m_options.confirmReplace && refuseMissing(*first)) {
+        return 0;
     }
     rememberName();
     SaveCurrentStates();

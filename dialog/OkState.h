@@ -9,6 +9,7 @@ struct OkState {
     bool running = false;          ///< the items must not change under the steps
     bool closing = false;          ///< accepted: the dialog is about to end
     bool selectionMissed = false;  ///< the view's selection changed meanwhile
+    bool moved = false;            ///< another folder is shown than when it began
     NetworkAnswers network;
 };
 

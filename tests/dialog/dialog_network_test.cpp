@@ -127,7 +127,8 @@ struct RefusedRow {
 TEST_F(InsideNetwork, LocationThatIsNotThere_IsRefusedInTheRightWords) {
     const RefusedRow rows[] = {
         {"a server", L"\\\\nowhere", messageText(IDS_KNAV_NETWORK_UNREACHABLE, L"\\\\nowhere"), L"list \\\\nowhere\n"},
-        {"a share of a server", L"\\\\knavtest\\nothing", messageText(IDS_KNAV_INVALID_NAME),
+        {"a share of a server", L"\\\\knavtest\\nothing",
+         messageText(IDS_KNAV_NETWORK_UNREACHABLE, L"\\\\knavtest\\nothing"),
          L"list \\\\knavtest\nfind \\\\knavtest\\nothing\n"},
         {"a path", L"\\\\nowhere\\plans\\a.dwg",
          messageText(IDS_KNAV_NETWORK_UNREACHABLE, L"\\\\nowhere\\plans\\a.dwg"), L"find \\\\nowhere\\plans\\a.dwg\n"},

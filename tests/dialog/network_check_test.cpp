@@ -101,7 +101,7 @@ TEST(NetworkCheck, RefusedLocation_TellsInvalidNamesFromUnreachableOnes) {
         bool invalidName;
     };
     constexpr Row rows[] = {
-        {"no such name", ERROR_BAD_NET_NAME, true},
+        {"no such share", ERROR_BAD_NET_NAME, false},
         {"a name that cannot be", ERROR_INVALID_NAME, true},
         {"no such server", ERROR_BAD_NETPATH, false},
         {"no network at all", ERROR_NO_NETWORK, false},
@@ -217,24 +217,26 @@ TEST(NetworkCheck, AnswersAreKeptForOneThingTheUserDoesAndShareOnePatience) {
     static FakeNetwork there(NO_ERROR);
     setNetworkProbe(&there);
     NetworkAnswers answers;
-    EXPECT_TRUE(answers.withinReach(L"\\\\srv\\plans\\a.dwg"));
+    const auto withinReach = [&](const wchar_t* text) { return answers.refusal(text) == nullptr; };
+    std::optional<NetworkAnswers::Scope> scope(answers);
+    EXPECT_TRUE(withinReach(L"\\\\srv\\plans\\a.dwg"));
     EXPECT_EQ(there.asked(), L"path \\\\srv\\plans\\a.dwg");
-    EXPECT_TRUE(answers.withinReach(L"\\\\SRV\\Plans\\sub\\b.dwg"));
-    EXPECT_TRUE(answers.withinReach(L"C:\\plans"));
+    EXPECT_TRUE(withinReach(L"\\\\SRV\\Plans\\sub\\b.dwg"));
+    EXPECT_TRUE(withinReach(L"C:\\plans"));
     EXPECT_EQ(there.asked(), L"path \\\\srv\\plans\\a.dwg") << "the share is known";
-    EXPECT_TRUE(answers.withinReach(L"\\\\srv\\plans"));
+    EXPECT_TRUE(withinReach(L"\\\\srv\\plans"));
     EXPECT_EQ(there.asked(), L"share \\\\srv plans");
-    answers.forget();
-    EXPECT_TRUE(answers.withinReach(L"\\\\srv\\plans\\c.dwg"));
+    scope.reset();
+    EXPECT_TRUE(withinReach(L"\\\\srv\\plans\\c.dwg"));
     EXPECT_EQ(there.asked(), L"path \\\\srv\\plans\\c.dwg");
 
     static HangingNetwork gone;
     setNetworkProbe(&gone);
     setNetworkPatience(200);
-    answers.forget();
+    scope.emplace(answers);
     const ULONGLONG start = GetTickCount64();
     for (const wchar_t* const name : {L"\\\\one", L"\\\\two", L"\\\\three", L"\\\\four", L"\\\\one"}) {
-        EXPECT_FALSE(answers.withinReach(name));
+        EXPECT_FALSE(withinReach(name));
     }
     EXPECT_LT(GetTickCount64() - start, 700u);
     gone.letGo();
