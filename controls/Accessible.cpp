@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "data/ApiEdge.h"
 #include "shell/ComPtr.h"
 
 namespace knav {
@@ -19,9 +20,26 @@ bool isButton(long role) {
     return role == ROLE_SYSTEM_PUSHBUTTON || role == ROLE_SYSTEM_BUTTONMENU || role == ROLE_SYSTEM_SPLITBUTTON;
 }
 
-HRESULT give(const std::wstring& text, BSTR* result) {
-    *result = text.empty() ? nullptr : SysAllocString(text.c_str());
-    return *result != nullptr ? S_OK : S_FALSE;
+/// What the keyboard calls the key.
+std::wstring altKey() {
+    const auto code = static_cast<LONG>(MapVirtualKeyW(VK_MENU, MAPVK_VK_TO_VSC));
+    wchar_t name[32] = L"";
+    GetKeyNameTextW(code << 16, name, static_cast<int>(std::size(name)));
+    return name;
+}
+
+/// Answers with the text that `make` gives.
+template <class Make>
+HRESULT give(BSTR* result, Make&& make) {
+    if (!result) {
+        return E_POINTER;
+    }
+    *result = nullptr;
+    return atApiEdge<HRESULT>(E_OUTOFMEMORY, [&] {
+        const std::wstring text = make();
+        *result = text.empty() ? nullptr : SysAllocString(text.c_str());
+        return *result != nullptr ? S_OK : S_FALSE;
+    });
 }
 
 /// The system's object for the control, with its own answers for the control itself. It may outlive the control.
@@ -32,6 +50,9 @@ public:
     }
 
     STDMETHOD(QueryInterface)(REFIID iid, void** object) override {
+        if (!object) {
+            return E_POINTER;
+        }
         const bool known = iid == IID_IUnknown || iid == IID_IDispatch || iid == IID_IAccessible;
         *object = known ? static_cast<IAccessible*>(this) : nullptr;
         if (!known) {
@@ -51,15 +72,19 @@ public:
 
     // --- what differs ---------------------------------------------------------------------------------------------
     STDMETHOD(get_accName)(VARIANT child, BSTR* name) override {
-        return isSelf(child) ? give(plainName(caption()), name) : ask(&IAccessible::get_accName, child, name);
+        return isSelf(child) ? give(name, [this] { return plainName(caption()); })
+                             : ask(&IAccessible::get_accName, child, name);
     }
     STDMETHOD(get_accDescription)(VARIANT child, BSTR* text) override {
         const bool own = isSelf(child) && m_facts.description && IsWindow(m_control);
-        return own ? give(m_facts.description(), text) : ask(&IAccessible::get_accDescription, child, text);
+        return own ? give(text, m_facts.description) : ask(&IAccessible::get_accDescription, child, text);
     }
     STDMETHOD(get_accRole)(VARIANT child, VARIANT* role) override {
         if (!isSelf(child)) {
             return ask(&IAccessible::get_accRole, child, role);
+        }
+        if (!role) {
+            return E_POINTER;
         }
         role->vt = VT_I4;
         role->lVal = m_facts.role;
@@ -73,7 +98,7 @@ public:
         return result;
     }
     STDMETHOD(get_accKeyboardShortcut)(VARIANT child, BSTR* keys) override {
-        return isSelf(child) ? give(shortcutOf(caption()), keys)
+        return isSelf(child) ? give(keys, [this] { return shortcutOf(caption()); })
                              : ask(&IAccessible::get_accKeyboardShortcut, child, keys);
     }
     STDMETHOD(accDoDefaultAction)(VARIANT child) override {
@@ -146,13 +171,17 @@ private:
     LONG m_references = 1;
 };
 
+ComPtr<IAccessible> accessibleOf(HWND control, const AccessibleFacts& facts) {
+    return atApiEdge(ComPtr<IAccessible>(),
+                     [&] { return ComPtr<IAccessible>::adopt(new AccessibleControl(control, facts)); });
+}
+
 constexpr UINT_PTR kHookId = 0xACCE;
 
 LRESULT CALLBACK hook(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR reference) {
     auto* const facts = reinterpret_cast<AccessibleFacts*>(reference);
     if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == OBJID_CLIENT) {
-        if (auto* const made = new (std::nothrow) AccessibleControl(window, *facts)) {
-            const auto object = ComPtr<IAccessible>::adopt(made);
+        if (const auto object = accessibleOf(window, *facts)) {
             return LresultFromObject(IID_IAccessible, wParam, object.get());
         }
     }
@@ -197,7 +226,7 @@ std::wstring shortcutOf(std::wstring_view caption) {
         if (caption[i + 1] != L'&') {
             const auto key = static_cast<wchar_t>(reinterpret_cast<ULONG_PTR>(
                 CharUpperW(reinterpret_cast<LPWSTR>(static_cast<ULONG_PTR>(caption[i + 1])))));
-            return std::wstring(L"Alt+") + key;
+            return altKey() + L'+' + key;
         }
         ++i;
     }

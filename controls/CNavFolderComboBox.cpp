@@ -5,6 +5,7 @@
 #include "data/ApiEdge.h"
 #include "shell/ExtensionItems.h"
 #include "shell/FolderCalls.h"
+#include "shell/FolderPaths.h"
 
 #include <knav/CNavExtension.h>
 #include <knav/CNavPathname.h>
@@ -17,12 +18,6 @@ ON_CONTROL_REFLECT_EX(CBN_CLOSEUP, &CNavFolderComboBox::OnCloseUp)
 END_MESSAGE_MAP()
 
 namespace {
-
-CString desktopDirectory() {
-    const auto list = knav::ItemList::adopt(NavGetSpecialFolderItem(nullptr, CSIDL_DESKTOPDIRECTORY));
-    std::array<wchar_t, MAX_PATH> path{};
-    return list && SHGetPathFromIDListW(list.get(), path.data()) ? CString(path.data()) : CString();
-}
 
 // A place in an extension is a folder, and known as one by the root of the extension alone.
 void parseNode(CNavPathname& pathname, const CNavNode& node, ITEMIDLIST* list, CString& name) {
@@ -39,7 +34,7 @@ CNavFolderComboBox::CNavFolderComboBox()
     : m_icons(std::make_unique<knav::RowIcons>()), m_items(std::make_unique<knav::ComboItems>()) {
 }
 
-const knav::ComboItems& CNavFolderComboBox::items() const {
+knav::ComboItems& CNavFolderComboBox::items() const {
     m_items->of(m_hWnd);
     return *m_items;
 }
@@ -78,7 +73,7 @@ int CNavFolderComboBox::GetPathname(CNavPathname& pathname) {
         const auto list = knav::ItemList::adopt(node->CalculateQualifiedItemList());
         CString name;
         if (NavIsDesktop(list.get())) {
-            name = desktopDirectory();
+            name = knav::pathOfSpecialFolder(CSIDL_DESKTOPDIRECTORY);
             pathname.Parse(name, false);
         } else if (NavGetItemNameForParsing(node->GetParentFolder(), node->GetID(), name)) {
             parseNode(pathname, *node, list.get(), name);
@@ -100,14 +95,21 @@ int CNavFolderComboBox::FindItemByList(ITEMIDLIST* list) {
         if (list == nullptr || !desktop) {
             return -1;
         }
-        for (int index = 0, count = items().count(); index < count; ++index) {
-            const CNavNode* const node = GetNode(index);
-            const auto other = knav::ItemList::adopt(node != nullptr ? node->CalculateQualifiedItemList() : nullptr);
-            if (other && NavCompareFolderItems(desktop.get(), list, other.get()) == 0) {
-                return index;
+        const auto firstThat = [this](auto&& matches) {
+            for (int index = 0, count = items().count(); index < count; ++index) {
+                const CNavNode* const node = GetNode(index);
+                const auto other = knav::ItemList::adopt(node ? node->CalculateQualifiedItemList() : nullptr);
+                if (other && matches(other.get())) {
+                    return index;
+                }
             }
-        }
-        return -1;
+            return -1;
+        };
+        // Most often there is one of the same bytes, and to compare with those before it takes the shell long.
+        const int same = firstThat([&](ITEMIDLIST* other) { return knav::areSameBytes(list, other); });
+        return same >= 0 ? same : firstThat([&](ITEMIDLIST* other) {
+            return NavCompareFolderItems(desktop.get(), list, other) == 0;
+        });
     });
 }
 
@@ -150,7 +152,8 @@ int CNavFolderComboBox::GetItemIndent(int index) const {
 int CNavFolderComboBox::GetItemText(int index, CString& text) const {
     text.Empty();
     return knav::atApiEdge(0, [&] {
-        const CNavNode* const node = items().text(index, text) ? nullptr : GetNode(index);
+        text = items().text(index);
+        const CNavNode* const node = text.IsEmpty() ? GetNode(index) : nullptr;
         if (node != nullptr) {
             node->GetNameInFolder(text);
         }

@@ -13,24 +13,25 @@ namespace knav {
 class ComboItems {
 public:
     /// Finds the list of `combo` when it is first asked for; a null combo has no items.
-    void of(HWND combo) const;
+    void of(HWND combo);
 
     int count() const;
-    /// Inserts at `index`; the item's index, or a negative number. Without strings the list keeps `data` only.
-    int insert(int index, const wchar_t* text, void* data) const;
+    /// Inserts at `index`; the item's index, or a negative number.
+    int insert(int index, const wchar_t* text, void* data);
     /// Null for a wrong index.
     void* data(int index) const;
-    bool text(int index, CString& text) const;
+    /// Empty for a wrong index, and in a combo that a host made without strings.
+    CString text(int index) const;
     /// Around the time that the list is dropped down.
-    void beginDrop() const;
-    void endDrop() const { m_dropped.UnsubclassWindow(); }
-    bool hasStrings() const { return m_hasStrings; }
+    void beginDrop();
+    void endDrop() { m_dropped.end(); }
 
 private:
-    mutable HWND m_combo = nullptr;
-    mutable HWND m_list = nullptr;
-    mutable bool m_hasStrings = false;
-    mutable DropList m_dropped;
+    LRESULT ask(UINT message, int index, LPARAM parameter = 0) const;
+
+    HWND m_combo = nullptr;
+    HWND m_list = nullptr;
+    DropList m_dropped;
 };
 
 }  // namespace knav

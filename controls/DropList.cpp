@@ -6,6 +6,14 @@ BEGIN_MESSAGE_MAP(DropList, CWnd)
 ON_WM_WINDOWPOSCHANGING()
 END_MESSAGE_MAP()
 
+void DropList::begin(HWND combo, HWND list) {
+    m_combo = combo;
+    if (m_hWnd != list) {
+        UnsubclassWindow();
+        SubclassWindow(list);
+    }
+}
+
 void DropList::OnWindowPosChanging(WINDOWPOS* place) {
     Default();
     const auto row = static_cast<int>(::SendMessageW(m_hWnd, LB_GETITEMHEIGHT, 0, 0));
@@ -16,9 +24,13 @@ void DropList::OnWindowPosChanging(WINDOWPOS* place) {
         return;
     }
     const int room = place->cy - static_cast<int>(window.bottom - window.top - client.bottom);
-    if (room > row) {
-        place->cy -= room % row;
+    if (room <= row) {
+        return;
     }
+    RECT combo{};
+    const bool isAbove = (place->flags & SWP_NOMOVE) == 0 && ::GetWindowRect(m_combo, &combo) && place->y < combo.top;
+    place->cy -= room % row;
+    place->y += isAbove ? room % row : 0;
 }
 
 }  // namespace knav

@@ -10,9 +10,16 @@ namespace knav {
 /// its frame and scroll bar for each.
 class DropList : public CWnd {
 public:
+    /// Around the time that the list of `combo` is dropped down.
+    void begin(HWND combo, HWND list);
+    void end() { UnsubclassWindow(); }
+
     void OnWindowPosChanging(WINDOWPOS* place);
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    HWND m_combo = nullptr;
 };
 
 }  // namespace knav

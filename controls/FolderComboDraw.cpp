@@ -42,7 +42,7 @@ void CNavFolderComboBox::DrawItem(DRAWITEMSTRUCT* item) {
         if (!themed) {
             FillRect(item->hDC, &item->rcItem, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
         }
-        const int left = item->rcItem.left + pictureLeft(*node, isSelectionField(*item));
+        const int left = pictureLeft(*node, isSelectionField(*item));
         drawPicture(*item, *node, left);
         SetBkMode(item->hDC, TRANSPARENT);
         SetTextColor(item->hDC, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));

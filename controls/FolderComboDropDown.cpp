@@ -5,6 +5,7 @@
 #include "controls/Dpi.h"
 #include "controls/RowIcons.h"
 #include "data/ApiEdge.h"
+#include "shell/FolderPaths.h"
 #include "shell/ItemList.h"
 
 #include <platform/CWaitCursor.h>
@@ -15,9 +16,8 @@ namespace {
 
 // Whether the folder can still be shown. A network place is taken to be there: asking could take a minute.
 bool isStillThere(ITEMIDLIST* list) {
-    std::array<wchar_t, MAX_PATH> path{};
-    return !SHGetPathFromIDListW(list, path.data()) || PathIsNetworkPathW(path.data()) || path[0] == L':' ||
-           GetFileAttributesW(path.data()) != INVALID_FILE_ATTRIBUTES;
+    const CString path = knav::pathOfFolder(list);
+    return path.IsEmpty() || PathIsNetworkPathW(path) || knav::isPathThere(path);
 }
 
 knav::ItemList nearestStillThere(knav::ItemList list) {
@@ -50,7 +50,7 @@ BOOL CNavFolderComboBox::OnCloseUp() {
 void CNavFolderComboBox::fillStandardKeepingSelection() {
     CNavNode* const selected = GetSelectedNode();
     const auto list = knav::ItemList::adopt(selected != nullptr ? selected->CalculateQualifiedItemList() : nullptr);
-    auto look = selected != nullptr ? m_icons->lookWithIcon(*selected) : knav::RowLook{};
+    auto look = selected != nullptr ? m_icons->giveUp(*selected) : knav::RowLook();
     FillWithTopLevelFolders(selected);
     if (items().count() == 0) {  // without the whole, the chain is better than nothing
         m_standardHierarchy = 0;
@@ -92,8 +92,10 @@ int CNavFolderComboBox::RefreshFolderInfo(int rebuild) {
             return 0;
         }
         const bool stillThere = isStillThere(list.get());
-        if ((rebuild != 0 && !GetDroppedState()) || !stillThere) {
+        if (rebuild != 0 || !stillThere) {
             m_treeIsStandard = false;  // names, icons and drives are read anew when the list next drops down
+        }
+        if ((rebuild != 0 && !GetDroppedState()) || !stillThere) {  // a list in use stays as it is
             selectChainTo(nearestStillThere(std::move(list)));
         }
         return stillThere ? 1 : 0;

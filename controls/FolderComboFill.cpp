@@ -65,7 +65,6 @@ void CNavFolderComboBox::FillToNode(CNavNode* node) {
     }
     const auto list = knav::ItemList::adopt(node != nullptr ? node->CalculateQualifiedItemList()
                                                             : NavGetDesktopFolderItem(::GetParent(m_hWnd)));
-    clear();
     FillToFolder(list.get());
 }
 

@@ -1,5 +1,6 @@
 #include "controls/RowIcons.h"
 
+#include "shell/FolderPaths.h"
 #include "shell/ItemList.h"
 
 #include <knav/CNavNode.h>
@@ -31,22 +32,17 @@ RowLook& RowIcons::lookOf(const CNavNode& node) {
     RowLook& look = m_looks[&node];
     if (!look.known) {
         look.known = true;
-        const auto list = ItemList::adopt(node.CalculateQualifiedItemList());
-        wchar_t path[MAX_PATH] = L"";
-        if (list && SHGetPathFromIDListW(list.get(), path)) {
-            const wchar_t root[] = {path[0], L':', L'\\', 0};
-            look.general = generalPicture(path, GetDriveTypeW(root));
-        }
+        const CString path = pathOfFolder(ItemList::adopt(node.CalculateQualifiedItemList()).get());
+        const wchar_t root[] = {path[0], L':', L'\\', 0};
+        look.general = path.IsEmpty() ? std::nullopt : generalPicture(path.view(), GetDriveTypeW(root));
     }
     return look;
 }
 
-RowLook RowIcons::lookWithIcon(const CNavNode& node) {
-    RowLook look;
-    look.known = true;
-    look.general = lookOf(node).general;
-    if (!look.general) {
-        look.icon.reset(CopyIcon(node.GetIcon()));
+RowLook RowIcons::giveUp(CNavNode& node) {
+    RowLook look = std::move(lookOf(node));
+    if (!look.icon) {
+        look.icon.reset(node.ReleaseIcon());
     }
     return look;
 }

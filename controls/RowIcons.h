@@ -34,8 +34,9 @@ class RowIcons {
 public:
     /// How the row of a node is drawn; kept until all rows are forgotten.
     RowLook& lookOf(const CNavNode& node);
-    /// The same with a copy of the node's own icon, for the row of the same location in a list that is read anew.
-    RowLook lookWithIcon(const CNavNode& node);
+    /// The same with the node's own icon, of a node that is about to go: for the row of the same location in a list
+    /// that is read anew.
+    RowLook giveUp(CNavNode& node);
     /// Draws the row of a node that way, with the overlay that it has.
     void takeOver(const CNavNode& node, RowLook look);
     void setOverlay(const CNavNode& node, int overlay) { m_looks[&node].overlay = overlay; }

@@ -4,20 +4,13 @@
 #include <knav/NavLinks.h>
 #include <knav/NavNames.h>
 
-#include <filesystem>
-
 #include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
 #include "resources/ids.h"
+#include "shell/FolderPaths.h"
 #include "shell/Guard.h"
 
 namespace {
-
-CString favoritesFolder() {
-    const auto list = knav::ItemList::adopt(NavGetSpecialFolderItem(nullptr, CSIDL_FAVORITES));
-    wchar_t path[MAX_PATH];
-    return list && SHGetPathFromIDListW(list.get(), path) ? CString(path) : CString();
-}
 
 /// A shortcut's path in `folder` that is not taken: "name.lnk", "name (2).lnk" and so on.
 CString freeShortcutPath(const CString& folder, CString name) {
@@ -32,7 +25,7 @@ CString freeShortcutPath(const CString& folder, CString name) {
 }
 
 bool saveShortcut(ITEMIDLIST* target, const CString& name) {
-    const CString folder = favoritesFolder();
+    const CString folder = knav::pathOfSpecialFolder(CSIDL_FAVORITES);
     const auto link = knav::createInProcess<IShellLinkW>(CLSID_ShellLink);
     const auto file = link ? link.as<IPersistFile>() : nullptr;
     if (folder.IsEmpty() || !file || FAILED(knav::guarded([&] { return link->SetIDList(target); }))) {

@@ -10,6 +10,7 @@
 #include "dialog/FolderTexts.h"
 #include "dialog/Messages.h"
 #include "resources/ids.h"
+#include "shell/FolderPaths.h"
 
 int CNavDialogImp::NavigateToFolder(const wchar_t* folder) {
     if (!folder || !*folder || !withinReach(folder)) {
@@ -180,14 +181,8 @@ bool CNavDialogImp::selectedFolderPathname(CNavPathname& folder) {
 }
 
 int CNavDialogImp::GetPersonalFolderPath(CString& path) {
-    path.Empty();
-    const auto personal = knav::ItemList::adopt(NavGetSpecialFolderItem(nullptr, CSIDL_PERSONAL));
-    wchar_t buffer[MAX_PATH];
-    if (!personal || !SHGetPathFromIDListW(personal.get(), buffer)) {
-        return 0;
-    }
-    path = buffer;
-    return 1;
+    path = knav::pathOfSpecialFolder(CSIDL_PERSONAL);
+    return !path.IsEmpty();
 }
 
 void CNavDialogImp::GetCurrentFolder(CString& name) {

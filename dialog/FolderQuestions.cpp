@@ -4,14 +4,14 @@
 #include <knav/NavNames.h>
 
 #include "shell/ComPtr.h"
+#include "shell/FolderPaths.h"
 
 namespace knav {
 namespace {
 
 bool isOnDisk(ITEMIDLIST* list) {
-    wchar_t path[MAX_PATH];
-    return !SHGetPathFromIDListW(list, path) || path[0] == L':' || path[0] == L'\0' ||
-           GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
+    const CString path = pathOfFolder(list);
+    return path.IsEmpty() || isPathThere(path);
 }
 
 }  // namespace

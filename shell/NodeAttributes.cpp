@@ -80,6 +80,11 @@ HICON CNavNode::GetIcon() const {
     return m_icon;
 }
 
+HICON CNavNode::ReleaseIcon() {
+    m_isIconDue = m_isIconDue || m_icon != nullptr;
+    return std::exchange(m_icon, nullptr);
+}
+
 HICON CNavNode::takeIcon() const {
     zoui::UniqueIcon icon = iconByType(*this);
     if (!icon) {

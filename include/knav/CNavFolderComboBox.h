@@ -96,7 +96,7 @@ private:
     void widenDroppedList();
     int pictureLeft(const CNavNode& node, bool selectionField) const;
     void drawPicture(const DRAWITEMSTRUCT& item, const CNavNode& node, int left) const;
-    const knav::ComboItems& items() const;
+    knav::ComboItems& items() const;
 
     CNavTree m_tree;
     std::unique_ptr<knav::RowIcons> m_icons;

@@ -36,6 +36,8 @@ public:
     /// The small icon, owned by the node; null when there is none. The one that GetAttributes() calls for is taken from
     /// the shell when it is first asked for, since that takes longer than all the rest of a node.
     HICON GetIcon() const;
+    /// Hands the icon over to the caller, if it has been asked for; the node takes another when it is next asked.
+    HICON ReleaseIcon();
     /// Indentation level in the Look-in combo.
     int GetIndent() const { return m_indent; }
     void SetIndent(int indent) { m_indent = indent; }
