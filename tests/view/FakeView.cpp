@@ -1,5 +1,7 @@
 #include "view/FakeView.h"
 
+#include <gtest/gtest.h>
+
 #include <cstring>
 #include <stdexcept>
 
@@ -15,11 +17,11 @@ template <ViewCall First, class... Interfaces>
 class Counted : public Interfaces... {
 public:
     explicit Counted(ViewScript& script) : m_script(script) { ++script.liveObjects; }
-    ULONG STDMETHODCALLTYPE AddRef() override {
+    ULONG WINAPI AddRef() override {
         m_script.enter(after(First, 1));
         return ++m_references;
     }
-    ULONG STDMETHODCALLTYPE Release() override {
+    ULONG WINAPI Release() override {
         m_script.enter(after(First, 2));
         const ULONG left = --m_references;
         if (left == 0) {
@@ -43,6 +45,10 @@ protected:
         return S_OK;
     }
     HRESULT answer(ViewCall call, HRESULT worked = E_NOTIMPL) { return m_script.enter(call, worked); }
+    static HRESULT uncalled() {
+        ADD_FAILURE() << "a method that is not among those that a test lets misbehave";
+        return E_NOTIMPL;
+    }
     ViewScript& m_script;
 
 private:
@@ -52,10 +58,10 @@ private:
 class FakeData final : public Counted<ViewCall::DataQueryInterface, IDataObject> {
 public:
     using Counted::Counted;
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+    HRESULT WINAPI QueryInterface(REFIID iid, void** object) override {
         return give(iid == IID_IDataObject || iid == IID_IUnknown ? this : nullptr, object);
     }
-    HRESULT STDMETHODCALLTYPE GetData(FORMATETC* format, STGMEDIUM* medium) override {
+    HRESULT WINAPI GetData(FORMATETC* format, STGMEDIUM* medium) override {
         if (const HRESULT result = m_script.enter(ViewCall::GetData); FAILED(result)) {
             return result;
         }
@@ -71,20 +77,14 @@ public:
         GlobalUnlock(medium->hGlobal);
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC*, STGMEDIUM*) override { return answer(ViewCall::GetDataHere); }
-    HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC*) override { return answer(ViewCall::QueryGetData); }
-    HRESULT STDMETHODCALLTYPE GetCanonicalFormatEtc(FORMATETC*, FORMATETC*) override {
-        return answer(ViewCall::GetCanonicalFormatEtc);
-    }
-    HRESULT STDMETHODCALLTYPE SetData(FORMATETC*, STGMEDIUM*, BOOL) override { return answer(ViewCall::SetData); }
-    HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD, IEnumFORMATETC**) override {
-        return answer(ViewCall::EnumFormatEtc);
-    }
-    HRESULT STDMETHODCALLTYPE DAdvise(FORMATETC*, DWORD, IAdviseSink*, DWORD*) override {
-        return answer(ViewCall::DAdvise);
-    }
-    HRESULT STDMETHODCALLTYPE DUnadvise(DWORD) override { return answer(ViewCall::DUnadvise); }
-    HRESULT STDMETHODCALLTYPE EnumDAdvise(IEnumSTATDATA**) override { return answer(ViewCall::EnumDAdvise); }
+    HRESULT WINAPI GetDataHere(FORMATETC*, STGMEDIUM*) override { return uncalled(); }
+    HRESULT WINAPI QueryGetData(FORMATETC*) override { return uncalled(); }
+    HRESULT WINAPI GetCanonicalFormatEtc(FORMATETC*, FORMATETC*) override { return uncalled(); }
+    HRESULT WINAPI SetData(FORMATETC*, STGMEDIUM*, BOOL) override { return uncalled(); }
+    HRESULT WINAPI EnumFormatEtc(DWORD, IEnumFORMATETC**) override { return uncalled(); }
+    HRESULT WINAPI DAdvise(FORMATETC*, DWORD, IAdviseSink*, DWORD*) override { return uncalled(); }
+    HRESULT WINAPI DUnadvise(DWORD) override { return uncalled(); }
+    HRESULT WINAPI EnumDAdvise(IEnumSTATDATA**) override { return uncalled(); }
 
 private:
     std::vector<BYTE> array() const {
@@ -114,9 +114,9 @@ private:
 class FakeView final : public Counted<ViewCall::QueryInterface, IShellView2, IFolderView> {
 public:
     using Counted::Counted;
-    ULONG STDMETHODCALLTYPE AddRef() override { return Counted::AddRef(); }
-    ULONG STDMETHODCALLTYPE Release() override { return Counted::Release(); }
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+    ULONG WINAPI AddRef() override { return Counted::AddRef(); }
+    ULONG WINAPI Release() override { return Counted::Release(); }
+    HRESULT WINAPI QueryInterface(REFIID iid, void** object) override {
         if (iid == IID_IFolderView) {
             return give(m_script.offersFolderView ? static_cast<IFolderView*>(this) : nullptr, object);
         }
@@ -125,20 +125,18 @@ public:
         return give(known ? static_cast<IShellView2*>(this) : nullptr, object);
     }
 
-    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override {
+    HRESULT WINAPI GetWindow(HWND* window) override {
         const HRESULT result = m_script.enter(ViewCall::GetWindow);
         *window = m_window;
         return result;
     }
-    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return answer(ViewCall::ContextSensitiveHelp); }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*) override {
-        return answer(ViewCall::TranslateAccelerator, S_FALSE);
-    }
-    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return answer(ViewCall::EnableModeless); }
-    HRESULT STDMETHODCALLTYPE UIActivate(UINT) override { return answer(ViewCall::UIActivate, S_OK); }
-    HRESULT STDMETHODCALLTYPE Refresh() override { return answer(ViewCall::Refresh, S_OK); }
-    HRESULT STDMETHODCALLTYPE CreateViewWindow(IShellView* previous, LPCFOLDERSETTINGS settings, IShellBrowser* browser,
-                                               RECT* place, HWND* window) override {
+    HRESULT WINAPI ContextSensitiveHelp(BOOL) override { return uncalled(); }
+    HRESULT WINAPI TranslateAccelerator(MSG*) override { return answer(ViewCall::TranslateAccelerator, S_FALSE); }
+    HRESULT WINAPI EnableModeless(BOOL) override { return uncalled(); }
+    HRESULT WINAPI UIActivate(UINT) override { return uncalled(); }
+    HRESULT WINAPI Refresh() override { return answer(ViewCall::Refresh, S_OK); }
+    HRESULT WINAPI CreateViewWindow(IShellView* previous, LPCFOLDERSETTINGS settings, IShellBrowser* browser,
+                                    RECT* place, HWND* window) override {
         if (m_script.breaksAfterwards) {
             create(previous, *settings, browser, *place, window);
             return m_script.enter(ViewCall::CreateViewWindow);
@@ -146,25 +144,23 @@ public:
         const HRESULT result = m_script.enter(ViewCall::CreateViewWindow);
         return SUCCEEDED(result) ? create(previous, *settings, browser, *place, window) : result;
     }
-    HRESULT STDMETHODCALLTYPE DestroyViewWindow() override {
+    HRESULT WINAPI DestroyViewWindow() override {
         const HRESULT result = m_script.enter(ViewCall::DestroyViewWindow);
         DestroyWindow(m_window);
         return result;
     }
-    HRESULT STDMETHODCALLTYPE GetCurrentInfo(LPFOLDERSETTINGS settings) override {
+    HRESULT WINAPI GetCurrentInfo(LPFOLDERSETTINGS settings) override {
         *settings =
             m_script.of(ViewCall::GetCurrentInfo) == Conduct::Works ? m_script.settings : FOLDERSETTINGS{9, ~0U};
         return m_script.enter(ViewCall::GetCurrentInfo);
     }
-    HRESULT STDMETHODCALLTYPE AddPropertySheetPages(DWORD, LPFNSVADDPROPSHEETPAGE, LPARAM) override {
-        return answer(ViewCall::AddPropertySheetPages);
-    }
-    HRESULT STDMETHODCALLTYPE SaveViewState() override { return m_script.enter(ViewCall::SaveViewState); }
-    HRESULT STDMETHODCALLTYPE SelectItem(PCUITEMID_CHILD item, SVSIF flags) override {
+    HRESULT WINAPI AddPropertySheetPages(DWORD, LPFNSVADDPROPSHEETPAGE, LPARAM) override { return uncalled(); }
+    HRESULT WINAPI SaveViewState() override { return m_script.enter(ViewCall::SaveViewState); }
+    HRESULT WINAPI SelectItem(PCUITEMID_CHILD item, SVSIF flags) override {
         m_script.selected.emplace_back(item, flags);
         return m_script.enter(ViewCall::SelectItem);
     }
-    HRESULT STDMETHODCALLTYPE GetItemObject(UINT, REFIID, void** object) override {
+    HRESULT WINAPI GetItemObject(UINT, REFIID, void** object) override {
         if (const HRESULT result = m_script.enter(ViewCall::GetItemObject); FAILED(result)) {
             return result;
         }
@@ -172,8 +168,8 @@ public:
         return S_OK;
     }
 
-    HRESULT STDMETHODCALLTYPE GetView(SHELLVIEWID*, ULONG) override { return answer(ViewCall::GetView); }
-    HRESULT STDMETHODCALLTYPE CreateViewWindow2(LPSV2CVW2_PARAMS params) override {
+    HRESULT WINAPI GetView(SHELLVIEWID*, ULONG) override { return uncalled(); }
+    HRESULT WINAPI CreateViewWindow2(LPSV2CVW2_PARAMS params) override {
         const HRESULT result = m_script.breaksAfterwards ? S_OK : m_script.enter(ViewCall::CreateViewWindow2);
         if (FAILED(result)) {
             return result;
@@ -183,32 +179,26 @@ public:
         create(params->psvPrev, *params->pfs, params->psbOwner, *params->prcView, &params->hwndView);
         return m_script.breaksAfterwards ? m_script.enter(ViewCall::CreateViewWindow2) : S_OK;
     }
-    HRESULT STDMETHODCALLTYPE HandleRename(PCUITEMID_CHILD) override { return answer(ViewCall::HandleRename); }
-    HRESULT STDMETHODCALLTYPE SelectAndPositionItem(PCUITEMID_CHILD, UINT, POINT*) override {
-        return answer(ViewCall::SelectAndPositionItem);
-    }
+    HRESULT WINAPI HandleRename(PCUITEMID_CHILD) override { return uncalled(); }
+    HRESULT WINAPI SelectAndPositionItem(PCUITEMID_CHILD, UINT, POINT*) override { return uncalled(); }
 
-    HRESULT STDMETHODCALLTYPE GetCurrentViewMode(UINT*) override { return answer(ViewCall::GetCurrentViewMode); }
-    HRESULT STDMETHODCALLTYPE SetCurrentViewMode(UINT) override { return answer(ViewCall::SetCurrentViewMode); }
-    HRESULT STDMETHODCALLTYPE GetFolder(REFIID, void**) override { return answer(ViewCall::GetFolder); }
-    HRESULT STDMETHODCALLTYPE Item(int, PITEMID_CHILD*) override { return answer(ViewCall::Item); }
-    HRESULT STDMETHODCALLTYPE ItemCount(UINT, int*) override { return answer(ViewCall::ItemCount); }
-    HRESULT STDMETHODCALLTYPE Items(UINT, REFIID, void**) override { return answer(ViewCall::Items); }
-    HRESULT STDMETHODCALLTYPE GetSelectionMarkedItem(int*) override { return answer(ViewCall::GetSelectionMarkedItem); }
-    HRESULT STDMETHODCALLTYPE GetFocusedItem(int* item) override {
+    HRESULT WINAPI GetCurrentViewMode(UINT*) override { return uncalled(); }
+    HRESULT WINAPI SetCurrentViewMode(UINT) override { return uncalled(); }
+    HRESULT WINAPI GetFolder(REFIID, void**) override { return uncalled(); }
+    HRESULT WINAPI Item(int, PITEMID_CHILD*) override { return answer(ViewCall::Item); }
+    HRESULT WINAPI ItemCount(UINT, int*) override { return uncalled(); }
+    HRESULT WINAPI Items(UINT, REFIID, void**) override { return uncalled(); }
+    HRESULT WINAPI GetSelectionMarkedItem(int*) override { return uncalled(); }
+    HRESULT WINAPI GetFocusedItem(int* item) override {
         *item = m_script.focusedItem;
         return m_script.enter(ViewCall::GetFocusedItem);
     }
-    HRESULT STDMETHODCALLTYPE GetItemPosition(PCUITEMID_CHILD, POINT*) override {
-        return answer(ViewCall::GetItemPosition);
-    }
-    HRESULT STDMETHODCALLTYPE GetSpacing(POINT*) override { return answer(ViewCall::GetSpacing); }
-    HRESULT STDMETHODCALLTYPE GetDefaultSpacing(POINT*) override { return answer(ViewCall::GetDefaultSpacing); }
-    HRESULT STDMETHODCALLTYPE GetAutoArrange() override { return answer(ViewCall::GetAutoArrange); }
-    HRESULT STDMETHODCALLTYPE SelectItem(int, DWORD) override { return answer(ViewCall::SelectIndex); }
-    HRESULT STDMETHODCALLTYPE SelectAndPositionItems(UINT, PCUITEMID_CHILD_ARRAY, POINT*, DWORD) override {
-        return answer(ViewCall::SelectAndPositionItems);
-    }
+    HRESULT WINAPI GetItemPosition(PCUITEMID_CHILD, POINT*) override { return uncalled(); }
+    HRESULT WINAPI GetSpacing(POINT*) override { return uncalled(); }
+    HRESULT WINAPI GetDefaultSpacing(POINT*) override { return uncalled(); }
+    HRESULT WINAPI GetAutoArrange() override { return uncalled(); }
+    HRESULT WINAPI SelectItem(int, DWORD) override { return uncalled(); }
+    HRESULT WINAPI SelectAndPositionItems(UINT, PCUITEMID_CHILD_ARRAY, POINT*, DWORD) override { return uncalled(); }
 
 private:
     static const wchar_t* standardClass() {
@@ -250,51 +240,45 @@ private:
 class ViewFolder final : public Counted<ViewCall::FolderQueryInterface, IShellFolder> {
 public:
     using Counted::Counted;
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+    HRESULT WINAPI QueryInterface(REFIID iid, void** object) override {
         return give(iid == IID_IShellFolder || iid == IID_IUnknown ? this : nullptr, object);
     }
-    HRESULT STDMETHODCALLTYPE ParseDisplayName(HWND, IBindCtx*, LPWSTR, ULONG*, PIDLIST_RELATIVE*, ULONG*) override {
+    HRESULT WINAPI ParseDisplayName(HWND, IBindCtx*, LPWSTR, ULONG*, PIDLIST_RELATIVE*, ULONG*) override {
         return answer(ViewCall::FolderParseDisplayName);
     }
-    HRESULT STDMETHODCALLTYPE EnumObjects(HWND, SHCONTF, IEnumIDList**) override {
-        return answer(ViewCall::FolderEnumObjects);
-    }
-    HRESULT STDMETHODCALLTYPE BindToObject(PCUIDLIST_RELATIVE, IBindCtx*, REFIID iid, void** object) override {
+    HRESULT WINAPI EnumObjects(HWND, SHCONTF, IEnumIDList**) override { return answer(ViewCall::FolderEnumObjects); }
+    HRESULT WINAPI BindToObject(PCUIDLIST_RELATIVE, IBindCtx*, REFIID iid, void** object) override {
         *object = nullptr;
         const HRESULT entered = answer(ViewCall::FolderBindToObject, S_OK);
         return SUCCEEDED(entered) ? QueryInterface(iid, object) : entered;
     }
-    HRESULT STDMETHODCALLTYPE BindToStorage(PCUIDLIST_RELATIVE, IBindCtx*, REFIID, void**) override {
-        return answer(ViewCall::FolderBindToStorage);
-    }
-    HRESULT STDMETHODCALLTYPE CompareIDs(LPARAM, PCUIDLIST_RELATIVE, PCUIDLIST_RELATIVE) override {
+    HRESULT WINAPI BindToStorage(PCUIDLIST_RELATIVE, IBindCtx*, REFIID, void**) override { return uncalled(); }
+    HRESULT WINAPI CompareIDs(LPARAM, PCUIDLIST_RELATIVE, PCUIDLIST_RELATIVE) override {
         return answer(ViewCall::FolderCompareIDs, S_OK);
     }
-    HRESULT STDMETHODCALLTYPE CreateViewObject(HWND, REFIID, void** object) override {
+    HRESULT WINAPI CreateViewObject(HWND, REFIID, void** object) override {
         const HRESULT result = m_script.enter(ViewCall::CreateViewObject);
         if (SUCCEEDED(result)) {
             *object = static_cast<IShellView2*>(new FakeView(m_script));
         }
         return result;
     }
-    HRESULT STDMETHODCALLTYPE GetAttributesOf(UINT, PCUITEMID_CHILD_ARRAY, SFGAOF* attributes) override {
+    HRESULT WINAPI GetAttributesOf(UINT, PCUITEMID_CHILD_ARRAY, SFGAOF* attributes) override {
         *attributes = m_script.attributes;
         return answer(ViewCall::FolderGetAttributesOf, S_OK);
     }
-    HRESULT STDMETHODCALLTYPE GetUIObjectOf(HWND, UINT, PCUITEMID_CHILD_ARRAY, REFIID, UINT*, void**) override {
+    HRESULT WINAPI GetUIObjectOf(HWND, UINT, PCUITEMID_CHILD_ARRAY, REFIID, UINT*, void**) override {
         return answer(ViewCall::FolderGetUIObjectOf);
     }
     // The element's payload is its name.
-    HRESULT STDMETHODCALLTYPE GetDisplayNameOf(PCUITEMID_CHILD item, SHGDNF, STRRET* name) override {
+    HRESULT WINAPI GetDisplayNameOf(PCUITEMID_CHILD item, SHGDNF, STRRET* name) override {
         if (const HRESULT entered = answer(ViewCall::FolderGetDisplayNameOf, S_OK); FAILED(entered)) {
             return entered;
         }
         name->uType = STRRET_WSTR;
         return SHStrDupW(reinterpret_cast<const wchar_t*>(item->mkid.abID), &name->pOleStr);
     }
-    HRESULT STDMETHODCALLTYPE SetNameOf(HWND, PCUITEMID_CHILD, LPCWSTR, SHGDNF, PITEMID_CHILD*) override {
-        return answer(ViewCall::FolderSetNameOf);
-    }
+    HRESULT WINAPI SetNameOf(HWND, PCUITEMID_CHILD, LPCWSTR, SHGDNF, PITEMID_CHILD*) override { return uncalled(); }
 };
 
 }  // namespace

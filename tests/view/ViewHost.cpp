@@ -52,11 +52,15 @@ LRESULT ViewHost::Owner::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
 ViewHost::ViewHost() {
     owner.CreateEx(0, nullptr, L"owner", WS_OVERLAPPEDWINDOW, {0, 0, 640, 480}, nullptr, 0);
     buddy.Create(WC_STATICW, L"", WS_CHILD, {10, 20, 410, 320}, &owner, 13001);
-    browser.SetViewWindow(&viewWindow);
-    browser.SetListCtrl(&listCtrl);
-    browser.SetBuddyWindow(&buddy);
+    lendWindowsTo(browser);
     browser.SetBrowseOwner(&browseOwner);
-    browser.SetViewOwnerWindow(&owner, nullptr);
+}
+
+void ViewHost::lendWindowsTo(CNavCommDlgBrowser& other) {
+    other.SetViewWindow(&viewWindow);
+    other.SetListCtrl(&listCtrl);
+    other.SetBuddyWindow(&buddy);
+    other.SetViewOwnerWindow(&owner, nullptr);
 }
 
 ViewHost::~ViewHost() {
@@ -95,6 +99,21 @@ void ViewHost::select(std::initializer_list<const wchar_t*> names) {
     for (const wchar_t* name : names) {
         ListView_SetItemState(list(), rowOf(name), mask, mask);
     }
+}
+
+RECT ViewHost::viewPlace() const {
+    RECT place{};
+    GetWindowRect(viewHandle(), &place);
+    MapWindowPoints(nullptr, owner, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+int ViewHost::children() const {
+    int count = 0;
+    for (HWND child = GetWindow(owner, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        ++count;
+    }
+    return count;
 }
 
 CString ViewHost::shownPath() const {

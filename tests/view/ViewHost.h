@@ -38,6 +38,8 @@ public:
     ViewHost& operator=(const ViewHost&) = delete;
     ~ViewHost();
 
+    /// Gives another browser the owner, the placeholder and what takes over the view's windows.
+    void lendWindowsTo(CNavCommDlgBrowser& other);
     /// Shows a folder of the file system, "" for the desktop.
     int browse(const wchar_t* path);
     HWND list() const { return listCtrl.GetSafeHwnd(); }
@@ -48,6 +50,10 @@ public:
     void select(std::initializer_list<const wchar_t*> names);
     /// Full path of the folder shown.
     CString shownPath() const;
+    /// Where the view lies in the owner.
+    RECT viewPlace() const;
+    /// How many windows the owner has in it.
+    int children() const;
 
     /// Notes where the view asks it to move the focus, as a dialog would.
     class Owner : public CWnd {

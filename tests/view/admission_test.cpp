@@ -43,6 +43,7 @@ TEST_F(AdmissionOf, Items_DependsOnAttributesFilterAndPlace) {
     CNavFilter drawings;
     drawings.Add(L"*.dwg");
     CNavFilter everything;
+    const auto extension = ItemList::adopt(buildExtensionRootItem(CNavShell(), L"A"));
     const struct {
         const char* why;
         ITEMIDLIST* place;
@@ -66,6 +67,7 @@ TEST_F(AdmissionOf, Items_DependsOnAttributesFilterAndPlace) {
         {"an ancestor of folders", m_plain.get(), L"a", SFGAO_FOLDER | SFGAO_FILESYSANCESTOR, &drawings, false, true},
         {"a foreign folder", m_plain.get(), L"a", SFGAO_FOLDER, &everything, false, false},
         {"a foreign folder in My Computer", m_drives.get(), L"a", SFGAO_FOLDER, &everything, false, false},
+        {"a foreign folder in an extension", extension.get(), L"site", SFGAO_FOLDER, &everything, false, true},
         {"the computers near me in the network", m_network.get(), kComputersNearMe, 0, &drawings, false, true},
         {"something else in the network", m_network.get(), L"a.dwg", 0, &drawings, false, false},
         {"the computers near me elsewhere", m_plain.get(), kComputersNearMe, 0, &drawings, false, false},
@@ -75,12 +77,6 @@ TEST_F(AdmissionOf, Items_DependsOnAttributesFilterAndPlace) {
         SCOPED_TRACE(row.why);
         EXPECT_EQ(ask(row.place, row.name, row.attributes, row.filter, row.foldersOnly), row.shown);
     }
-}
-
-TEST_F(AdmissionOf, ForeignFolder_IsShownInsideAnExtension) {
-    CNavFilter everything;
-    const auto root = ItemList::adopt(buildExtensionRootItem(CNavShell(), L"A"));
-    EXPECT_TRUE(ask(root.get(), L"site", SFGAO_FOLDER, &everything, false));
 }
 
 TEST_F(AdmissionOf, MyComputerAndNetwork_AreShownThoughTheyAreForeignFolders) {

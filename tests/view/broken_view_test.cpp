@@ -81,17 +81,9 @@ TEST_F(BrokenView, ViewThatCannotBeMade_LeavesThePreviousOneInPlace) {
     EXPECT_EQ(m_script.liveObjects, 1) << "the folder alone";
 }
 
-int childrenOf(HWND parent) {
-    int count = 0;
-    for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-        ++count;
-    }
-    return count;
-}
-
 TEST_F(BrokenView, ViewThatBreaksWhenItsWindowIsThere_LeavesNoWindowOverThePreviousOne) {
     ASSERT_TRUE(m_host.browse(m_temp.path()));
-    const int before = childrenOf(m_host.owner);
+    const int before = m_host.children();
     for (const bool view2 : {true, false}) {
         m_script.offersView2 = view2;
         for (const Conduct conduct : kBad) {
@@ -100,7 +92,7 @@ TEST_F(BrokenView, ViewThatBreaksWhenItsWindowIsThere_LeavesNoWindowOverThePrevi
                 m_script.conduct = {{view2 ? ViewCall::CreateViewWindow2 : ViewCall::CreateViewWindow, conduct},
                                     {ViewCall::DestroyViewWindow, destroying}};
                 EXPECT_FALSE(browseStore());
-                EXPECT_EQ(childrenOf(m_host.owner), before);
+                EXPECT_EQ(m_host.children(), before);
                 EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
             }
         }
@@ -108,7 +100,7 @@ TEST_F(BrokenView, ViewThatBreaksWhenItsWindowIsThere_LeavesNoWindowOverThePrevi
         m_script.breaksAfterwards = false;
         m_script.makesWindow = false;
         EXPECT_FALSE(browseStore()) << "there would be nothing to see";
-        EXPECT_EQ(childrenOf(m_host.owner), before);
+        EXPECT_EQ(m_host.children(), before);
         m_script.makesWindow = true;
     }
 }
@@ -145,7 +137,7 @@ TEST_F(BrokenView, ViewThatMisbehavesLater_CanBeLeft) {
             ASSERT_TRUE(m_host.browse(m_temp.path()));
             EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
             EXPECT_EQ(m_script.liveObjects, 1) << "the view is gone, the folder stays";
-            EXPECT_EQ(childrenOf(m_host.owner), 2) << "placeholder and view";
+            EXPECT_EQ(m_host.children(), 2) << "placeholder and view";
         }
     }
 }

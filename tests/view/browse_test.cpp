@@ -35,9 +35,7 @@ TEST_F(Browse, Absolute_ShowsTheFolderAtThePlaceholderAndTakesItsWindowsOver) {
     ASSERT_TRUE(m_host.browse(m_folder.path()));
     EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg", L"b.txt", L"c.dwg", L"sub"));
     EXPECT_EQ(m_host.shownPath().CompareNoCase(m_folder.path()), 0);
-    RECT place{};
-    GetWindowRect(m_host.viewHandle(), &place);
-    MapWindowPoints(nullptr, m_host.owner, reinterpret_cast<POINT*>(&place), 2);
+    const RECT place = m_host.viewPlace();
     EXPECT_TRUE(EqualRect(&place, &m_host.browser.GetViewRect()));
     EXPECT_EQ(place.left, 10);
     EXPECT_EQ(place.right, 410);
@@ -62,12 +60,6 @@ TEST_F(Browse, RelativeAndParent_LeadFromTheFolderShown) {
     ASSERT_TRUE(m_host.browser.GetIShellBrowser()->BrowseObject(nullptr, SBSP_PARENT) == S_OK);
     EXPECT_EQ(m_folder.path().Left(m_host.shownPath().GetLength()).CompareNoCase(m_host.shownPath()), 0);
     EXPECT_LT(m_host.shownPath().GetLength(), m_folder.path().GetLength());
-}
-
-TEST_F(Browse, ShortcutToFolder_ShowsItsTarget) {
-    addShortcut(m_folder, L"go.lnk", m_folder.path(L"sub"));
-    ASSERT_TRUE(m_host.browse(m_folder.path(L"go.lnk")));
-    EXPECT_THAT(m_host.rows(), ElementsAre(L"inner.dwg"));
 }
 
 TEST_F(Browse, FolderThatCannotBeShown_LeavesEverythingAsItWas) {
@@ -113,8 +105,7 @@ public:
 
 TEST_F(Browse, FromInsideAViewNotification_IsGuardedWithoutADialogToo) {
     RestlessBrowser browser;
-    browser.SetBuddyWindow(&m_host.buddy);
-    browser.SetViewOwnerWindow(&m_host.owner, nullptr);
+    m_host.lendWindowsTo(browser);
     ASSERT_TRUE(browser.BrowseObject(parsed(m_folder.path()).get(), SBSP_ABSOLUTE));
     EXPECT_EQ(browser.asked, 4);
     EXPECT_EQ(browser.answer, 1);
@@ -125,7 +116,9 @@ TEST_F(Browse, SecondBrowse_SavesTheOldViewAndReplacesIt) {
     ASSERT_TRUE(m_host.browse(m_folder.path()));
     const HWND old = m_host.viewHandle();
     m_host.browseOwner.log.clear();
-    ASSERT_TRUE(m_host.browse(m_folder.path(L"sub")));
+    addShortcut(m_folder, L"go.lnk", m_folder.path(L"sub"));
+    ASSERT_TRUE(m_host.browse(m_folder.path(L"go.lnk")));
+    EXPECT_THAT(m_host.rows(), ElementsAre(L"inner.dwg")) << "a shortcut shows its target";
     EXPECT_FALSE(IsWindow(old));
     EXPECT_NE(m_host.viewHandle(), nullptr);
     EXPECT_THAT(m_host.browseOwner.log, ElementsAre("enter", "save", "restore", "browsed", "leave"));
@@ -168,14 +161,6 @@ TEST_F(Browse, Thumbnails_StayTheModeWhereTheListCannotShowThem_UntilItsOwnMenuC
     EXPECT_EQ(m_host.browser.GetViewMode(), 4u);
 }
 
-TEST_F(Browse, FocusInTheView_IsInItsSuccessor) {
-    m_host.owner.ShowWindow(SW_SHOW);
-    ASSERT_TRUE(m_host.browse(m_folder.path()));
-    ::SetFocus(m_host.list());
-    ASSERT_TRUE(m_host.browse(m_folder.path(L"sub")));
-    EXPECT_EQ(GetFocus(), m_host.list());
-}
-
 TEST_F(Browse, Placeholder_GivesTheViewItsPlaceAndTurn) {
     CWnd before;
     CWnd after;
@@ -188,26 +173,19 @@ TEST_F(Browse, Placeholder_GivesTheViewItsPlaceAndTurn) {
     EXPECT_EQ(GetNextDlgTabItem(m_host.owner, before, FALSE), m_host.viewHandle());
     EXPECT_EQ(GetNextDlgTabItem(m_host.owner, m_host.list(), FALSE), after.m_hWnd);
     EXPECT_EQ(GetNextDlgTabItem(m_host.owner, m_host.list(), TRUE), before.m_hWnd);
-
     m_host.buddy.MoveWindow(20, 30, 300, 200);
-    RECT place{};
-    GetWindowRect(m_host.viewHandle(), &place);
-    MapWindowPoints(nullptr, m_host.owner, reinterpret_cast<POINT*>(&place), 2);
+    const RECT place = m_host.viewPlace();
     const RECT expected{20, 30, 320, 230};
     EXPECT_TRUE(EqualRect(&place, &expected));
-}
 
-TEST_F(Browse, TabKeyInTheView_GoesToTheControlBehindThePlaceholder) {
-    CWnd after;
-    after.Create(WC_BUTTONW, L"after", WS_CHILD | WS_VISIBLE | WS_TABSTOP, {0, 400, 50, 420}, &m_host.owner, 2);
-    m_host.owner.ShowWindow(SW_SHOW);
-    ASSERT_TRUE(m_host.browse(m_folder.path()));
     ::SetFocus(m_host.list());
     MSG tab{m_host.list(), WM_KEYDOWN, VK_TAB, 0, 0, {}};
     EXPECT_TRUE(CWnd::WalkPreTranslateTree(m_host.owner, &tab));
     EXPECT_EQ(m_host.owner.nextControl, after.m_hWnd);
     MSG other{m_host.list(), WM_KEYDOWN, VK_F5, 0, 0, {}};
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(m_host.owner, &other));
+    ASSERT_TRUE(m_host.browse(m_folder.path(L"sub")));
+    EXPECT_EQ(GetFocus(), m_host.list()) << "the focus goes on to the next view";
 }
 
 TEST_F(Browse, ViewCallsFromDefaultCommand_OldViewOutlivesTheCall) {
@@ -226,10 +204,7 @@ TEST_F(Browse, ViewCallsFromDefaultCommand_OldViewOutlivesTheCall) {
     } browser;
     browser.view = &m_host;
     browser.target = parsed(m_folder.path(L"sub"));
-    browser.SetViewWindow(&m_host.viewWindow);
-    browser.SetListCtrl(&m_host.listCtrl);
-    browser.SetBuddyWindow(&m_host.buddy);
-    browser.SetViewOwnerWindow(&m_host.owner, nullptr);
+    m_host.lendWindowsTo(browser);
     ASSERT_TRUE(browser.BrowseObject(parsed(m_folder.path()).get(), SBSP_ABSOLUTE));
     const HWND old = m_host.viewHandle();
     m_host.select({L"sub"});

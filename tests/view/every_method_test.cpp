@@ -60,11 +60,7 @@ protected:
     void expectOrdinaryFolder() {
         ASSERT_TRUE(m_host.browse(m_temp.path()));
         EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
-        int children = 0;
-        for (HWND child = GetWindow(m_host.owner, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-            ++children;
-        }
-        EXPECT_EQ(children, 2) << "placeholder and view";
+        EXPECT_EQ(m_host.children(), 2) << "placeholder and view";
     }
 
     ScopedTempFolder m_temp;

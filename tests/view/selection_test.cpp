@@ -30,47 +30,35 @@ protected:
     CNavDataArray m_data;
 };
 
-TEST_F(Selection, ThreeFiles_GiveThreeItemsInOrder) {
-    m_host.select({L"a.dwg", L"b b.dwg", L"c.dwg"});
+TEST_F(Selection, ThreeFilesAndAFolder_GiveItemsInOrder) {
+    const wchar_t* const names[] = {L"sub", L"a.dwg", L"b b.dwg", L"c.dwg"};
+    m_host.select({L"sub", L"a.dwg", L"b b.dwg", L"c.dwg"});
     ASSERT_TRUE(m_host.browser.SendSelectionToData(m_data));
-    ASSERT_EQ(m_data.GetCount(), 3);
-    const wchar_t* const names[] = {L"a.dwg", L"b b.dwg", L"c.dwg"};
+    ASSERT_EQ(m_data.GetCount(), 4);
     ITEMIDLIST* const folder = m_host.browser.GetCurrentObjectID();
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 4; ++i) {
         const CNavData& item = *m_data.GetData(i);
         EXPECT_EQ(CString(item.GetTextInFolder()), names[i]);
         EXPECT_EQ(CString(item.GetText()).CompareNoCase(m_folder.path(names[i])), 0);
         EXPECT_EQ(item.GetDataType(), NAV_DATA_FILE);
-        EXPECT_EQ(item.GetPathname()->GetType(), CZoUiPathname::ExistingFile);
+        EXPECT_EQ(item.GetPathname()->GetType(), i == 0 ? CZoUiPathname::Directory : CZoUiPathname::ExistingFile);
         EXPECT_FALSE(item.GetPathname()->isShortCut());
         EXPECT_THAT(ItemList::parentOf(item.GetID()).get(), HoldsSameBytes(folder));
     }
 }
 
-TEST_F(Selection, Folder_IsAnItemOfDirectoryKind) {
-    m_host.select({L"sub"});
-    ASSERT_TRUE(m_host.browser.SendSelectionToData(m_data));
-    EXPECT_EQ(m_data.GetData(0)->GetPathname()->GetType(), CZoUiPathname::Directory);
-}
-
-TEST_F(Selection, NothingSelected_EmptiesTheData) {
-    m_data.AddData();
-    EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data));
-    EXPECT_EQ(m_data.GetCount(), 0);
-}
-
-TEST_F(Selection, NothingFocused_GivesNoItemsThoughSomeAreSelected) {
+TEST_F(Selection, WithoutFocusOrView_GivesNoItems) {
+    const auto expectNothing = [this] {
+        m_data.AddData();
+        EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data));
+        EXPECT_EQ(m_data.GetCount(), 0);
+    };
+    expectNothing();
     ListView_SetItemState(m_host.list(), m_host.rowOf(L"a.dwg"), LVIS_SELECTED, LVIS_SELECTED);
     ASSERT_EQ(ListView_GetSelectedCount(m_host.list()), 1u);
-    EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data));
-    EXPECT_EQ(m_data.GetCount(), 0);
-}
-
-TEST_F(Selection, WithoutAView_GivesNoItems) {
+    expectNothing();
     m_host.browser.DestroyViewWindow(0);
-    m_data.AddData();
-    EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data));
-    EXPECT_EQ(m_data.GetCount(), 0);
+    expectNothing();
     m_host.browser.SyncToData(m_data);
 }
 
@@ -89,29 +77,20 @@ TEST_F(Selection, SyncToData_SelectsExactlyTheItemsOfTheFolder) {
     m_host.select({L"a.dwg", L"c.dwg"});
     m_host.browser.SendSelectionToData(m_data);
     m_data.AddData();
+    CNavData& relative = *m_data.GetData(1);
+    relative.SetID(ItemList::copyOf(measureList(relative.GetID()).last).release());
     m_host.select({L"b b.dwg"});
     m_host.browser.SyncToData(m_data);
     EXPECT_THAT(selectedNames(m_host), ElementsAre(L"a.dwg", L"c.dwg"));
-    m_data.RemoveAllData();
-    m_host.browser.SyncToData(m_data);
-    EXPECT_THAT(selectedNames(m_host), ElementsAre());
-}
 
-TEST_F(Selection, SyncToData_TakesItemsOfTheFolderAloneToo) {
-    m_host.select({L"c.dwg"});
-    m_host.browser.SendSelectionToData(m_data);
-    CNavData& item = *m_data.GetData(0);
-    item.SetID(ItemList::copyOf(measureList(item.GetID()).last).release());
-    m_host.select({L"a.dwg"});
-    m_host.browser.SyncToData(m_data);
-    EXPECT_THAT(selectedNames(m_host), ElementsAre(L"c.dwg"));
-}
-
-TEST_F(Selection, SyncToData_LeavesOutItemsOfOtherFolders) {
-    m_host.select({L"c.dwg"});
-    m_host.browser.SendSelectionToData(m_data);
-    m_folder.addFile(L"sub\\c.dwg");
+    m_data.GetData(1)->SetID(nullptr);
+    m_folder.addFile(L"sub\\a.dwg");
     ASSERT_TRUE(m_host.browse(m_folder.path(L"sub")));
+    m_host.browser.SyncToData(m_data);
+    EXPECT_THAT(selectedNames(m_host), ElementsAre()) << "items of other folders are left out";
+
+    m_host.select({L"a.dwg"});
+    m_data.RemoveAllData();
     m_host.browser.SyncToData(m_data);
     EXPECT_THAT(selectedNames(m_host), ElementsAre());
 }
@@ -126,13 +105,9 @@ TEST_F(Selection, Change_IsNotifiedOnce) {
         int changes = 0;
         IShellView* lastView = nullptr;
     } browser;
-    browser.SetBuddyWindow(&m_host.buddy);
-    browser.SetViewOwnerWindow(&m_host.owner, nullptr);
+    m_host.lendWindowsTo(browser);
     ASSERT_TRUE(browser.BrowseObject(m_host.browser.GetCurrentObjectID(), SBSP_ABSOLUTE));
-    HWND view = nullptr;
-    browser.GetCurrentShellView()->GetWindow(&view);
-    const HWND list = FindWindowExW(view, nullptr, WC_LISTVIEWW, nullptr);
-    ListView_SetItemState(list, 0, LVIS_SELECTED, LVIS_SELECTED);
+    ListView_SetItemState(m_host.list(), 0, LVIS_SELECTED, LVIS_SELECTED);
     EXPECT_EQ(browser.changes, 1);
     EXPECT_EQ(browser.lastView, browser.GetCurrentShellView());
 }
