@@ -23,9 +23,9 @@ public:
     void setDirectory(std::wstring directory);
     void setPatterns(Patterns patterns);
 
-    STDMETHOD(Skip)(ULONG count) override;
-    STDMETHOD(Reset)() override;
-    STDMETHOD(Clone)(IEnumString** copy) override;
+    HRESULT STDMETHODCALLTYPE Skip(ULONG count) override;
+    HRESULT STDMETHODCALLTYPE Reset() override;
+    HRESULT STDMETHODCALLTYPE Clone(IEnumString** copy) override;
 
 private:
     HRESULT fetch(LPOLESTR& text) override;

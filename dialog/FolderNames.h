@@ -16,9 +16,9 @@ public:
     /// Starts anew with another folder.
     void setFolder(std::wstring folder);
 
-    STDMETHOD(Skip)(ULONG count) override;
-    STDMETHOD(Reset)() override;
-    STDMETHOD(Clone)(IEnumString** copy) override;
+    HRESULT STDMETHODCALLTYPE Skip(ULONG count) override;
+    HRESULT STDMETHODCALLTYPE Reset() override;
+    HRESULT STDMETHODCALLTYPE Clone(IEnumString** copy) override;
 
 private:
     ~FolderNames() override { close(); }

@@ -13,11 +13,11 @@ public:
     StringEnumerator(const StringEnumerator&) = delete;
     StringEnumerator& operator=(const StringEnumerator&) = delete;
 
-    STDMETHOD(QueryInterface)(REFIID iid, void** object) final;
-    STDMETHOD_(ULONG, AddRef)() final;
-    STDMETHOD_(ULONG, Release)() final;
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) final;
+    ULONG STDMETHODCALLTYPE AddRef() final;
+    ULONG STDMETHODCALLTYPE Release() final;
     /// Fetches one by one, as many as there are. S_FALSE at the end.
-    STDMETHOD(Next)(ULONG count, LPOLESTR* strings, ULONG* fetched) final;
+    HRESULT STDMETHODCALLTYPE Next(ULONG count, LPOLESTR* strings, ULONG* fetched) final;
 
 protected:
     virtual ~StringEnumerator() = default;
