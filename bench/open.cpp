@@ -8,14 +8,13 @@
 
 #include <array>
 #include <cwchar>
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "bench/Measure.h"
 #include "bench/open/Dialogs.h"
 #include "bench/open/FirstPaint.h"
 #include "bench/open/PeakMemory.h"
+#include "support/ScopedTempFolder.h"
 
 namespace {
 
@@ -45,32 +44,12 @@ struct Options {
     std::wstring folder;
 };
 
-// --- the folder ------------------------------------------------------------------------------------------------------
-
-/// A folder of empty files, every other one of which the file type admits. It goes with this object.
-class ManyFiles {
-public:
-    explicit ManyFiles(int count)
-        : m_path(std::filesystem::temp_directory_path() / ("knav-bench-open-" + std::to_string(count))) {
-        std::filesystem::remove_all(m_path);
-        std::filesystem::create_directories(m_path);
-        for (int i = 0; i < count; ++i) {
-            // Numbers that jump, so that the list has to be sorted.
-            const std::string name = "Sheet " + std::to_string(i * 7919LL % 100'003) + (i % 2 == 0 ? ".dwg" : ".txt");
-            std::ofstream(m_path / name);
-        }
-    }
-    ManyFiles(const ManyFiles&) = delete;
-    ManyFiles& operator=(const ManyFiles&) = delete;
-    ~ManyFiles() {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
-    }
-    std::wstring path() const { return m_path.wstring(); }
-
-private:
-    std::filesystem::path m_path;
-};
+/// The file type admits every other one, and the numbers jump, so that the list has to be sorted.
+CString nameOfFile(int number) {
+    CString name;
+    name.Format(number % 2 == 0 ? L"Sheet %lld.dwg" : L"Sheet %lld.txt", number * 7919LL % 100'003);
+    return name;
+}
 
 // --- one showing -----------------------------------------------------------------------------------------------------
 
@@ -253,9 +232,11 @@ int wmain(int count, wchar_t** arguments) {
         if (options.files != 0 && options.files != files) {
             continue;
         }
-        const ManyFiles folder(files);
-        if (!benchTimes(folder.path(), files, options.pairs) ||
-            !benchMemory(folder.path(), files, std::min(kMemoryRuns, options.pairs))) {
+        const knav::test::ScopedTempFolder folder;
+        folder.addFiles(files, &nameOfFile);
+        const std::wstring path = folder.path().GetString();
+        if (!benchTimes(path, files, options.pairs) ||
+            !benchMemory(path, files, std::min(kMemoryRuns, options.pairs))) {
             return 1;
         }
         std::fflush(stdout);

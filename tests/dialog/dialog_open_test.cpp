@@ -234,7 +234,11 @@ TEST_F(DialogOpen, SameObjectRunsAgain_AndStartsEmpty) {
 
 TEST_F(DialogOpen, TenThousandFiles_OpenAndPick) {
     constexpr int kFiles = 10'000;
-    folder.addFiles(kFiles, L"plan%05d.dwg");
+    folder.addFiles(kFiles, [](int number) {
+        CString name;
+        name.Format(L"plan%05d.dwg", number);
+        return name;
+    });
     TestDialog dialog(folder.path());
     DialogUser user(dialog);
     user.until("all files", [] { return ListView_GetItemCount(viewList()) == kFiles; }).check([] {

@@ -4,12 +4,12 @@
 #include <knav/NavUrl.h>
 
 #include "support/Printers.h"
-#include "support/ScratchHive.h"
+#include "support/RegistryRedirect.h"
 
 namespace {
 
 using namespace knav;
-using knav::test::ScratchHive;
+using knav::test::RegistryRedirect;
 
 class BrowserLaunch : public testing::Test {
 protected:
@@ -25,7 +25,7 @@ protected:
         return line;
     }
 
-    ScratchHive m_classes{HKEY_CLASSES_ROOT};
+    RegistryRedirect m_classes{HKEY_CLASSES_ROOT};
 };
 
 TEST_F(BrowserLaunch, CommandOfTheDocumentClassStartsWithoutItsPlaceholder) {

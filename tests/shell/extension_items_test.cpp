@@ -6,7 +6,7 @@
 #include <platform/GdiOwners.h>
 
 #include "support/ItemLists.h"
-#include "support/ScratchHive.h"
+#include "support/RegistryRedirect.h"
 #include "support/TestExtension.h"
 
 namespace {
@@ -260,7 +260,7 @@ TEST_F(Extensions, PictureIsHandedOutAsACopy) {
 constexpr wchar_t kDisableKey[] = L"Software\\Kelvara\\Dialogs\\AllNavDialogs";
 
 TEST_F(Extensions, AreSwitchedOffOnTheMachine) {
-    ScratchHive machine(HKEY_LOCAL_MACHINE);
+    RegistryRedirect machine(HKEY_LOCAL_MACHINE);
     const CNavExtension& ftp = m_registered.add(L"ftpSITES");
     EXPECT_FALSE(m_foo.IsFTP());
     EXPECT_TRUE(ftp.IsFTP());

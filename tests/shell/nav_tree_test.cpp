@@ -12,8 +12,8 @@
 #include "support/ItemLists.h"
 #include "support/ObjectCounts.h"
 #include "support/RealNamespace.h"
+#include "support/RegistryRedirect.h"
 #include "support/ScopedTempFolder.h"
-#include "support/ScratchHive.h"
 #include "support/TestExtension.h"
 
 namespace {
@@ -200,7 +200,7 @@ TEST_F(NavTree, DeferredExtensionIsShownWithoutItsFolderAndHasAnIconWhenItsSetti
 
 TEST_F(NavTree, DisabledExtensionIsLeftOutWhenTheDialogSaysSo) {
     m_registered.add(L"Foo", m_folder);
-    ScratchHive machine(HKEY_LOCAL_MACHINE);
+    RegistryRedirect machine(HKEY_LOCAL_MACHINE);
     machine.set(L"Software\\Kelvara\\Dialogs\\AllNavDialogs", L"FooExtensionOff", 1);
     PolicyWindow leavesOut(1);
     PolicyWindow keeps(0);

@@ -29,31 +29,17 @@ public:
         return block;
     }
     STDMETHODIMP_(void) PostFree(BOOL) override {}
-    STDMETHODIMP_(SIZE_T) PreRealloc(void* block, SIZE_T size, void** newBlock, BOOL) override {
-        *newBlock = block;
-        m_growsFromNothing = block == nullptr;
-        m_shrinksToNothing = block != nullptr && size == 0;
+    STDMETHODIMP_(SIZE_T) PreRealloc(void* block, SIZE_T size, void** newBlock, BOOL spyed) override {
+        *newBlock = PreFree(block, spyed);
         return size;
     }
-    STDMETHODIMP_(void*) PostRealloc(void* block, BOOL) override {
-        if (m_growsFromNothing && block != nullptr) {
-            InterlockedIncrement(&g_live);
-        } else if (m_shrinksToNothing) {
-            InterlockedDecrement(&g_live);
-        }
-        return block;
-    }
+    STDMETHODIMP_(void*) PostRealloc(void* block, BOOL) override { return PostAlloc(block); }
     STDMETHODIMP_(void*) PreGetSize(void* block, BOOL) override { return block; }
     STDMETHODIMP_(SIZE_T) PostGetSize(SIZE_T size, BOOL) override { return size; }
     STDMETHODIMP_(void*) PreDidAlloc(void* block, BOOL) override { return block; }
     STDMETHODIMP_(int) PostDidAlloc(void*, BOOL, int actual) override { return actual; }
     STDMETHODIMP_(void) PreHeapMinimize() override {}
     STDMETHODIMP_(void) PostHeapMinimize() override {}
-
-private:
-    // The allocator holds its lock from Pre to Post.
-    bool m_growsFromNothing = false;
-    bool m_shrinksToNothing = false;
 };
 
 }  // namespace

@@ -27,12 +27,8 @@ bool usable(HWND window) {
 
 // Where text goes: the edit field of a combo box, otherwise the control itself.
 HWND editOf(HWND control) {
-    COMBOBOXINFO info{};
-    info.cbSize = sizeof info;
-    if (GetComboBoxInfo(control, &info) && info.hwndItem != nullptr && info.hwndItem != control) {
-        return info.hwndItem;
-    }
-    return control;
+    const HWND edit = FindWindowExW(control, nullptr, WC_EDITW, nullptr);
+    return edit != nullptr ? edit : control;
 }
 
 void replaceText(HWND control, const std::wstring& text) {
@@ -41,24 +37,12 @@ void replaceText(HWND control, const std::wstring& text) {
     SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
-void notifyParent(HWND control, WORD code) {
-    const WPARAM what = MAKEWPARAM(GetDlgCtrlID(control), code);
-    SendMessageW(GetParent(control), WM_COMMAND, what, reinterpret_cast<LPARAM>(control));
-}
-
-void chooseEntry(HWND control, int index) {
-    const bool list = isClass(control, L"ListBox");
-    SendMessageW(control, list ? LB_SETCURSEL : CB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    if (list) {
-        notifyParent(control, LBN_SELCHANGE);
-    } else {
-        notifyParent(control, CBN_SELENDOK);
-        notifyParent(control, CBN_SELCHANGE);
+void chooseEntry(HWND combo, int index) {
+    SendMessageW(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    for (const WORD code : {CBN_SELENDOK, CBN_SELCHANGE}) {
+        const WPARAM what = MAKEWPARAM(GetDlgCtrlID(combo), code);
+        SendMessageW(GetParent(combo), WM_COMMAND, what, reinterpret_cast<LPARAM>(combo));
     }
-}
-
-std::string named(const char* verb, UINT id) {
-    return std::string(verb) + " " + std::to_string(id);
 }
 
 }  // namespace
@@ -77,40 +61,36 @@ DialogDriver& knav::test::DialogDriver::then(std::string what, Action act) {
         std::move(what), [] { return dialog() != nullptr; }, std::move(act));
 }
 
-DialogDriver& knav::test::DialogDriver::waitForDialog(UINT withControl) {
-    return wait(named("a dialog with control", withControl), [withControl] { return control(withControl) != nullptr; });
+DialogDriver& knav::test::DialogDriver::inControl(const char* verb, UINT id, std::function<void(HWND)> act) {
+    return step(
+        verb + std::to_string(id), [id] { return usable(control(id)); },
+        [id, act = std::move(act)] { act(control(id)); });
 }
 
 DialogDriver& knav::test::DialogDriver::click(UINT id) {
     // Posted: the click may end the dialog, or open a box that later steps answer.
-    return step(
-        named("click", id), [id] { return usable(control(id)); }, [id] { PostMessageW(control(id), BM_CLICK, 0, 0); });
+    return inControl("click ", id, [](HWND button) { PostMessageW(button, BM_CLICK, 0, 0); });
 }
 
 DialogDriver& knav::test::DialogDriver::setText(UINT id, std::wstring text) {
-    return step(
-        named("text into", id), [id] { return usable(control(id)); },
-        [id, text = std::move(text)] { replaceText(control(id), text); });
+    return inControl("text into ", id, [text = std::move(text)](HWND control) { replaceText(control, text); });
 }
 
 DialogDriver& knav::test::DialogDriver::select(UINT id, int index) {
-    return step(
-        named("select in", id), [id] { return usable(control(id)); }, [id, index] { chooseEntry(control(id), index); });
+    return inControl("select in ", id, [index](HWND combo) { chooseEntry(combo, index); });
 }
 
 DialogDriver& knav::test::DialogDriver::press(UINT id, WORD virtualKey) {
-    return step(
-        named("key in", id), [id] { return usable(control(id)); },
-        [id, virtualKey] {
-            const HWND target = editOf(control(id));
-            SetFocus(target);
-            PostMessageW(target, WM_KEYDOWN, virtualKey, 1);
-            PostMessageW(target, WM_KEYUP, virtualKey, static_cast<LPARAM>(0xC0000001));
-        });
+    return inControl("key in ", id, [virtualKey](HWND control) {
+        const HWND target = editOf(control);
+        SetFocus(target);
+        PostMessageW(target, WM_KEYDOWN, virtualKey, 1);
+        PostMessageW(target, WM_KEYUP, virtualKey, static_cast<LPARAM>(0xC0000001));
+    });
 }
 
 DialogDriver& knav::test::DialogDriver::command(UINT id) {
-    return then(named("command", id), [id] { PostMessageW(dialog(), WM_COMMAND, id, 0); });
+    return then("command " + std::to_string(id), [id] { PostMessageW(dialog(), WM_COMMAND, id, 0); });
 }
 
 HWND knav::test::DialogDriver::dialog() {
@@ -156,15 +136,10 @@ void knav::test::DialogDriver::tick() {
         }
         return;
     }
-    if (m_next == m_steps.size()) {
+    const bool done = m_next == m_steps.size();
+    if (done || !m_steps[m_next].ready()) {
         if (GetTickCount64() - m_waitingSince > m_stepLimitMs) {
-            fail("the dialog is still open " + std::to_string(m_stepLimitMs) + " ms after the last step");
-        }
-        return;
-    }
-    if (!m_steps[m_next].ready()) {
-        if (GetTickCount64() - m_waitingSince > m_stepLimitMs) {
-            fail("not ready after " + std::to_string(m_stepLimitMs) + " ms");
+            fail((done ? "still open after " : "not ready after ") + std::to_string(m_stepLimitMs) + " ms");
         }
         return;
     }

@@ -33,14 +33,12 @@ public:
     DialogDriver& wait(std::string what, Condition ready);
     /// As soon as a dialog is in front and no message waits.
     DialogDriver& then(std::string what, Action act);
-    /// Until the dialog in front has this control.
-    DialogDriver& waitForDialog(UINT withControl);
 
     /// When the control is visible and enabled: click it as a button.
     DialogDriver& click(UINT id);
     /// Replace the text of an edit or combo box as typing would, with its change notification.
     DialogDriver& setText(UINT id, std::wstring text);
-    /// Choose an entry of a combo or list box as the user would, with its notifications.
+    /// Choose an entry of a combo box as the user would, with its notifications.
     DialogDriver& select(UINT id, int index);
     /// Give the control (for a combo box its edit field) the focus and press a key in it.
     DialogDriver& press(UINT id, WORD virtualKey);
@@ -83,6 +81,7 @@ private:
         UINT_PTR m_timer;
     };
 
+    DialogDriver& inControl(const char* verb, UINT id, std::function<void(HWND)> act);
     static void CALLBACK onTimer(HWND window, UINT message, UINT_PTR id, DWORD time) noexcept;
     void tick();
     void fail(const std::string& why);

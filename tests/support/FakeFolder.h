@@ -14,6 +14,7 @@
 #include "shell/ComPtr.h"
 #include "shell/ItemList.h"
 #include "shell/ListWalk.h"
+#include "support/ItemLists.h"
 
 namespace knav::test {
 
@@ -186,8 +187,6 @@ public:
     using Conducts::calls;
     using Conducts::set;
     using Conducts::setAll;
-    /// How names are returned: STRRET_WSTR (default), STRRET_OFFSET or STRRET_CSTR.
-    void setNameKind(UINT kind) { m_nameKind = kind; }
     /// BindToObject refuses; the folder of an item comes from GetUIObjectOf.
     void setBindThroughUiObject(bool through) { m_bindThroughUiObject = through; }
     /// The icon that every item, and the folder itself, extracts.
@@ -224,7 +223,6 @@ private:
 
     std::wstring m_name;
     std::vector<Item> m_items;
-    UINT m_nameKind = STRRET_WSTR;
     bool m_bindThroughUiObject = false;
     bool m_askedForItself = false;
     FakeIcon m_icon;
@@ -241,17 +239,13 @@ inline HRESULT FakeItems::Next(ULONG, ITEMIDLIST** lists, ULONG* fetched) {
 }
 
 inline ItemList FakeFolder::item(std::wstring_view path) {
-    std::vector<BYTE> bytes;
+    std::vector<std::string_view> payloads;
     while (!path.empty()) {
         const std::wstring_view name = path.substr(0, path.find(L'/'));
-        const auto size = static_cast<USHORT>(sizeof(USHORT) + name.size() * sizeof(wchar_t));
-        const auto* const text = reinterpret_cast<const BYTE*>(name.data());
-        bytes.insert(bytes.end(), {static_cast<BYTE>(size & 0xFF), static_cast<BYTE>(size >> 8)});
-        bytes.insert(bytes.end(), text, text + name.size() * sizeof(wchar_t));
+        payloads.emplace_back(reinterpret_cast<const char*>(name.data()), name.size() * sizeof(wchar_t));
         path.remove_prefix(std::min(path.size(), name.size() + 1));
     }
-    bytes.insert(bytes.end(), {0, 0});
-    return ItemList::copyOf(reinterpret_cast<const ITEMIDLIST*>(bytes.data()));
+    return makeList(payloads);
 }
 
 inline std::vector<std::wstring> FakeFolder::namesOf(const ITEMIDLIST* list) {
@@ -269,13 +263,15 @@ inline const FakeFolder::Item* FakeFolder::find(const ITEMIDLIST* list) const {
     const Item* found = nullptr;
     const FakeFolder* folder = this;
     for (const std::wstring& name : namesOf(list)) {
-        found = nullptr;
-        if (folder != nullptr) {
-            for (const Item& candidate : folder->m_items) {
-                found = candidate.name == name ? &candidate : found;
-            }
+        if (folder == nullptr) {
+            return nullptr;
         }
-        folder = found != nullptr ? found->folder.get() : nullptr;
+        const auto at = std::ranges::find(folder->m_items, name, &Item::name);
+        if (at == folder->m_items.end()) {
+            return nullptr;
+        }
+        found = &*at;
+        folder = at->folder.get();
     }
     return found;
 }
@@ -362,16 +358,8 @@ inline HRESULT FakeFolder::GetDisplayNameOf(const ITEMIDLIST* list, SHGDNF flags
     for (const std::wstring& each : names) {
         text += (text.empty() ? L"" : L"/") + each;
     }
-    name->uType = m_nameKind;
-    if (m_nameKind == STRRET_WSTR) {
-        return SHStrDupW(text.c_str(), &name->pOleStr);
-    }
-    if (m_nameKind == STRRET_OFFSET) {
-        name->uOffset = sizeof(USHORT);  // only right for items with 8-bit names
-        return S_OK;
-    }
-    WideCharToMultiByte(CP_ACP, 0, text.c_str(), -1, name->cStr, sizeof name->cStr, nullptr, nullptr);
-    return S_OK;
+    name->uType = STRRET_WSTR;
+    return SHStrDupW(text.c_str(), &name->pOleStr);
 }
 
 }  // namespace knav::test

@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 
 #include <cstring>
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -27,7 +26,7 @@ inline void PrintTo(const ItemList& list, std::ostream* out) {
 namespace knav::test {
 
 /// The bytes of a list whose elements have these payloads, with its terminator.
-inline std::vector<BYTE> listBytes(std::initializer_list<std::string_view> payloads) {
+inline std::vector<BYTE> listBytes(const std::vector<std::string_view>& payloads) {
     std::vector<BYTE> bytes;
     for (const std::string_view payload : payloads) {
         const auto size = static_cast<USHORT>(payload.size() + sizeof(USHORT));
@@ -44,7 +43,7 @@ inline ITEMIDLIST* asList(std::vector<BYTE>& bytes) {
 }
 
 /// An owned list made of payloads.
-inline ItemList makeList(std::initializer_list<std::string_view> payloads) {
+inline ItemList makeList(const std::vector<std::string_view>& payloads) {
     std::vector<BYTE> bytes = listBytes(payloads);
     return ItemList::copyOf(asList(bytes));
 }

@@ -24,25 +24,11 @@ static_assert(sizeof(GdiEntry) == 24 && offsetof(GdiEntry, type) == 14);
 constexpr std::size_t kGdiTableInPeb = 0xF8;
 constexpr int kGdiEntries = 0x4000;
 
-template <class Function>
-Function ntFunction(const char* name) noexcept {
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), name)));
-}
-
-const char* processEnvironment() noexcept {
-    using Query = NTSTATUS(WINAPI*)(HANDLE, PROCESSINFOCLASS, void*, ULONG, ULONG*);
-    static const auto query = ntFunction<Query>("NtQueryInformationProcess");
-    PROCESS_BASIC_INFORMATION information{};
-    query(GetCurrentProcess(), ProcessBasicInformation, &information, sizeof information, nullptr);
-    return reinterpret_cast<const char*>(information.PebBaseAddress);
-}
-
 int gdiObjects() noexcept {
-    const char* const peb = processEnvironment();
+    const auto* const peb = reinterpret_cast<const char*>(NtCurrentTeb()->ProcessEnvironmentBlock);
     const auto* const table = *reinterpret_cast<const GdiEntry* const*>(peb + kGdiTableInPeb);
-    return table == nullptr ? 0 : static_cast<int>(std::count_if(table, table + kGdiEntries, [](const GdiEntry& entry) {
-        return entry.type != 0;
-    }));
+    return static_cast<int>(
+        std::count_if(table, table + kGdiEntries, [](const GdiEntry& entry) { return entry.type != 0; }));
 }
 
 struct HandleEntry {
@@ -60,11 +46,9 @@ struct HandleTable {
 constexpr auto kSystemHandles = static_cast<SYSTEM_INFORMATION_CLASS>(16);
 
 int kernelHandles() {
-    using Query = NTSTATUS(WINAPI*)(SYSTEM_INFORMATION_CLASS, void*, ULONG, ULONG*);
-    static const auto query = ntFunction<Query>("NtQuerySystemInformation");
     std::vector<char> buffer(256 * 1024);
     ULONG needed = 0;
-    while (query(kSystemHandles, buffer.data(), static_cast<ULONG>(buffer.size()), &needed) != 0) {
+    while (NtQuerySystemInformation(kSystemHandles, buffer.data(), static_cast<ULONG>(buffer.size()), &needed) != 0) {
         buffer.resize(buffer.size() * 2);
     }
     const auto* const table = reinterpret_cast<const HandleTable*>(buffer.data());

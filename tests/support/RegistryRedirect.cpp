@@ -2,28 +2,32 @@
 
 #include <stdexcept>
 
-namespace {
-
-void require(LONG error, const char* what) {
-    if (error != ERROR_SUCCESS) {
-        throw std::runtime_error(what);
-    }
-}
-
-}  // namespace
-
-knav::test::RegistryRedirect::RegistryRedirect() {
-    m_scratch.Format(L"Software\\KnavTests\\%lu", GetCurrentProcessId());
+knav::test::RegistryRedirect::RegistryRedirect(HKEY predefined) : m_predefined(predefined) {
+    m_scratch.Format(L"Software\\KnavTests\\%lu-%p", GetCurrentProcessId(), predefined);
     RegDeleteTreeW(HKEY_CURRENT_USER, m_scratch);
     HKEY key = nullptr;
-    require(RegCreateKeyExW(HKEY_CURRENT_USER, m_scratch, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr),
-            "cannot make the scratch registry key");
-    const LONG error = RegOverridePredefKey(HKEY_CURRENT_USER, key);
+    if (RegCreateKeyExW(HKEY_CURRENT_USER, m_scratch, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr) !=
+            ERROR_SUCCESS ||
+        RegOverridePredefKey(predefined, key) != ERROR_SUCCESS) {
+        throw std::runtime_error("cannot redirect the registry");
+    }
     RegCloseKey(key);
-    require(error, "cannot redirect HKEY_CURRENT_USER");
 }
 
 knav::test::RegistryRedirect::~RegistryRedirect() {
-    RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+    RegOverridePredefKey(m_predefined, nullptr);
     RegDeleteTreeW(HKEY_CURRENT_USER, m_scratch);
+}
+
+void knav::test::RegistryRedirect::set(const wchar_t* key, const wchar_t* name, const CString& value) {
+    const auto size = static_cast<DWORD>((value.GetLength() + 1) * sizeof(wchar_t));
+    RegSetKeyValueW(m_predefined, key, name, REG_SZ, value.GetString(), size);
+}
+
+void knav::test::RegistryRedirect::set(const wchar_t* key, const wchar_t* name, DWORD value) {
+    RegSetKeyValueW(m_predefined, key, name, REG_DWORD, &value, sizeof value);
+}
+
+void knav::test::RegistryRedirect::remove(const wchar_t* key) {
+    RegDeleteTreeW(m_predefined, key);
 }

@@ -8,11 +8,10 @@
 namespace {
 
 std::filesystem::path tempRoot() {
-    wchar_t shortPath[MAX_PATH + 1];
-    GetTempPathW(MAX_PATH + 1, shortPath);
-    wchar_t longPath[MAX_PATH + 1];
-    const DWORD length = GetLongPathNameW(shortPath, longPath, MAX_PATH + 1);
-    return length == 0 || length > MAX_PATH ? shortPath : longPath;
+    wchar_t path[MAX_PATH + 1] = L"";
+    GetTempPathW(MAX_PATH + 1, path);
+    GetLongPathNameW(path, path, MAX_PATH + 1);
+    return path;
 }
 
 // Before Wine makes a file it looks through the whole folder for the name in another case, so that many files take
@@ -59,12 +58,10 @@ CString knav::test::ScopedTempFolder::addFile(const wchar_t* relative, std::stri
     return file.wstring();
 }
 
-void knav::test::ScopedTempFolder::addFiles(int count, const wchar_t* format) const {
+void knav::test::ScopedTempFolder::addFiles(int count, CString (*nameOf)(int number)) const {
     const std::wstring folder = pathWithoutSearch(m_path) + L"\\";
     for (int number = 0; number < count; ++number) {
-        CString name;
-        name.Format(format, number);
-        const std::wstring path = folder + name.GetString();
+        const std::wstring path = folder + nameOf(number).GetString();
         CloseHandle(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
     }
 }

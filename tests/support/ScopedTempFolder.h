@@ -20,8 +20,8 @@ public:
     /// Make a file or a folder, and the folders on the way to it; they return its full path.
     CString addFile(const wchar_t* relative, std::string_view content = "x") const;
     CString addFolder(const wchar_t* relative) const;
-    /// Adds `count` empty files, named by `format` from their numbers; quick enough for ten thousand.
-    void addFiles(int count, const wchar_t* format) const;
+    /// Adds `count` empty files; quick enough for ten thousand.
+    void addFiles(int count, CString (*nameOf)(int number)) const;
 
 private:
     CString m_path;

@@ -6,22 +6,6 @@
 
 #include "support/Printers.h"
 
-namespace {
-
-// The answer that does least.
-int harmless(const ZoPrompt& prompt) {
-    switch (prompt.flags & MB_TYPEMASK) {
-        case MB_YESNO:
-            return IDNO;
-        case MB_OK:
-            return prompt.kind == ZoPromptKind::MessageBox ? IDOK : IDCANCEL;
-        default:
-            return IDCANCEL;
-    }
-}
-
-}  // namespace
-
 knav::test::ScriptedPrompts::ScriptedPrompts() {
     m_previous = ZoSetPromptHandler([this](const ZoPrompt& prompt) { return std::optional(reply(prompt)); });
 }
@@ -45,7 +29,7 @@ int knav::test::ScriptedPrompts::reply(const ZoPrompt& prompt) {
     m_seen.push_back(std::move(seen));
     if (m_answers.empty()) {
         ADD_FAILURE() << "unexpected prompt: " << utf8(prompt.text.view());
-        return harmless(prompt);
+        return IDCANCEL;
     }
     const int next = m_answers.front();
     m_answers.pop_front();

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "support/AllocationSpy.h"
+#include "support/ChildTests.h"
 #include "support/FaultReport.h"
 #include "support/LevelCheck.h"
 #include "support/Watchdog.h"
@@ -29,6 +30,10 @@ int main(int argc, char** argv) {
     knav::test::installFaultReport();
     knav::test::AllocationSpy::install();
     SetOaNoCache();
+    if (knav::test::isChildProcess()) {  // it runs all that it was asked for, not a share of it
+        _putenv("GTEST_TOTAL_SHARDS=");
+        _putenv("GTEST_SHARD_INDEX=");
+    }
     testing::InitGoogleMock(&argc, argv);
     if (const DWORD limit = testLimitMs(); limit != 0) {
         testing::UnitTest::GetInstance()->listeners().Append(new knav::test::Watchdog(limit));
