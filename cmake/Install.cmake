@@ -9,6 +9,7 @@ if(TARGET KnavRes)
   install(TARGETS KnavRes RUNTIME DESTINATION bin LIBRARY DESTINATION bin ARCHIVE DESTINATION lib)
 endif()
 install(DIRECTORY include/knav DESTINATION include FILES_MATCHING PATTERN "*.h")
+install(FILES resources/ids.h DESTINATION include/knav)
 install(DIRECTORY host/platform host/ry host/zoui DESTINATION include/zoui FILES_MATCHING PATTERN "*.h")
 install(EXPORT knavTargets NAMESPACE knav:: DESTINATION ${_package})
 

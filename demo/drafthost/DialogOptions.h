@@ -9,8 +9,8 @@ class CNavDialog;
 /// ints, as there.
 struct DialogOptions {
     // what the dialog is for
-    CString dialogCaption;
-    CString okButtonText;
+    CString dialogCaption{};
+    CString okButtonText{};
     int creatingFile = 0;
     int foldersOnly = 0;
     int mayReturnFolder = 0;  ///< a FileDialogAllowReturnFolderEnabler lives while the dialog runs
@@ -24,8 +24,8 @@ struct DialogOptions {
     // names and file types
     CString fileTypes =  ///< description and patterns in turn, parted by "|"
         L"Drawings (*.dwg)|*.dwg|Drawing templates (*.dwt)|*.dwt|All files (*.*)|*.*|";
-    CString defaultFileExtension;
-    CString initialFileName;
+    CString defaultFileExtension{};
+    CString initialFileName{};
     int defaultFilterIndex = 0;
     int forceFilterIndex = -1;
     int filterIndex = -1;  ///< chosen once the dialog is shown; -1 leaves its own choice
@@ -33,8 +33,8 @@ struct DialogOptions {
     int useRegExtensionFlags = 1;
 
     // folders and view
-    CString forceInitialFolder;
-    CString defaultInitialFolder;
+    CString forceInitialFolder{};
+    CString defaultInitialFolder{};
     unsigned int viewMode = 0;  ///< set once the dialog is shown; 0 leaves the one that was remembered
     unsigned int toolsMenuItemsPresent = 0xFFFFFFFF;
     int ownListControl = 0;  ///< FolderListCtrl: the host hands the dialog a list control of its own

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <string>
 
+#include "DialogOptions.h"
 #include "FileTypes.h"
 #include "HostOptions.h"
 #include "MainWindow.h"
@@ -32,18 +33,21 @@ void useConsoleOfParent() {
     }
 }
 
-void configure(CNavDialog& dialog, const HostOptions& options) {
-    dialog.SetDialogCaption(options.foldersOnly ? L"Choose Folder" : options.save ? L"Save Drawing" : L"Open Drawing");
-    dialog.SetForceInitialFolder(options.folder);
-    dialog.SetInitialFileName(options.name);
-    dialog.SetFoldersOnly(options.foldersOnly);
-    dialog.SetMultiSelectAllowed(options.multi);
-    dialog.SetCreatingFile(options.save);
-    dialog.SetConfirmReplace(options.save);
-    if (options.save) {
-        dialog.SetOkButtonText(L"&Save");
-        dialog.SetReadOnlyHidden(1);
+DialogOptions optionsOf(const HostOptions& asked) {
+    DialogOptions options;
+    options.dialogCaption = asked.foldersOnly ? L"Choose Folder" : asked.save ? L"Save Drawing" : L"Open Drawing";
+    options.forceInitialFolder = asked.folder;
+    options.initialFileName = asked.name;
+    options.foldersOnly = asked.foldersOnly;
+    options.multiSelectAllowed = asked.multi;
+    if (asked.save) {
+        options.okButtonText = L"&Save";
+        options.okButtonMenuExists = 0;
+        options.readOnlyHidden = 1;
+        options.creatingFile = 1;
+        options.confirmReplace = 1;
     }
+    return options;
 }
 
 int pick(const HostOptions& options) {
@@ -52,7 +56,7 @@ int pick(const HostOptions& options) {
     CNavDataArray data;
 
     CNavDialog dialog(data, filters);
-    configure(dialog, options);
+    optionsOf(options).applyTo(dialog);
     switch (dialog.DoModal()) {
         case IDOK:
             for (int i = 0; i < data.GetCount(); ++i) {

@@ -26,6 +26,7 @@ CString askWhereToSave(CWnd* parent, const wchar_t* drawing) {
     dialog.SetDialogName(L"SaveDrawing");
     dialog.SetDialogCaption(L"Save Drawing As");
     dialog.SetOkButtonText(L"&Save");
+    dialog.SetOkButtonMenuExists(0);
     dialog.SetCreatingFile(1);
     dialog.SetConfirmReplace(1);
     dialog.SetReadOnlyHidden(1);

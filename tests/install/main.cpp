@@ -1,4 +1,5 @@
 // Uses the installed library as a host does: parses, shows a dialog, cancels it.
+#include <knav/ids.h>
 #include <knav/knav.h>
 
 #include <cstdio>
@@ -43,7 +44,7 @@ int main() {
 
     CNavDataArray chosen;
     CancelledDialog dialog(chosen, filters);
-    expect(dialog.GetIDD() == 131, "the library's own template is used");
+    expect(dialog.GetIDD() == IDD_KNAV, "the library's own template is used");
     expect(dialog.DoModal() == IDCANCEL, "the dialog is cancelled");
     expect(dialog.wasUp(), "the host's hook is called");
     expect(chosen.GetCount() == 0, "a cancelled dialog chooses nothing");
