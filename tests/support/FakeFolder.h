@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <ranges>
 #include <string>
 #include <vector>
 
@@ -177,7 +178,7 @@ public:
     /// A new list for a path of names below a folder, as for example L"site/folder".
     static ItemList item(std::wstring_view path);
 
-    /// Adds an item; `folder`, when given, is what binding to it gives.
+    /// Adds an item; `folder`, when given, is what binding to it gives. Of two with one name the later one counts.
     FakeFolder& add(std::wstring name, DWORD attributes, ComPtr<FakeFolder> folder = {}) {
         m_items.push_back({std::move(name), attributes, std::move(folder)});
         return *this;
@@ -266,8 +267,9 @@ inline const FakeFolder::Item* FakeFolder::find(const ITEMIDLIST* list) const {
         if (folder == nullptr) {
             return nullptr;
         }
-        const auto at = std::ranges::find(folder->m_items, name, &Item::name);
-        if (at == folder->m_items.end()) {
+        const auto newestFirst = folder->m_items | std::views::reverse;
+        const auto at = std::ranges::find(newestFirst, name, &Item::name);
+        if (at == newestFirst.end()) {
             return nullptr;
         }
         found = &*at;
