@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cwctype>
 
+#include "resources/ids.h"
 #include "shell/TextRules.h"
 
 namespace knav {
@@ -195,6 +196,19 @@ std::optional<std::wstring> driveOf(std::wstring_view name) {
         return std::nullopt;
     }
     return std::wstring{letter, L':'};
+}
+
+UINT driveProblem(UINT type) {
+    switch (type) {
+        case DRIVE_UNKNOWN:
+        case DRIVE_NO_ROOT_DIR:
+            return IDS_KNAV_NO_DRIVE;
+        case DRIVE_REMOVABLE:
+        case DRIVE_CDROM:
+            return IDS_KNAV_DRIVE_NOT_READY;
+        default:
+            return 0;
+    }
 }
 
 std::wstring withExtensionOf(std::wstring_view name, std::wstring_view pattern) {

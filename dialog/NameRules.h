@@ -71,6 +71,10 @@ bool appendPath(CString& name, const CString& folder);
 /// "X:" in upper case when `name` starts with a drive letter and a colon.
 std::optional<std::wstring> driveOf(std::wstring_view name);
 
+/// The message about a drive that cannot be used, by its type (GetDriveType); 0 for the types of which nobody has to
+/// find that out.
+UINT driveProblem(UINT type);
+
 /// The name with the part behind its last dot taken from the filter's pattern.
 std::wstring withExtensionOf(std::wstring_view name, std::wstring_view pattern);
 

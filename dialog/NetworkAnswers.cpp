@@ -42,7 +42,7 @@ void NetworkAnswers::forget() {
     m_waited = 0;
 }
 
-const NetworkAnswer& NetworkAnswers::about(const CString& name) {
+NetworkAnswer& NetworkAnswers::about(const CString& name) {
     const NetworkName location = splitNetworkName(name.view());
     const auto known =
         std::ranges::find_if(m_known, [&](const auto& entry) { return sameLocation(entry.first, location); });
@@ -64,6 +64,22 @@ const NetworkAnswer* NetworkAnswers::refusal(const CString& text) {
     }
     const Scope alone(*this);
     const NetworkAnswer& answer = about(path);
+    return answer.reachable ? nullptr : &answer;
+}
+
+const NetworkAnswer* NetworkAnswers::refusalAfterLogin(HWND owner, const CString& text) {
+    const Scope asked(*this);
+    if (const NetworkAnswer* refused = refusal(text)) {
+        return refused;
+    }
+    const NetworkName location = splitNetworkName(plainPath(text.view()));
+    if (location.share.empty()) {
+        return nullptr;
+    }
+    NetworkAnswer& answer = about(CString(plainPath(text.view())));
+    if (answer.wantsLogin) {
+        answer = networkLogin(networkProbe(), owner, location);
+    }
     return answer.reachable ? nullptr : &answer;
 }
 

@@ -1,8 +1,8 @@
 // What the network said about the locations that come up while the user is at one thing.
 #pragma once
 
+#include <deque>
 #include <utility>
-#include <vector>
 
 #include "dialog/NetworkCheck.h"
 
@@ -30,11 +30,14 @@ public:
     /// shows while the answer is awaited. Valid until the next question.
     const NetworkAnswer* refusal(const CString& text);
 
+    /// The same, once the user has had the opportunity to log in to a share that wants it.
+    const NetworkAnswer* refusalAfterLogin(HWND owner, const CString& text);
+
 private:
-    const NetworkAnswer& about(const CString& name);
+    NetworkAnswer& about(const CString& name);
     void forget();
 
-    std::vector<std::pair<NetworkName, NetworkAnswer>> m_known;
+    std::deque<std::pair<NetworkName, NetworkAnswer>> m_known;
     unsigned long long m_waited = 0;
     int m_scopes = 0;
 };

@@ -55,13 +55,18 @@ unsigned long ask(NetworkProbe& probe, const NetworkName& name, const std::wstri
         GetFileAttributesW((name.server + L"\\" + name.share).c_str()) != INVALID_FILE_ATTRIBUTES) {
         return NO_ERROR;
     }
-    // A location that refuses to be listed, or wants a login, is there.
-    const bool answered =
-        error == ERROR_ACCESS_DENIED || error == ERROR_LOGON_FAILURE || error == ERROR_INVALID_PASSWORD;
-    return answered ? NO_ERROR : error;
+    return error;
+}
+
+/// A location that refuses to be listed, or wants a login, is there.
+bool wantsLogin(unsigned long error) {
+    return error == ERROR_ACCESS_DENIED || error == ERROR_LOGON_FAILURE || error == ERROR_INVALID_PASSWORD;
 }
 
 unsigned codeOf(unsigned long error) {
+    if (error == ERROR_CANCELLED) {
+        return kNetworkLoginCancelled;
+    }
     const bool invalid = error == ERROR_INVALID_NAME || error == ERROR_BAD_PATHNAME;
     return invalid ? kNetworkNameInvalid : 1;
 }
@@ -106,9 +111,16 @@ NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, uns
         check->error = ask(probe, splitNetworkName(text), text, check->message);
     });
     if (!started || !waitWhilePainting(check->done.get(), limit)) {
-        return {false, 1, {}};
+        return {false, false, 1, {}};
     }
-    return {check->error == NO_ERROR, codeOf(check->error), CString(check->message)};
+    const bool asksWho = wantsLogin(check->error);
+    return {check->error == NO_ERROR || asksWho, asksWho, codeOf(check->error), CString(check->message)};
+}
+
+NetworkAnswer networkLogin(NetworkProbe& probe, HWND owner, const NetworkName& location) {
+    std::wstring message;
+    const unsigned long error = probe.logIn(owner, location.server + kSeparator + location.share, message);
+    return {error == NO_ERROR, false, codeOf(error), CString(message)};
 }
 
 }  // namespace knav

@@ -9,14 +9,17 @@ namespace knav {
 
 /// Result code of a name that is no network name at all.
 inline constexpr unsigned kNetworkNameInvalid = 16;
+/// Result code of a login that the user gave up.
+inline constexpr unsigned kNetworkLoginCancelled = 2;
 
 struct NetworkAnswer {
     bool reachable = false;
+    bool wantsLogin = false;  ///< it is there, but not for a user whom it does not know
     unsigned code = 0;
     CString message;  ///< the network's own words, when it has any
 };
 
-/// Asks the network. Called on a worker thread; it may block.
+/// Asks the network. It may block, and is called on a worker thread except where it says so.
 class NetworkProbe {
 public:
     virtual ~NetworkProbe() = default;
@@ -25,6 +28,9 @@ public:
     virtual unsigned long server(const std::wstring& server, std::wstring& message) = 0;
     virtual unsigned long share(const std::wstring& server, const std::wstring& share, std::wstring& message) = 0;
     virtual unsigned long path(const std::wstring& path, std::wstring& message) = 0;
+    /// Lets the user log in to a share, "\\server\share", in a window over `owner`; on the user-interface thread.
+    /// ERROR_CANCELLED when the user does not want to.
+    virtual unsigned long logIn(HWND owner, const std::wstring& share, std::wstring& message) = 0;
 };
 
 /// The probe in use: the platform's network functions, until another is set (null goes back to them). The caller keeps
@@ -48,5 +54,8 @@ void setNetworkPatience(unsigned milliseconds);
 /// Checks a location on a worker thread and gives up after `limit` milliseconds: it then counts as unreachable. The
 /// calling thread's windows paint themselves meanwhile.
 NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, unsigned limit = networkPatience());
+
+/// Lets the user log in to the share of a location.
+NetworkAnswer networkLogin(NetworkProbe& probe, HWND owner, const NetworkName& location);
 
 }  // namespace knav

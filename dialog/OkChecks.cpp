@@ -28,19 +28,6 @@ bool canBeCurrent(const std::wstring& drive) {
     return ready;
 }
 
-/// The message for a drive that cannot be used, or 0.
-UINT driveProblem(const std::wstring& drive) {
-    const UINT type = GetDriveTypeW(drive.c_str());
-    const bool unknown = type < DRIVE_REMOVABLE;
-    if (!unknown && type != DRIVE_REMOVABLE && type != DRIVE_CDROM) {
-        return 0;
-    }
-    if (canBeCurrent(drive)) {
-        return 0;
-    }
-    return unknown ? IDS_KNAV_NO_DRIVE : IDS_KNAV_DRIVE_NOT_READY;
-}
-
 struct GuardedType {
     const wchar_t* extension;
     UINT caption;
@@ -70,8 +57,8 @@ bool isInUse(const CString& path) {
 
 int CNavDialogImp::validateDrive(const CString& name) {
     const auto drive = knav::driveOf(name.view());
-    const UINT problem = drive ? driveProblem(*drive) : 0;
-    if (problem == 0) {
+    const UINT problem = drive ? knav::driveProblem(GetDriveTypeW(drive->c_str())) : 0;
+    if (problem == 0 || canBeCurrent(*drive)) {
         return 1;
     }
     knav::showMessage(m_facade, problem, *drive);
@@ -85,16 +72,16 @@ bool CNavDialogImp::withinReach(const CString& text) {
 }
 
 int CNavDialogImp::validateUNC(const CString& name) {
-    const knav::NetworkAnswer* refusal = m_ok.network.refusal(name);
+    const knav::NetworkAnswer* refusal = m_ok.network.refusalAfterLogin(m_facade.GetSafeHwnd(), name);
     if (!refusal) {
         return 1;
     }
     if (const CString message = refusal->message; !message.IsEmpty()) {
         knav::showText(m_facade, message);
-    } else {
-        knav::showMessage(
-            m_facade, refusal->code == knav::kNetworkNameInvalid ? IDS_KNAV_INVALID_NAME : IDS_KNAV_NETWORK_UNREACHABLE,
-            name);
+    } else if (refusal->code == knav::kNetworkNameInvalid) {
+        knav::showMessage(m_facade, IDS_KNAV_INVALID_NAME, name);
+    } else if (refusal->code != knav::kNetworkLoginCancelled) {
+        knav::showMessage(m_facade, IDS_KNAV_NETWORK_UNREACHABLE, name);
     }
     refuseFileName();
     return 0;

@@ -117,6 +117,17 @@ public:
     unsigned long path(const std::wstring& path, std::wstring& message) override {
         return resourceInformation(path, message);
     }
+
+    unsigned long logIn(HWND owner, const std::wstring& share, std::wstring& message) override {
+        std::wstring name = share;
+        NETRESOURCEW resource{};
+        resource.dwType = RESOURCETYPE_DISK;
+        resource.lpRemoteName = name.data();
+        const DWORD how = CONNECT_INTERACTIVE | CONNECT_TEMPORARY;
+        const unsigned long error = WNetAddConnection3W(owner, &resource, nullptr, nullptr, how);
+        takeProviderMessage(error, message);
+        return error;
+    }
 };
 
 NetworkProbe* g_probe = nullptr;

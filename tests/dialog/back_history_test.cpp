@@ -46,11 +46,15 @@ TEST_F(BackHistoryTest, FoldersShown_AreGoneBackThroughInTurn) {
 }
 
 TEST_F(BackHistoryTest, FolderThatIsGone_IsForgotten) {
-    for (const wchar_t* const name : {L"a", L"gone", L"c"}) {
+    for (const wchar_t* const name : {L"a", L"b", L"gone", L"b", L"gone", L"c"}) {
         show(name);
     }
     history.forgetPrevious();
-    EXPECT_EQ(previous(), L"a");
+    EXPECT_EQ(previous(), L"b");
+    show(L"b");
+    history.wentBack();
+    history.forgetPrevious();
+    EXPECT_EQ(previous(), L"a") << "b is shown: it is not what lies before";
     history.forgetPrevious();
     history.forgetPrevious();
     EXPECT_FALSE(history.canGoBack());

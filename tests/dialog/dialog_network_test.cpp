@@ -111,9 +111,12 @@ protected:
 
 TEST_F(InsideNetwork, PathOnAShare_IsCheckedOnceAndReturned) {
     TestDialog dialog(folder.path());
-    EXPECT_EQ(DialogUser(dialog).type(L"\\\\knavtest\\plans\\house").ok().run(), IDOK);
-    ASSERT_THAT(dialog.chosen(), ElementsAre(L"\\\\knavtest\\plans\\house.dwg"));
+    dialog.SetMultiSelectAllowed(1);
+    constexpr wchar_t path[] = L"\\\\knavtest\\plans\\house.dwg";
+    EXPECT_EQ(DialogUser(dialog).type(L"\"\\\\knavtest\\plans\\house\" \"//knavtest/plans/house\"").ok().run(), IDOK);
+    ASSERT_THAT(dialog.chosen(), ElementsAre(path, path));
     EXPECT_EQ(dialog.data.GetData(0)->GetDataType(), NAV_DATA_NETWORK);
+    EXPECT_EQ(dialog.data.GetData(1)->GetDataType(), NAV_DATA_NETWORK);
     EXPECT_EQ(questions(), L"find \\\\knavtest\\plans\\house\n");
 }
 

@@ -3,6 +3,7 @@
 
 #include "dialog/DialogUser.h"
 #include "dialog/Messages.h"
+#include "support/RealNamespace.h"
 
 namespace knav::test {
 namespace {
@@ -103,6 +104,18 @@ TEST_F(DialogOpen, PlaceWithoutAPath_IsEnteredAndNeverReturned) {
         user.pick({L"My Computer"}).ok().untilFolder(kMyComputer).cancel();
         EXPECT_EQ(user.run(), IDCANCEL);
     }
+}
+
+TEST_F(DialogOpen, PickedShortcut_GivesTheFileOrEntersTheFolderItLeadsTo) {
+    const CString file = folder.addFile(L"sub\\inner.dwg");
+    addShortcut(folder, L"file.lnk", file);
+    addShortcut(folder, L"folder.lnk", folder.path(L"sub"));
+    TestDialog dialog;
+    dialog.SetForceInitialFolder(folder.path());
+    dialog.SetForceFilterIndex(kAllFiles);
+    EXPECT_EQ(DialogUser(dialog).doubleClick(L"folder").untilFolder(folder.path(L"sub")).cancel().run(), IDCANCEL);
+    EXPECT_EQ(DialogUser(dialog).pick({L"file"}).ok().run(), IDOK);
+    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(file)));
 }
 
 TEST_F(DialogOpen, EnterInTheField_IsOk) {

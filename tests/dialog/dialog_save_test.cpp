@@ -55,18 +55,30 @@ TEST_F(DialogSave, AnyExtensionAccepted_StandsAsTyped) {
 }
 
 TEST_F(DialogSave, ExistingFile_IsReplacedOnlyWhenTheUserAgrees) {
-    const CString file = folder.addFile(L"plan.dwg");
-    prompts.answer(IDNO).answer(IDYES);
-    SaveDialog dialog(folder.path());
-    DialogUser user(dialog);
-    user.type(L"plan").ok().untilAsked(prompts, 1).settle();
-    user.check([] { expectNameReadyToRetype(L"plan"); }).ok();
-    EXPECT_EQ(user.run(), IDOK);
-    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(file)));
-    ASSERT_EQ(prompts.seen().size(), 2u);
-    EXPECT_EQ(prompts.seen()[0].text, messageText(IDS_KNAV_REPLACE, file));
-    EXPECT_EQ(prompts.seen()[0].flags, static_cast<UINT>(MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2));
-    EXPECT_NE(prompts.seen()[0].owner, nullptr);
+    folder.addFile(L"plan.dwg");
+    folder.addFile(L"site .dwg");
+    constexpr std::pair<const wchar_t*, const wchar_t*> rows[] = {
+        {L"plan", L"plan.dwg"},
+        {L"plan .dwg", L"plan.dwg"},
+        {L"site .dwg", L"site .dwg"},
+        {L"\"new\" \"plan\"", L"plan.dwg"},
+    };
+    for (const auto& [typed, asked] : rows) {
+        SCOPED_TRACE(utf8(typed));
+        const std::size_t before = prompts.seen().size();
+        prompts.answer(IDNO).answer(IDYES);
+        SaveDialog dialog(folder.path());
+        dialog.SetMultiSelectAllowed(1);
+        DialogUser user(dialog);
+        user.type(typed).ok().untilAsked(prompts, before + 1).settle();
+        user.check([&typed] { expectNameReadyToRetype(typed); }).ok();
+        EXPECT_EQ(user.run(), IDOK);
+        ASSERT_EQ(prompts.seen().size(), before + 2);
+        const auto& question = prompts.seen()[before];
+        EXPECT_EQ(question.text, messageText(IDS_KNAV_REPLACE, folder.path(asked)));
+        EXPECT_EQ(question.flags, static_cast<UINT>(MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2));
+        EXPECT_NE(question.owner, nullptr);
+    }
 }
 
 TEST_F(DialogSave, NewFileOrUnaskedFor_IsSavedWithoutAWord) {
@@ -233,6 +245,20 @@ TEST_F(DialogFolders, FoldersOnly_ReturnsTheSelectedFolder) {
     clicking.SetFoldersOnly(1);
     EXPECT_EQ(DialogUser(clicking).doubleClick(L"sub").run(), IDOK);
     EXPECT_THAT(clicking.chosen(), ElementsAre(wide(folder.path(L"sub"))));
+}
+
+TEST_F(DialogFolders, FoldersOnly_HostThatMovesOnInsideOk_CanBeAnsweredWithOkAgain) {
+    struct Moving : TestDialog {
+        using TestDialog::TestDialog;
+        int OnFileNameOK() override { return moves-- > 0 ? !NavigateToFolder(target) : TestDialog::OnFileNameOK(); }
+        int moves = 1;
+        CString target;
+    };
+    Moving dialog(folder.path());
+    dialog.SetFoldersOnly(1);
+    dialog.target = folder.path(L"sub");
+    EXPECT_EQ(DialogUser(dialog).ok().untilFolder(dialog.target).settle().ok().run(), IDOK);
+    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(dialog.target)));
 }
 
 TEST_F(DialogFolders, ReturnFolderMode_ReturnsTheCurrentFolderForNothing) {

@@ -117,21 +117,42 @@ TEST_F(DialogSettings, NothingRemembered_OpensInDetails) {
     });
 }
 
-TEST_F(DialogSettings, History_PutsTheLatestFirstAndKeepsEachOnce) {
-    const auto choose = [&](const wchar_t* name) {
-        TestDialog dialog(folder.path());
-        dialog.SetForceInitialFolder(folder.path(L"sub"));
-        dialog.SetForceFilterIndex(kAllFiles);
-        EXPECT_EQ(DialogUser(dialog).type(name).ok().run(), IDOK);
-    };
-    choose(L"b.txt");
-    choose(L"c.txt");
-    TestDialog dialog(folder.path());
+TEST_F(DialogSettings, History_TakesWhatIsThereOnceTheLatestFirst) {
+    folder.addFile(L"sub\\plan");
+    const CString dwg = folder.addFile(L"sub\\plan.dwg");
     const std::wstring b = wide(folder.path(L"sub\\b.txt"));
     const std::wstring c = wide(folder.path(L"sub\\c.txt"));
-    look(dialog, [&] { EXPECT_THAT(historyShown(), ElementsAre(c, b)); });
-    choose(L"b.txt");
-    look(dialog, [&] { EXPECT_THAT(historyShown(), ElementsAre(b, c)); });
+    const std::wstring plan = wide(folder.path(L"sub\\plan"));
+    struct Row {
+        const char* why;
+        std::wstring name;
+        std::vector<std::wstring> after;
+    };
+    const auto expectHistory = [&](int creating, const std::vector<Row>& rows) {
+        TestDialog dialog(folder.path(L"sub"));
+        dialog.SetCreatingFile(creating);
+        look(dialog, [&] {
+            auto& implementation = *static_cast<CNavDialogImp*>(dialog.GetImpObject());
+            implementation.setFileNameText(L"typed");
+            for (const Row& row : rows) {
+                implementation.AddFileNameToMRU(row.name.c_str());
+                EXPECT_EQ(historyShown(), row.after) << row.why;
+                EXPECT_EQ(fileNameText(), L"typed") << row.why;
+            }
+        });
+    };
+    expectHistory(0, {{"a name in the folder shown is made full", L"b.txt", {b}},
+                      {"the latest is the first", c, {c, b}},
+                      {"an earlier one moves up", b, {b, c}},
+                      {"and stays there, in whatever case", wide(CString(b.c_str()).MakeUpper()), {b, c}},
+                      {"a file that is not there", L"missing.txt", {b, c}},
+                      {"nothing", L"", {b, c}},
+                      {"too long a name", std::wstring(255, L'x'), {b, c}},
+                      {"a name without extension", L"plan", {plan, b, c}},
+                      {"which stands for the one with it", wide(dwg), {plan, b, c}}});
+    const std::wstring longName(255, L'x');
+    expectHistory(1, {{"a file to be made need not be there", L"new.dwg", {L"new.dwg"}},
+                      {"nor be short", longName, {longName, L"new.dwg"}}});
 }
 
 TEST_F(DialogSettings, History_IsReadUpToItsFirstGapAndTenEntries) {

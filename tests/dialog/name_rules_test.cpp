@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <platform/Windows.h>
 
+#include "resources/ids.h"
+
 namespace knav {
 namespace {
 
@@ -142,6 +144,20 @@ TEST(NameRules, DriveOfNamesLettersOnly) {
     EXPECT_EQ(driveOf(L"1:\\x"), std::nullopt);
     EXPECT_EQ(driveOf(L"qq:\\x"), std::nullopt);
     EXPECT_EQ(driveOf(L"q"), std::nullopt);
+}
+
+TEST(NameRules, DriveProblemTellsMissingDrivesFromEmptyOnes) {
+    const std::pair<UINT, UINT> rows[] = {
+        {DRIVE_UNKNOWN, IDS_KNAV_NO_DRIVE},
+        {DRIVE_NO_ROOT_DIR, IDS_KNAV_NO_DRIVE},
+        {DRIVE_REMOVABLE, IDS_KNAV_DRIVE_NOT_READY},
+        {DRIVE_CDROM, IDS_KNAV_DRIVE_NOT_READY},
+        {DRIVE_FIXED, 0},
+        {DRIVE_REMOTE, 0},
+    };
+    for (const auto& [type, message] : rows) {
+        EXPECT_EQ(driveProblem(type), message) << type;
+    }
 }
 
 TEST(NameRules, WithExtensionOfTakesItFromThePattern) {

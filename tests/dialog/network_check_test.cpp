@@ -59,10 +59,17 @@ public:
     unsigned long path(const std::wstring& path, std::wstring& message) override {
         return note(L"path " + path, message);
     }
+    unsigned long logIn(HWND, const std::wstring& share, std::wstring&) override {
+        m_loggedInTo = share;
+        return loginAnswer;
+    }
     std::wstring asked() const {
         const std::scoped_lock lock(m_mutex);
         return m_asked;
     }
+    const std::wstring& loggedInTo() const { return m_loggedInTo; }
+
+    unsigned long loginAnswer = NO_ERROR;
 
 private:
     unsigned long note(std::wstring question, std::wstring& message) {
@@ -76,6 +83,7 @@ private:
     const std::wstring m_message;
     mutable std::mutex m_mutex;
     std::wstring m_asked;
+    std::wstring m_loggedInTo;
 };
 
 /// A thread can start late on a machine that has much to do.
@@ -116,11 +124,23 @@ TEST(NetworkCheck, RefusedLocation_TellsInvalidNamesFromUnreachableOnes) {
     }
 }
 
-TEST(NetworkCheck, LocationThatWantsALogin_IsThere) {
-    for (const unsigned long error : {ERROR_ACCESS_DENIED, ERROR_LOGON_FAILURE, ERROR_INVALID_PASSWORD}) {
-        FakeNetwork network(error);
-        EXPECT_TRUE(checkNetworkLocation(network, L"\\\\srv\\plans", kLongEnough).reachable) << error;
+TEST(NetworkCheck, LocationThatWantsALogin_IsThereForWhoLogsIn) {
+    static FakeNetwork network(ERROR_LOGON_FAILURE);
+    setNetworkProbe(&network);
+    setNetworkPatience(kLongEnough);
+    const std::pair<unsigned long, std::optional<unsigned>> rows[] = {
+        {NO_ERROR, std::nullopt}, {ERROR_CANCELLED, kNetworkLoginCancelled}, {ERROR_BAD_NETPATH, 1u}};
+    for (const auto& [error, code] : rows) {
+        network.loginAnswer = error;
+        NetworkAnswers answers;
+        EXPECT_EQ(answers.refusal(L"\\\\srv\\plans\\a.dwg"), nullptr) << "merely asking brings up no window";
+        EXPECT_EQ(answers.refusalAfterLogin(nullptr, L"\\\\srv"), nullptr) << "a server that lists nothing";
+        const NetworkAnswer* const refusal = answers.refusalAfterLogin(nullptr, L"\\\\srv\\plans\\a.dwg");
+        EXPECT_EQ(refusal ? std::optional(refusal->code) : std::nullopt, code) << error;
+        EXPECT_EQ(network.loggedInTo(), L"\\\\srv\\plans");
     }
+    setNetworkPatience(10'000);
+    setNetworkProbe(nullptr);
 }
 
 TEST(NetworkCheck, TextThatIsNoNetworkName_IsInvalidWithoutAsking) {
@@ -136,6 +156,7 @@ class HangingNetwork : public FakeNetwork {
 public:
     HangingNetwork() : FakeNetwork(NO_ERROR), m_letGo(CreateEventW(nullptr, TRUE, FALSE, nullptr)) {}
     unsigned long server(const std::wstring& name, std::wstring& message) override {
+        ++m_questions;
         WaitForSingleObject(m_letGo, INFINITE);
         const unsigned long error = FakeNetwork::server(name, message);
         m_answered = true;
@@ -147,10 +168,12 @@ public:
     }
     void letGo() { SetEvent(m_letGo); }
     bool answered() const { return m_answered; }
+    int questions() const { return m_questions; }
 
 private:
     const HANDLE m_letGo;
     std::atomic<bool> m_answered = false;
+    std::atomic<int> m_questions = 0;
 };
 
 TEST(NetworkCheck, NetworkThatDoesNotAnswer_IsGivenUpInTime) {
@@ -223,6 +246,7 @@ TEST(NetworkCheck, AnswersAreKeptForOneThingTheUserDoesAndShareOnePatience) {
     EXPECT_EQ(there.asked(), L"path \\\\srv\\plans\\a.dwg");
     EXPECT_TRUE(withinReach(L"\\\\SRV\\Plans\\sub\\b.dwg"));
     EXPECT_TRUE(withinReach(L"C:\\plans"));
+    EXPECT_TRUE(withinReach(L"\\\\?\\C:\\plans"));
     EXPECT_EQ(there.asked(), L"path \\\\srv\\plans\\a.dwg") << "the share is known";
     EXPECT_TRUE(withinReach(L"\\\\srv\\plans"));
     EXPECT_EQ(there.asked(), L"share \\\\srv plans");
@@ -235,7 +259,8 @@ TEST(NetworkCheck, AnswersAreKeptForOneThingTheUserDoesAndShareOnePatience) {
     setNetworkPatience(200);
     scope.emplace(answers);
     const ULONGLONG start = GetTickCount64();
-    for (const wchar_t* const name : {L"\\\\one", L"\\\\two", L"\\\\three", L"\\\\four", L"\\\\one"}) {
+    for (const wchar_t* const name :
+         {L"\\\\one", L"\\\\two", L" \"\\\\three\\a\" ", L"//four/a", L"\\\\?\\UNC\\five\\a", L"\\\\one"}) {
         EXPECT_FALSE(withinReach(name));
     }
     EXPECT_LT(GetTickCount64() - start, 700u);
@@ -252,6 +277,7 @@ TEST(NetworkCheck, OptionsOnAServerThatIsGone_AreTakenByTheirTextAlone) {
         test::TestDialog dialog;
         const CString path = L"\\\\gone\\plans\\house.dwg";
         dialog.SetInitialFileName(path);
+        EXPECT_LE(gone.questions(), 1) << "the name, its extension and its folder are of one location";
         dialog.SetForceInitialFolder(path);
         CString name;
         CString extension;
