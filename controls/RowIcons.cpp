@@ -1,6 +1,7 @@
 #include "controls/RowIcons.h"
 
 #include "shell/FolderPaths.h"
+#include "shell/ItemIcons.h"
 #include "shell/ItemList.h"
 
 #include <knav/CNavNode.h>
@@ -65,6 +66,9 @@ void RowIcons::draw(HDC dc, SHSTOCKICONID id, POINT at, SIZE size) {
     info.cbSize = sizeof(info);
     if (isNew && SUCCEEDED(SHGetStockIconInfo(id, SHGSI_ICON | SHGSI_SMALLICON, &info))) {
         icon->second.reset(info.hIcon);
+    }
+    if (isNew && !icon->second && id != SIID_LINK && id != SIID_SHARE) {  // not every system has such pictures
+        icon->second = closedFolderIcon();
     }
     drawIcon(dc, icon->second.get(), at, size);
 }

@@ -10,89 +10,67 @@ namespace {
 constexpr UINT kNormal = 96;
 constexpr UINT kDouble = 192;
 
-struct StateRow {
-    const char* why;
-    ButtonState state;
-    int push;
-    int tool;
-    UINT edge;
-};
-
-class ButtonLook : public testing::TestWithParam<StateRow> {};
-
-TEST_P(ButtonLook, state_choosesThePart) {
-    const StateRow& row = GetParam();
-    EXPECT_EQ(row.push, pushButtonThemeState(row.state)) << row.why;
-    EXPECT_EQ(row.tool, toolButtonThemeState(row.state)) << row.why;
-    EXPECT_EQ(row.edge, toolButtonEdge(row.state)) << row.why;
+TEST(ButtonLook, State_ChoosesThePart) {
+    const struct {
+        const char* why;
+        ButtonState state;
+        int push;
+        int tool;
+        UINT edge;
+    } rows[] = {
+        {"at rest", {}, PBS_NORMAL, TS_NORMAL, 0},
+        {"held down", {.hot = true, .pressed = true}, PBS_PRESSED, TS_PRESSED, BDR_SUNKENOUTER},
+        {"menu open", {.dropped = true, .isDefault = true}, PBS_HOT, TS_PRESSED, BDR_SUNKENOUTER},
+        {"stays down, hot", {.hot = true, .checked = true}, PBS_HOT, TS_HOTCHECKED, BDR_SUNKENOUTER},
+        {"disabled", {.disabled = true, .hot = true, .pressed = true, .checked = true}, PBS_DISABLED, TS_DISABLED, 0},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.push, pushButtonThemeState(row.state)) << row.why;
+        EXPECT_EQ(row.tool, toolButtonThemeState(row.state)) << row.why;
+        EXPECT_EQ(row.edge, toolButtonEdge(row.state)) << row.why;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rows, ButtonLook,
-    testing::Values(StateRow{"at rest", {}, PBS_NORMAL, TS_NORMAL, 0},
-                    StateRow{"under the pointer", {.hot = true}, PBS_HOT, TS_HOT, BDR_RAISEDINNER},
-                    StateRow{"held down", {.hot = true, .pressed = true}, PBS_PRESSED, TS_PRESSED, BDR_SUNKENOUTER},
-                    StateRow{"menu open", {.dropped = true, .isDefault = true}, PBS_HOT, TS_PRESSED, BDR_SUNKENOUTER},
-                    StateRow{"default", {.isDefault = true}, PBS_DEFAULTED, TS_NORMAL, 0},
-                    StateRow{"stays down", {.checked = true}, PBS_NORMAL, TS_CHECKED, BDR_SUNKENOUTER},
-                    StateRow{
-                        "stays down, hot", {.hot = true, .checked = true}, PBS_HOT, TS_HOTCHECKED, BDR_SUNKENOUTER},
-                    StateRow{"disabled whatever else",
-                             {.disabled = true, .hot = true, .pressed = true, .checked = true, .isDefault = true},
-                             PBS_DISABLED,
-                             TS_DISABLED,
-                             0}));
-
-struct HitRow {
-    const char* why;
-    UINT dpi;
-    bool menu;
-    POINT at;
-    ButtonPart expected;
-};
-
-class ComboButtonHit : public testing::TestWithParam<HitRow> {};
-
-TEST_P(ComboButtonHit, point_findsThePart) {
-    const HitRow& row = GetParam();
-    EXPECT_EQ(row.expected, buttonPartAt({0, 0, 100, 24}, row.dpi, row.menu, row.at)) << row.why;
+TEST(ComboButtonParts, Point_FindsThePart) {
+    const struct {
+        const char* why;
+        UINT dpi;
+        bool menu;
+        POINT at;
+        ButtonPart expected;
+    } rows[] = {
+        {"last of the text", kNormal, true, {81, 10}, ButtonPart::Main},
+        {"first of the arrow", kNormal, true, {82, 10}, ButtonPart::Menu},
+        {"the arrow grows with the screen", kDouble, true, {66, 10}, ButtonPart::Menu},
+        {"no menu", kNormal, false, {95, 10}, ButtonPart::Main},
+        {"outside", kNormal, true, {100, 10}, ButtonPart::None},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.expected, buttonPartAt({0, 0, 100, 24}, row.dpi, row.menu, row.at)) << row.why;
+    }
+    EXPECT_EQ(10, mainPartOf({0, 0, 20, 24}, kDouble, true).right) << "a narrow one keeps half for its text";
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rows, ComboButtonHit,
-    testing::Values(HitRow{"text", kNormal, true, {10, 10}, ButtonPart::Main},
-                    HitRow{"last of the text", kNormal, true, {81, 10}, ButtonPart::Main},
-                    HitRow{"first of the arrow", kNormal, true, {82, 10}, ButtonPart::Menu},
-                    HitRow{"the arrow grows with the screen", kDouble, true, {66, 10}, ButtonPart::Menu},
-                    HitRow{"no menu", kNormal, false, {95, 10}, ButtonPart::Main},
-                    HitRow{"outside", kNormal, true, {100, 10}, ButtonPart::None}));
-
-TEST(ComboButtonParts, narrowButton_keepsHalfForItsText) {
-    EXPECT_EQ(10, mainPartOf({0, 0, 20, 24}, kDouble, true).right);
-}
-
-TEST(ToolButtonLayout, pictureAndArrow_areCentredTogether) {
+TEST(ToolButtonLayout, PictureAndArrow_AreCentredTogether) {
     const ToolButtonParts parts = layOutToolButton({0, 0, 40, 24}, {16, 16}, kNormal, true);
     EXPECT_EQ(parts.picture.left, 40 - parts.arrow.right);
     EXPECT_EQ(4, parts.picture.top);
     EXPECT_LT(parts.picture.right, parts.arrow.left);
-
     const ToolButtonParts alone = layOutToolButton({0, 0, 40, 24}, {16, 16}, kNormal, false);
     EXPECT_EQ(12, alone.picture.left);
     EXPECT_TRUE(IsRectEmpty(&alone.arrow));
 }
 
-TEST(DropArrow, anyResolution_isSymmetricAndInside) {
+TEST(DropArrow, AnyResolution_IsSymmetricAndInside) {
     for (const UINT dpi : {96u, 120u, 144u, 192u}) {
         const RECT room{10, 0, 10 + scaled(9, dpi), scaled(24, dpi)};
         const ArrowCorners arrow = dropArrowIn(room, dpi);
         EXPECT_EQ(arrow.corners[2].x - arrow.corners[0].x, arrow.corners[1].x - arrow.corners[2].x) << dpi;
-        EXPECT_GE(arrow.corners[0].x, room.left) << dpi;
-        EXPECT_LT(arrow.corners[1].x, room.right) << dpi;
+        EXPECT_TRUE(arrow.corners[0].x >= room.left && arrow.corners[1].x < room.right) << dpi;
     }
 }
 
-TEST(DropKey, onlyMenuButtons_takeArrowsWithoutAlt) {
+TEST(DropKey, OnlyMenuButtons_TakeArrowsWithoutAlt) {
     EXPECT_TRUE(isDropKey(VK_F4, false, false));
     EXPECT_FALSE(isDropKey(VK_F4, true, false)) << "Alt+F4 closes the dialog";
     EXPECT_TRUE(isDropKey(VK_DOWN, true, false));

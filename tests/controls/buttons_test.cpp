@@ -1,10 +1,13 @@
+#include <uxtheme.h>
+
 #include <gmock/gmock.h>
 
 #include <knav/CNavComboButton.h>
 #include <knav/CNavToolsButton.h>
 
-#include "ButtonHost.h"
-#include "controls/Picture.h"
+#include "controls/Canvas.h"
+#include "controls/ControlHost.h"
+#include "controls/GdiPlus.h"
 #include "resources/ids.h"
 #include "support/ObjectCounts.h"
 
@@ -17,10 +20,19 @@ using testing::Pair;
 
 constexpr LPARAM kOnText = MAKELPARAM(20, 10);
 constexpr LPARAM kOnArrow = MAKELPARAM(95, 10);
+const auto kClicked = Pair(kControlId, BN_CLICKED);
 
-void clickAt(HWND button, LPARAM where) {
-    SendMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, where);
+void clickAt(HWND button, LPARAM where, UINT how = WM_LBUTTONDOWN) {
+    SendMessageW(button, how, MK_LBUTTON, where);
     SendMessageW(button, WM_LBUTTONUP, 0, where);
+}
+
+// Calls `body` with visual styles as they are, and without them.
+void eachStyle(HWND button, const std::function<void()>& body) {
+    body();
+    SCOPED_TRACE("without visual styles");
+    SetWindowTheme(button, L" ", L" ");
+    body();
 }
 
 // --- the push button with a menu -------------------------------------------------------------------------------
@@ -32,50 +44,34 @@ protected:
         m_button.SetMenuSource(&m_host);
     }
 
-    ButtonHost m_host;
+    ControlHost m_host;
     CNavComboButton m_button;
 };
 
-TEST_F(ComboButton, clickOnText_isAnOrdinaryClick) {
+TEST_F(ComboButton, clickOnText_isAnOrdinaryClick_clickOnArrowDropsTheMenu) {
     clickAt(m_button, kOnText);
-    EXPECT_THAT(m_host.takeCommands(), ElementsAre(Pair(kButtonId, BN_CLICKED)));
+    EXPECT_THAT(m_host.takeCommands(), ElementsAre(kClicked));
     EXPECT_THAT(m_host.asked, IsEmpty());
-    EXPECT_EQ(CNavComboButton::NoPart, m_button.GetPressedPart());
-}
-
-TEST_F(ComboButton, clickOnArrow_dropsTheMenuInsteadOfClicking) {
-    WORD partWhileOpen = 0;
-    WORD openWhileOpen = 0;
     m_host.whileOpen = [&] {
-        partWhileOpen = m_button.GetPressedPart();
-        openWhileOpen = m_button.GetMenuOpen();
+        EXPECT_EQ(CNavComboButton::MenuPart, m_button.GetPressedPart());
+        EXPECT_EQ(1, m_button.GetMenuOpen());
     };
     clickAt(m_button, kOnArrow);
     EXPECT_THAT(m_host.takeCommands(), IsEmpty());
-    EXPECT_THAT(m_host.asked, ElementsAre(kButtonId));
-    EXPECT_EQ(CNavComboButton::MenuPart, partWhileOpen);
-    EXPECT_EQ(1, openWhileOpen);
+    EXPECT_THAT(m_host.asked, ElementsAre(kControlId));
     EXPECT_EQ(0, m_button.GetMenuOpen());
     EXPECT_EQ(CNavComboButton::NoPart, m_button.GetPressedPart());
-}
-
-TEST_F(ComboButton, withoutMenuPart_isAPushButtonAllOver) {
     m_button.SetMenuExists(0);
     clickAt(m_button, kOnArrow);
     SendMessageW(m_button, WM_SYSKEYDOWN, VK_DOWN, 0);
-    EXPECT_THAT(m_host.takeCommands(), ElementsAre(Pair(kButtonId, BN_CLICKED)));
-    EXPECT_THAT(m_host.asked, IsEmpty());
+    EXPECT_THAT(m_host.takeCommands(), ElementsAre(kClicked)) << "no arrow: a push button all over";
 }
 
-TEST_F(ComboButton, altDownThenEnter_choosesTheFirstEntry) {
-    m_host.close = ButtonHost::Close::Choose;
+TEST_F(ComboButton, altDownThenEnter_choosesTheFirstEntry_unlessTheMenuWasClosed) {
+    m_host.closingKey = VK_RETURN;
     SendMessageW(m_button, WM_SYSKEYDOWN, VK_DOWN, 0);
     EXPECT_THAT(m_host.takeCommands(), ElementsAre(Pair(static_cast<int>(kFirstCommand), 0)));
-}
-
-TEST_F(ComboButton, clearState_closesAnOpenMenu) {
     m_host.whileOpen = [&] { m_button.ClearState(); };
-    m_host.close = ButtonHost::Close::Choose;
     m_button.DropMenu(1);
     EXPECT_THAT(m_host.takeCommands(), IsEmpty()) << "the menu was gone before the key came";
     EXPECT_EQ(0, m_button.GetMenuOpen());
@@ -86,13 +82,7 @@ TEST_F(ComboButton, disabledOrWithoutMenu_dropsNothing) {
     EXPECT_EQ(0, m_button.DropMenu(0));
     m_button.EnableWindow(FALSE);
     EXPECT_EQ(0, m_button.DropMenu(0));
-    EXPECT_THAT(m_host.asked, ElementsAre(kButtonId)) << "only while it was enabled";
-}
-
-TEST_F(ComboButton, dialogManager_seesARealDefaultButton) {
-    EXPECT_TRUE(SendMessageW(m_button, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON);
-    SendMessageW(m_button, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
-    EXPECT_TRUE(SendMessageW(m_button, WM_GETDLGCODE, 0, 0) & DLGC_UNDEFPUSHBUTTON);
+    EXPECT_THAT(m_host.asked, ElementsAre(kControlId)) << "only while it was enabled";
 }
 
 TEST_F(ComboButton, stateChanges_leaveItAsVisibleAsItWas) {
@@ -106,19 +96,22 @@ TEST_F(ComboButton, stateChanges_leaveItAsVisibleAsItWas) {
 }
 
 TEST_F(ComboButton, eachState_looksDifferent) {
-    const auto normal = paintedBy(m_button);
-    SendMessageW(m_button, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
-    EXPECT_NE(normal, paintedBy(m_button)) << "not the default button";
-    SendMessageW(m_button, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
-    EXPECT_EQ(normal, paintedBy(m_button)) << "and back";
-    m_button.SetMenuExists(0);
-    EXPECT_NE(normal, paintedBy(m_button)) << "no arrow";
-    m_button.SetMenuExists(1);
-    SendMessageW(m_button, BM_SETSTATE, TRUE, 0);
-    EXPECT_NE(normal, paintedBy(m_button)) << "pressed";
-    SendMessageW(m_button, BM_SETSTATE, FALSE, 0);
-    m_button.EnableWindow(FALSE);
-    EXPECT_NE(normal, paintedBy(m_button)) << "disabled";
+    eachStyle(m_button, [this] {
+        const auto normal = paintedBy(m_button);
+        m_button.SendMessage(BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
+        EXPECT_NE(normal, paintedBy(m_button)) << "not the default button";
+        m_button.SendMessage(BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
+        m_button.SetMenuExists(0);
+        EXPECT_NE(normal, paintedBy(m_button)) << "no arrow";
+        m_button.SetMenuExists(1);
+        m_button.SendMessage(BM_SETSTATE, TRUE);
+        EXPECT_NE(normal, paintedBy(m_button)) << "pressed";
+        m_button.SendMessage(BM_SETSTATE, FALSE);
+        m_button.EnableWindow(FALSE);
+        EXPECT_NE(normal, paintedBy(m_button)) << "disabled";
+        m_button.EnableWindow(TRUE);
+        EXPECT_EQ(normal, paintedBy(m_button)) << "and back";
+    });
 }
 
 // --- toolbar buttons -------------------------------------------------------------------------------------------
@@ -128,23 +121,17 @@ protected:
     ToolButton() { m_button.SubclassWindow(m_host.addButton(BS_PUSHBUTTON, L"&Views", {10, 10, 50, 34})); }
 
     ResourcesInUse m_resources;
-    ButtonHost m_host;
+    ControlHost m_host;
     CNavToolsButton m_button;
 };
 
-TEST_F(ToolButton, notAMenuButton_isClickedByMouseSpaceAndEnter) {
+TEST_F(ToolButton, notAMenuButton_isClickedByMouseAndEnter) {
     clickAt(m_button, kOnText);
-    clickAt(m_button, kOnText);
+    clickAt(m_button, kOnText, WM_LBUTTONDBLCLK);
+    EXPECT_THAT(m_host.takeCommands(), ElementsAre(kClicked, kClicked)) << "a double click counts as two";
     SendMessageW(m_button, WM_KEYDOWN, VK_RETURN, 0);
     SendMessageW(m_button, WM_KEYDOWN, VK_RETURN, static_cast<LPARAM>(KF_REPEAT) << 16);
-    EXPECT_EQ(3u, m_host.takeCommands().size()) << "an Enter that is held down clicks once";
-}
-
-TEST_F(ToolButton, doubleClick_countsAsTwo) {
-    clickAt(m_button, kOnText);
-    SendMessageW(m_button, WM_LBUTTONDBLCLK, MK_LBUTTON, kOnText);
-    SendMessageW(m_button, WM_LBUTTONUP, 0, kOnText);
-    EXPECT_THAT(m_host.takeCommands(), ElementsAre(Pair(kButtonId, BN_CLICKED), Pair(kButtonId, BN_CLICKED)));
+    EXPECT_THAT(m_host.takeCommands(), ElementsAre(kClicked)) << "an Enter that is held down clicks once";
 }
 
 TEST_F(ToolButton, menuButton_dropsAtOnceAndByEachKey) {
@@ -159,16 +146,14 @@ TEST_F(ToolButton, menuButton_dropsAtOnceAndByEachKey) {
 }
 
 TEST_F(ToolButton, menuButton_keepsItsKeysFromTheDialog) {
-    MSG key{m_button, WM_KEYDOWN, VK_DOWN, 0, 0, {}};
-    const auto wanted = [&] {
-        return (SendMessageW(m_button, WM_GETDLGCODE, key.wParam, reinterpret_cast<LPARAM>(&key)) & DLGC_WANTMESSAGE) !=
-               0;
+    const auto wants = [this](WPARAM key) {
+        MSG press{m_button, WM_KEYDOWN, key, 0, 0, {}};
+        return (m_button.SendMessage(WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&press)) & DLGC_WANTMESSAGE) != 0;
     };
-    EXPECT_FALSE(wanted()) << "arrows move the focus on from a plain button";
+    EXPECT_FALSE(wants(VK_DOWN)) << "arrows move the focus on from a plain button";
     m_button.SetToolButton(1);
-    EXPECT_TRUE(wanted());
-    key.wParam = VK_ESCAPE;
-    EXPECT_FALSE(wanted());
+    EXPECT_TRUE(wants(VK_DOWN));
+    EXPECT_FALSE(wants(VK_ESCAPE));
 }
 
 TEST_F(ToolButton, picture_replacesTheTextAndFadesWhenDisabled) {
@@ -183,97 +168,36 @@ TEST_F(ToolButton, picture_replacesTheTextAndFadesWhenDisabled) {
     EXPECT_NE(picture, paintedBy(m_button)) << "with an arrow";
     CString name;
     m_button.GetWindowText(name);
-    EXPECT_EQ(L"&Views", std::wstring(name)) << "the name for assistive tools stays";
-}
-
-TEST(PictureTones, onADarkBackground_darkAndLightAreExchanged) {
-    EXPECT_EQ(PictureTone::Plain, toneOn(RGB(240, 240, 240), PictureTone::Plain));
-    EXPECT_EQ(PictureTone::Faded, toneOn(RGB(255, 255, 255), PictureTone::Faded));
-    EXPECT_EQ(PictureTone::Light, toneOn(RGB(0, 0, 0), PictureTone::Plain));
-    EXPECT_EQ(PictureTone::LightFaded, toneOn(RGB(0, 0, 0), PictureTone::Faded));
-    const GdiPlusSession session;
-    Gdiplus::Bitmap dark(1, 1, PixelFormat32bppARGB);
-    dark.SetPixel(0, 0, Gdiplus::Color(255, 0x20, 0x20, 0x20));
-    const zoui::WindowDC screen(nullptr);
-    const zoui::UniqueMemoryDC dc(CreateCompatibleDC(screen));
-    const zoui::UniqueBitmap bitmap(CreateCompatibleBitmap(screen, 1, 1));
-    const zoui::SelectedObject selected(dc.get(), bitmap.get());
-    drawPicture(dc.get(), dark, {0, 0, 1, 1}, PictureTone::Light);
-    EXPECT_GT(GetRValue(GetPixel(dc.get(), 0, 0)), 0xC0);
-}
-
-// In a mirrored context the picture stands where its rectangle is, and is not turned round.
-TEST(PictureTones, mirroredContext_movesThePictureAndLeavesItAsItIs) {
-    const GdiPlusSession session;
-    Gdiplus::Bitmap picture(2, 1, PixelFormat32bppARGB);
-    picture.SetPixel(0, 0, Gdiplus::Color(255, 255, 0, 0));
-    picture.SetPixel(1, 0, Gdiplus::Color(255, 0, 0, 255));
-    const zoui::WindowDC screen(nullptr);
-    const zoui::UniqueMemoryDC dc(CreateCompatibleDC(screen));
-    const zoui::UniqueBitmap bitmap(CreateCompatibleBitmap(screen, 10, 1));
-    const zoui::SelectedObject selected(dc.get(), bitmap.get());
-    SetLayout(dc.get(), LAYOUT_RTL);
-    drawPicture(dc.get(), picture, {1, 0, 3, 1}, PictureTone::Plain);
-    EXPECT_EQ(LAYOUT_RTL, GetLayout(dc.get()) & LAYOUT_RTL);
-    SetLayout(dc.get(), 0);
-    int red = -1;
-    for (int x = 9; x >= 0; --x) {
-        if (GetRValue(GetPixel(dc.get(), x, 0)) > 128)
-            red = x;
-    }
-    EXPECT_GE(red, 6) << "one from the right end";
-    EXPECT_LE(red, 7);
-    EXPECT_GT(GetBValue(GetPixel(dc.get(), red + 1, 0)), 128) << "blue is still right of red";
+    EXPECT_EQ(name, L"&Views") << "the name for assistive tools stays";
 }
 
 TEST_F(ToolButton, directionalPicture_pointsTheOtherWayInAMirroredWindow) {
     m_button.SetPictureId(IDB_KNAV_BACK);
-    const auto ordinary = paintedBy(m_button);
-    m_button.SetPictureDirectional(1);
-    EXPECT_EQ(ordinary, paintedBy(m_button));
+    const auto painted = [this](int directional) {
+        m_button.SetPictureDirectional(directional);
+        return paintedBy(m_button);
+    };
+    EXPECT_EQ(painted(0), painted(1));
     m_button.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
-    m_button.SetPictureDirectional(0);
-    const auto same = paintedBy(m_button);
-    m_button.SetPictureDirectional(1);
-    EXPECT_NE(same, paintedBy(m_button));
+    EXPECT_NE(painted(0), painted(1));
 }
 
 TEST_F(ToolButton, pointer_lightsItUpUntilItLeaves) {
     m_button.SetPictureId(IDB_KNAV_VIEWS);
-    const auto normal = paintedBy(m_button);
-    SendMessageW(m_button, WM_MOUSEMOVE, 0, kOnText);
-    EXPECT_NE(normal, paintedBy(m_button));
-    SendMessageW(m_button, WM_MOUSELEAVE, 0, 0);
-    EXPECT_EQ(normal, paintedBy(m_button));
-}
-
-TEST_F(ToolButton, tip_isMadeWhenFirstNeeded) {
-    m_button.SetTipText(L"Views (Ctrl+V)");
-    const auto tips = [] {
-        int count = 0;
-        EnumThreadWindows(
-            GetCurrentThreadId(),
-            [](HWND window, LPARAM out) -> BOOL {
-                wchar_t name[64];
-                GetClassNameW(window, name, 64);
-                *reinterpret_cast<int*>(out) += lstrcmpiW(name, TOOLTIPS_CLASSW) == 0;
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&count));
-        return count;
-    };
-    EXPECT_EQ(0, tips());
-    SendMessageW(m_button, WM_MOUSEMOVE, 0, kOnText);
-    EXPECT_EQ(1, tips());
-    m_button.DestroyWindow();
-    EXPECT_EQ(0, tips());
+    eachStyle(m_button, [this] {
+        const auto normal = paintedBy(m_button);
+        SendMessageW(m_button, WM_MOUSEMOVE, 0, kOnText);
+        EXPECT_NE(normal, paintedBy(m_button));
+        SendMessageW(m_button, WM_MOUSELEAVE, 0, 0);
+        EXPECT_EQ(normal, paintedBy(m_button));
+    });
 }
 
 TEST(Buttons, madePaintedAndGone_leaveNothingBehind) {
     const ResourcesInUse resources;
     const GdiPlusSession keptStarted;
     const ObjectCounts growth = growthOver(5, [] {
-        ButtonHost host;
+        ControlHost host;
         CNavToolsButton tool;
         CNavComboButton combo;
         tool.SetPictureId(IDB_KNAV_TOOLS);

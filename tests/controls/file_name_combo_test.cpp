@@ -1,4 +1,4 @@
-#include "controls/ComboHost.h"
+#include "controls/ControlHost.h"
 #include "controls/FileNameContext.h"
 
 #include <gmock/gmock.h>
@@ -33,7 +33,7 @@ public:
 class FileNameCombo : public testing::Test {
 protected:
     FileNameCombo() {
-        m_combo.Create(CBS_DROPDOWN | WS_CHILD | WS_VISIBLE, ComboHost::kPlace, &m_host.window, 1);
+        m_combo.Create(CBS_DROPDOWN | WS_CHILD | WS_VISIBLE, kComboPlace, &m_host, kControlId);
         m_combo.SetContext(&m_context);
     }
 
@@ -57,7 +57,7 @@ protected:
         return m_combo.PreTranslateMessage(&press) != FALSE;
     }
 
-    ComboHost m_host;
+    ControlHost m_host;
     Context m_context;
     CNavFileNameComboBox m_combo;
     CNavDataArray m_data;
@@ -65,29 +65,31 @@ protected:
 
 TEST_F(FileNameCombo, EditAndSelection_MakeItDirtyAndStillReachTheDialog) {
     EXPECT_FALSE(m_combo.IsFileNameComboBoxDirty());
+    m_host.takeCommands();
     for (const UINT code : {CBN_EDITCHANGE, CBN_SELCHANGE}) {
         m_combo.SetFileNameComboBoxDirty(0);
-        m_host.window.SendMessage(WM_COMMAND, MAKEWPARAM(1, code), reinterpret_cast<LPARAM>(m_combo.m_hWnd));
+        m_host.SendMessage(WM_COMMAND, MAKEWPARAM(kControlId, code), reinterpret_cast<LPARAM>(m_combo.m_hWnd));
         EXPECT_TRUE(m_combo.IsFileNameComboBoxDirty());
+        EXPECT_EQ(m_host.takeCommands().size(), 1u);
     }
-    EXPECT_THAT(m_host.window.notified, testing::IsSupersetOf({UINT(CBN_EDITCHANGE), UINT(CBN_SELCHANGE)}));
 }
 
-TEST_F(FileNameCombo, SplitsQuotedNames_OnlyWhereSeveralAreAllowed) {
-    CStringArray names;
-    m_combo.SetWindowText(L" \"a\" \"b\" ");
-    EXPECT_EQ(m_combo.GetEditBoxStrings(names), 2);
-    EXPECT_EQ(names[0], L"a");
-    EXPECT_EQ(names[1], L"b");
+TEST_F(FileNameCombo, SeveralNames_AreSplitWhereTheyAreAllowed_AndReplaceWhatIsThere) {
+    m_data.AddData();
+    m_combo.SetWindowText(L" \" a \" \"b\" ");
+    ASSERT_EQ(m_combo.SendFileNameToData(m_data), 1);
+    ASSERT_EQ(m_data.GetCount(), 2);
+    EXPECT_STREQ(m_data.GetData(0)->GetText(), L"a ") << "leading blanks are cut";
     m_context.several = false;
+    CStringArray names;
     EXPECT_EQ(m_combo.GetEditBoxStrings(names), 1);
     m_context.several = true;
     m_combo.SetContext(nullptr);
     EXPECT_EQ(m_combo.GetEditBoxStrings(names), 1);
-    EXPECT_EQ(names[0], L"\"a\" \"b\"");
+    EXPECT_EQ(names[0], L"\" a \" \"b\"");
     m_combo.SetWindowText(L"   ");
-    EXPECT_EQ(m_combo.GetEditBoxStrings(names), 0);
-    EXPECT_EQ(names.GetSize(), 0);
+    EXPECT_EQ(m_combo.SendFileNameToData(m_data), 1);
+    EXPECT_EQ(m_data.GetCount(), 0);
 }
 
 TEST_F(FileNameCombo, SendToData_ClassifiesByTextAndFolder) {
@@ -121,27 +123,6 @@ TEST_F(FileNameCombo, SendToData_ClassifiesByTextAndFolder) {
         EXPECT_STREQ(m_data.GetData(0)->GetExtensionName(), row.extension);
         EXPECT_STREQ(m_data.GetData(0)->GetText(), row.text);
     }
-}
-
-TEST_F(FileNameCombo, SendToData_ReplacesWhatIsThereAndCutsLeadingBlanks) {
-    m_data.AddData();
-    m_combo.SetWindowText(L"\" a \" \"b\"");
-    ASSERT_EQ(m_combo.SendFileNameToData(m_data), 1);
-    ASSERT_EQ(m_data.GetCount(), 2);
-    EXPECT_STREQ(m_data.GetData(0)->GetText(), L"a ");
-    m_combo.SetWindowText(L"  ");
-    EXPECT_EQ(m_combo.SendFileNameToData(m_data), 1);
-    EXPECT_EQ(m_data.GetCount(), 0);
-}
-
-TEST_F(FileNameCombo, SendToData_ItemThatCannotBeMade_KeepsThoseBefore) {
-    class Full : public CNavDataArray {
-    public:
-        CNavData* NewData() override { return GetCount() < 1 ? CNavDataArray::NewData() : nullptr; }
-    } data;
-    m_combo.SetWindowText(L"\"a\" \"b\"");
-    EXPECT_EQ(m_combo.SendFileNameToData(data), 0);
-    EXPECT_EQ(data.GetCount(), 1);
 }
 
 TEST_F(FileNameCombo, SyncToData_NamesFilesOnly) {
@@ -181,13 +162,12 @@ TEST_F(FileNameCombo, SyncToData_NamesFilesOnly) {
 
 TEST_F(FileNameCombo, ArrowKeys_OpenTheListOfAnEmptyFieldOnly) {
     m_combo.AddString(L"old.dwg");
-    m_host.window.ShowWindow(SW_SHOW);
     for (const WPARAM key : {VK_DOWN, VK_UP}) {
         m_combo.SetWindowText(L"a");
         EXPECT_FALSE(press(key));
-        EXPECT_FALSE(m_combo.GetDroppedState());
         m_combo.SetWindowText(L"");
         EXPECT_FALSE(press(key, WM_KEYUP));
+        EXPECT_FALSE(m_combo.GetDroppedState());
         EXPECT_TRUE(press(key));
         EXPECT_TRUE(m_combo.GetDroppedState());
         EXPECT_FALSE(press(key));
@@ -197,7 +177,6 @@ TEST_F(FileNameCombo, ArrowKeys_OpenTheListOfAnEmptyFieldOnly) {
 
 TEST_F(FileNameCombo, Enter_ClosesTheListWithoutChoosingAndSelectsTheText) {
     m_combo.AddString(L"old.dwg");
-    m_host.window.ShowWindow(SW_SHOW);
     m_combo.ShowDropDown();
     m_combo.SetWindowText(L"typed");
     m_combo.SetEditSel(2, 2);

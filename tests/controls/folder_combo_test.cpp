@@ -1,8 +1,8 @@
-#include "controls/ComboHost.h"
+#include "controls/Canvas.h"
+#include "controls/ControlHost.h"
 #include "controls/RowIcons.h"
 #include "shell/ComPtr.h"
 #include "shell/ExtensionItems.h"
-#include "shell/ItemList.h"
 #include "shell/RegisteredExtensions.h"
 #include "support/ObjectCounts.h"
 #include "support/Printers.h"
@@ -14,9 +14,6 @@
 #include <knav/CNavFolderComboBox.h>
 #include <knav/CNavPathname.h>
 #include <knav/NavFolders.h>
-#include <knav/NavNames.h>
-
-#include <platform/GdiOwners.h>
 
 namespace {
 
@@ -24,12 +21,47 @@ using namespace knav;
 using namespace knav::test;
 using testing::ElementsAre;
 
+constexpr int kWidth = 300;
+constexpr int kHeight = 20;
+constexpr DWORD kUntouched = 0x123456;
+
+Canvas drawn(CNavFolderComboBox& combo, int index, UINT state = 0) {
+    Canvas canvas(kWidth, kHeight, kUntouched);
+    const RECT place{0, 0, kWidth, kHeight};
+    const auto id = static_cast<UINT>(index);
+    DRAWITEMSTRUCT item{ODT_COMBOBOX, 1, id, ODA_DRAWENTIRE, state, combo.m_hWnd, canvas.dc(), place, 0};
+    combo.DrawItem(&item);
+    return canvas;
+}
+
+/// Near the right edge, where nothing but the background is.
+DWORD background(const Canvas& canvas) {
+    return canvas.at(kWidth - 3, kHeight / 2);
+}
+
+/// The first column in which the picture shows.
+int firstInk(const Canvas& canvas) {
+    for (int x = 0; x < kWidth; ++x) {
+        for (int y = 4; y < kHeight - 4; ++y) {
+            if (canvas.at(x, y) != background(canvas)) {
+                return x;
+            }
+        }
+    }
+    return -1;
+}
+
+DWORD systemColor(int index) {
+    const COLORREF color = GetSysColor(index);
+    return static_cast<DWORD>(GetRValue(color) << 16 | GetGValue(color) << 8 | GetBValue(color));
+}
+
 class FolderCombo : public testing::Test {
 protected:
     FolderCombo() {
         m_folder.addFolder(L"one\\two");
-        m_combo.Create(CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | WS_CHILD | WS_VISIBLE,
-                       ComboHost::kPlace, &m_host.window, 1);
+        m_combo.Create(CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | WS_CHILD | WS_VISIBLE | WS_VSCROLL,
+                       kComboPlace, &m_host, kControlId);
         m_combo.OnAutoLoad();
     }
 
@@ -40,22 +72,29 @@ protected:
         }
         return found;
     }
+    /// Shows the chain to a folder and selects it.
+    int show(const wchar_t* path) {
+        const int last = m_combo.FillToFolder(parsed(path).get());
+        m_combo.SetCurSel(last);
+        return last;
+    }
+    CString selectedPath() {
+        CNavPathname pathname;
+        CString path;
+        EXPECT_TRUE(m_combo.GetPathname(pathname));
+        pathname.GetFullPath(path);
+        return path.MakeLower();
+    }
+    CString lower(const wchar_t* path) const { return CString(path).MakeLower(); }
+    CNavNode* droppedRoot() {
+        m_combo.ShowDropDown();
+        return m_combo.GetNavTree().GetRootNode();
+    }
 
     ScopedTempFolder m_folder;
-    ComboHost m_host;
+    ControlHost m_host;
     CNavFolderComboBox m_combo;
 };
-
-TEST_F(FolderCombo, AutoLoad_TakesTheSizeOfSmallIcons) {
-    int width = 0;
-    int height = 0;
-    ImageList_GetIconSize(NavGetSystemImageList(), &width, &height);
-    EXPECT_NEAR(m_combo.GetItemHeight(-1), height, 2) << "some systems add the field's margin";
-    EXPECT_EQ(m_combo.GetItemHeight(0), height);
-    MEASUREITEMSTRUCT measure{};
-    m_combo.MeasureItem(&measure);
-    EXPECT_EQ(measure.itemHeight, static_cast<UINT>(height));
-}
 
 TEST_F(FolderCombo, FillToFolder_ShowsTheChainEachOneDeeper) {
     const auto list = parsed(L"C:\\windows\\system32\\drivers");
@@ -65,6 +104,7 @@ TEST_F(FolderCombo, FillToFolder_ShowsTheChainEachOneDeeper) {
     EXPECT_TRUE(NavIsDesktop(m_combo.GetNode(0)->GetID()));
     EXPECT_TRUE(NavIsDrives(m_combo.GetNode(1)->GetID()));
     EXPECT_EQ(m_combo.FindItemByList(list.get()), 5);
+    EXPECT_EQ(m_combo.FindItemByList(parsed(L"C:\\WINDOWS\\SYSTEM32").get()), 4) << "other bytes, same folder";
     EXPECT_EQ(m_combo.FindItemByNode(m_combo.GetNode(3)), 3);
     for (int index = 0; index < 6; ++index) {
         EXPECT_EQ(m_combo.FindParentItemIndex(index), index - 1);
@@ -75,6 +115,7 @@ TEST_F(FolderCombo, FillToFolder_ShowsTheChainEachOneDeeper) {
 }
 
 TEST_F(FolderCombo, WrongArguments_GiveNoneOrNothing) {
+    EXPECT_FALSE(m_combo.RefreshFolderInfo(1)) << "nothing selected";
     m_combo.FillToNode(nullptr);
     EXPECT_EQ(m_combo.GetCount(), 1);
     EXPECT_EQ(m_combo.FindItemByNode(nullptr), -1);
@@ -88,76 +129,21 @@ TEST_F(FolderCombo, WrongArguments_GiveNoneOrNothing) {
     EXPECT_EQ(m_combo.GetCount(), 0);
 }
 
-TEST_F(FolderCombo, StandardHierarchy_RefusesTheChainAndHoldsDrivesAndChain) {
-    const auto list = parsed(m_folder.path(L"one\\two"));
-    const int last = m_combo.FillToFolder(list.get());
-    m_combo.SetStandardHierarchy(1);
-    EXPECT_EQ(m_combo.FillToFolder(list.get()), -1);
-    EXPECT_EQ(m_combo.GetCount(), last + 1);
-    m_combo.FillToNode(m_combo.GetNode(last));
-    EXPECT_GT(m_combo.GetCount(), last + 1);
-    const int found = m_combo.FindItemByList(list.get());
-    ASSERT_GT(found, 0);
-    EXPECT_EQ(m_combo.GetItemIndent(found), last);
-    const int drive = m_combo.FindItemByList(parsed(L"C:\\").get());
-    EXPECT_EQ(m_combo.GetItemIndent(drive), 2);
-    EXPECT_EQ(textsOf(m_combo)[static_cast<std::size_t>(m_combo.FindParentItemIndex(found))], L"one");
-}
-
-TEST_F(FolderCombo, DroppingDown_ShowsEverythingAndKeepsTheFolder_ClosingAllowsChainsAgain) {
-    const auto list = parsed(m_folder.path());
-    m_combo.SetCurSel(m_combo.FillToFolder(list.get()));
-    const int chain = m_combo.GetCount();
-    m_host.window.ShowWindow(SW_SHOW);
-    m_combo.ShowDropDown();
-    EXPECT_GT(m_combo.GetCount(), chain);
-    EXPECT_EQ(m_combo.GetCurSel(), m_combo.FindItemByList(list.get()));
-    EXPECT_GE(m_combo.GetCurSel(), 0);
-    EXPECT_TRUE(m_combo.GetStandardHierarchy());
-    CNavNode* const root = m_combo.GetNavTree().GetRootNode();
-    m_combo.ShowDropDown(FALSE);
-    EXPECT_FALSE(m_combo.GetStandardHierarchy());
-    m_combo.ShowDropDown();
-    EXPECT_EQ(m_combo.GetNavTree().GetRootNode(), root) << "nothing was read again";
-    m_combo.ShowDropDown(FALSE);
-    EXPECT_GT(m_combo.FillToFolder(parsed(L"C:\\windows").get()), 0);
-}
-
-TEST_F(FolderCombo, GetPathname_GivesThePlaceOfTheSelectedFolder) {
-    m_combo.SetCurSel(m_combo.FillToFolder(parsed(m_folder.path()).get()));
-    CNavPathname pathname;
-    ASSERT_TRUE(m_combo.GetPathname(pathname));
-    CString path;
-    pathname.GetFullPath(path);
-    EXPECT_EQ(path.CompareNoCase(m_folder.path()), 0);
-    EXPECT_EQ(pathname.GetType(), CZoUiPathname::Directory);
-
-    m_combo.SetCurSel(0);
-    CNavPathname desktop;
-    ASSERT_TRUE(m_combo.GetPathname(desktop));
-    desktop.GetFullPath(path);
-    wchar_t expected[MAX_PATH];
-    SHGetFolderPathW(nullptr, CSIDL_DESKTOPDIRECTORY, nullptr, 0, expected);
-    EXPECT_EQ(path.CompareNoCase(expected), 0);
-}
-
 // A tree that stands for an internet root shown in place of the network, made of nodes without a shell behind them.
 TEST_F(FolderCombo, ChildrenOfANodeWithDisplayNode_AppearBelowThatNode) {
     CNavTree& tree = m_combo.GetNavTree();
-    const auto special = [](int csidl) { return NavGetSpecialFolderItem(nullptr, csidl); };
-    CNavNode* const root = tree.AddChild(nullptr);
-    root->SetID(special(CSIDL_DESKTOP));
+    const auto id = [](CNavNode* node, int csidl) {
+        node->SetID(NavGetSpecialFolderItem(nullptr, csidl));
+        return node;
+    };
+    CNavNode* const root = id(tree.AddChild(nullptr), CSIDL_DESKTOP);
     root->SetFolder(NavGetDesktopFolder());
-    CNavNode* const internet = tree.AddChild(nullptr);
-    internet->SetID(special(CSIDL_DRIVES));
-    CNavNode* const site = internet->AddChild(nullptr);
-    site->SetID(special(CSIDL_DRIVES));
-    CNavNode* const network = internet->AddNode(nullptr);
-    network->SetID(special(CSIDL_NETWORK));
+    CNavNode* const internet = id(tree.AddChild(nullptr), CSIDL_DRIVES);
+    CNavNode* const site = id(internet->AddChild(nullptr), CSIDL_DRIVES);
+    CNavNode* const network = id(internet->AddNode(nullptr), CSIDL_NETWORK);
     CNavNode* const nameless = internet->AddNode(nullptr);
     nameless->SetID(buildExtensionRootItem(CNavShell(), L"registered by nobody"));
-    CNavNode* const below = nameless->AddChild(nullptr);
-    below->SetID(special(CSIDL_DRIVES));
+    id(nameless->AddChild(nullptr), CSIDL_DRIVES);
     internet->SetDisplayNode(network);
     m_combo.FillFromTree(tree);
     ASSERT_EQ(m_combo.GetCount(), 3);
@@ -192,108 +178,100 @@ TEST_F(FolderCombo, ExtensionRoot_IsFoundByNameInAnyCase) {
     registeredExtensions().RemoveAllData();
 }
 
-TEST_F(FolderCombo, Refresh_FolderStillThere_ReadsItAnewAndKeepsIt) {
-    EXPECT_FALSE(m_combo.RefreshFolderInfo(1)) << "nothing selected";
-    m_combo.SetCurSel(m_combo.FillToFolder(parsed(m_folder.path(L"one\\two")).get()));
-    const int selected = m_combo.GetCurSel();
-    EXPECT_TRUE(m_combo.RefreshFolderInfo(1));
-    EXPECT_EQ(m_combo.GetCurSel(), selected);
-    EXPECT_TRUE(m_combo.RefreshFolderInfo(0));
-    EXPECT_EQ(m_combo.GetCurSel(), selected);
+// --- while the list is dropped down, and drives that come and go -------------------------------------------------
+
+TEST_F(FolderCombo, DroppingDown_ShowsEverythingAndKeepsTheFolder_ReadsAnewOnlyWhatChanged) {
+    const int chain = show(m_folder.path()) + 1;
+    const auto field = drawn(m_combo, chain - 1, ODS_COMBOBOXEDIT).pixels();
+    CNavNode* const root = droppedRoot();
+    EXPECT_GT(m_combo.GetCount(), chain);
+    EXPECT_EQ(selectedPath(), lower(m_folder.path()));
+    EXPECT_EQ(m_combo.GetItemIndent(m_combo.GetCurSel()), chain - 1);
+    EXPECT_EQ(m_combo.FillToFolder(parsed(L"C:\\windows").get()), -1) << "not while everything is shown";
+    EXPECT_EQ(drawn(m_combo, m_combo.GetCurSel(), ODS_COMBOBOXEDIT).pixels(), field) << "the icon was kept";
+    m_combo.ShowDropDown(FALSE);
+    EXPECT_EQ(droppedRoot(), root) << "nothing was read again";
+    CNavNode mark(m_combo.GetNavTree());
+    root->SetDisplayNode(&mark);
+    EXPECT_TRUE(m_combo.RefreshFolderInfo(1)) << "a drive came";
+    EXPECT_TRUE(m_combo.GetDroppedState());
+    EXPECT_EQ(m_combo.GetNavTree().GetRootNode(), root) << "the list in use stays";
+    m_combo.ShowDropDown(FALSE);
+    EXPECT_EQ(droppedRoot()->GetDisplayNode(), nullptr) << "another tree";
+    m_combo.ShowDropDown(FALSE);
+    EXPECT_GT(show(L"C:\\windows"), 0) << "chains are allowed again";
 }
 
-TEST_F(FolderCombo, Refresh_FolderGone_SelectsTheNearestOneAboveAndSaysSo) {
-    const int last = m_combo.FillToFolder(parsed(m_folder.path(L"one\\two")).get());
-    m_combo.SetCurSel(last);
+TEST_F(FolderCombo, DroppingDownNearTheBottomOfTheScreen_EndsAtTheField) {
+    RECT work{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    SetWindowPos(m_host, nullptr, 0, work.bottom - 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    m_combo.ShowDropDown();
+    COMBOBOXINFO info{};
+    m_combo.GetComboBoxInfo(&info);
+    RECT list{};
+    RECT field{};
+    GetWindowRect(info.hwndList, &list);
+    GetWindowRect(m_combo, &field);
+    EXPECT_LT(list.top, field.top);
+    EXPECT_NEAR(list.bottom, field.top, 1);
+}
+
+TEST_F(FolderCombo, Refresh_KeepsTheFolderOrSelectsTheNearestOneAbove) {
+    const int last = show(m_folder.path(L"one\\two"));
+    for (const int rebuild : {1, 0}) {
+        EXPECT_TRUE(m_combo.RefreshFolderInfo(rebuild));
+        EXPECT_EQ(m_combo.GetCurSel(), last);
+    }
     RemoveDirectoryW(m_folder.path(L"one\\two"));
     RemoveDirectoryW(m_folder.path(L"one"));
-    EXPECT_FALSE(m_combo.RefreshFolderInfo(0));
+    EXPECT_FALSE(m_combo.RefreshFolderInfo(0)) << "the view must follow";
     EXPECT_EQ(m_combo.GetCurSel(), last - 2);
-    CNavPathname pathname;
-    CString path;
-    ASSERT_TRUE(m_combo.GetPathname(pathname));
-    pathname.GetFullPath(path);
-    EXPECT_EQ(path.CompareNoCase(m_folder.path()), 0);
+    EXPECT_EQ(selectedPath(), lower(m_folder.path()));
+    m_combo.SetCurSel(0);
+    wchar_t desktop[MAX_PATH];
+    SHGetFolderPathW(nullptr, CSIDL_DESKTOPDIRECTORY, nullptr, 0, desktop);
+    EXPECT_EQ(selectedPath(), lower(desktop));
 }
 
-// A picture of one item: where it differs from the background, column by column.
-class DrawnItem {
-public:
-    DrawnItem(CNavFolderComboBox& combo, int index, UINT state) : m_dc(CreateCompatibleDC(nullptr)) {
-        BITMAPINFO info{{sizeof(BITMAPINFOHEADER), kWidth, -kHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
-        void* bits = nullptr;
-        m_bitmap.reset(CreateDIBSection(m_dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-        m_pixels = static_cast<DWORD*>(bits);
-        std::fill_n(m_pixels, kWidth * kHeight, kUntouched);
-        const SelectedObject select(m_dc.get(), m_bitmap.get());
-        DRAWITEMSTRUCT item{ODT_COMBOBOX,
-                            1,
-                            static_cast<UINT>(index),
-                            ODA_DRAWENTIRE,
-                            state,
-                            combo.m_hWnd,
-                            m_dc.get(),
-                            {0, 0, kWidth, kHeight},
-                            0};
-        combo.DrawItem(&item);
-        GdiFlush();
-    }
+TEST_F(FolderCombo, FillingAndDropping_LeaksNothing) {
+    const ObjectCounts growth = growthOver(10, [&] {
+        show(m_folder.path());
+        m_combo.ShowDropDown();
+        m_combo.ShowDropDown(FALSE);
+    });
+    EXPECT_EQ(growth, ObjectCounts());
+}
 
-    bool untouched() const {
-        return std::all_of(m_pixels, m_pixels + kWidth * kHeight, [](DWORD p) { return p == kUntouched; });
-    }
-    /// Colour of the right edge, where nothing but the background is.
-    COLORREF background() const {
-        const DWORD pixel = m_pixels[kWidth * (kHeight / 2) - 3];
-        return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
-    }
-    /// The first column that shows something else.
-    int firstInk() const {
-        for (int x = 2; x < kWidth - 2; ++x) {
-            for (int y = 2; y < kHeight - 2; ++y) {
-                if (m_pixels[y * kWidth + x] != m_pixels[kWidth * (kHeight / 2) - 3]) {
-                    return x;
-                }
-            }
-        }
-        return -1;
-    }
-
-private:
-    using SelectedObject = zoui::SelectedObject;
-    static constexpr int kWidth = 300;
-    static constexpr int kHeight = 20;
-    static constexpr DWORD kUntouched = 0x00123456;
-    zoui::UniqueMemoryDC m_dc;
-    zoui::UniqueBitmap m_bitmap;
-    DWORD* m_pixels = nullptr;
-};
+// --- drawing ---------------------------------------------------------------------------------------------------
 
 TEST_F(FolderCombo, Draw_ShowsColoursAndIndentation) {
-    m_combo.FillToFolder(parsed(L"C:\\windows").get());
-    EXPECT_TRUE(DrawnItem(m_combo, -1, 0).untouched());
-    EXPECT_EQ(DrawnItem(m_combo, 0, 0).background(), GetSysColor(COLOR_WINDOW));
-    EXPECT_EQ(DrawnItem(m_combo, 0, ODS_SELECTED).background(), GetSysColor(COLOR_HIGHLIGHT));
-    const int atDesktop = DrawnItem(m_combo, 0, 0).firstInk();
-    EXPECT_GE(atDesktop, 2);
-    const int indent = m_combo.GetItemHeight(0);
-    EXPECT_NEAR(DrawnItem(m_combo, 1, 0).firstInk(), atDesktop + indent, 4);
-    EXPECT_NEAR(DrawnItem(m_combo, 2, 0).firstInk(), atDesktop + 2 * indent, 4);
-    EXPECT_NEAR(DrawnItem(m_combo, 2, ODS_COMBOBOXEDIT).firstInk(), atDesktop + 3, 4);
+    show(L"C:\\windows");
+    EXPECT_THAT(drawn(m_combo, -1).pixels(), testing::Each(kUntouched));
+    EXPECT_EQ(background(drawn(m_combo, 0)), systemColor(COLOR_WINDOW));
+    EXPECT_EQ(background(drawn(m_combo, 0, ODS_SELECTED)), systemColor(COLOR_HIGHLIGHT));
+    int indent = 0;
+    ImageList_GetIconSize(NavGetSystemImageList(), &indent, &indent);
+    EXPECT_EQ(m_combo.GetItemHeight(0), indent);
+    const int atDesktop = firstInk(drawn(m_combo, 0));
+    EXPECT_NEAR(atDesktop, 3, 1);
+    EXPECT_NEAR(firstInk(drawn(m_combo, 1)), atDesktop + indent, 4);
+    EXPECT_NEAR(firstInk(drawn(m_combo, 2)), atDesktop + 2 * indent, 4);
+    EXPECT_NEAR(firstInk(drawn(m_combo, 2, ODS_COMBOBOXEDIT)), atDesktop + 3, 4);
 }
 
 // The path and the kind of drive alone decide, so that a volume that cannot be reached holds nothing up.
 TEST(RowIcons, GeneralPictures_StandForNetworkAndRemovableVolumes) {
-    struct Row {
+    constexpr int kItsOwn = -1;
+    const struct {
         const wchar_t* path;
         UINT drive;
-        int expected;  // -1: the location's own
-    };
-    constexpr Row rows[] = {
-        {L"", DRIVE_UNKNOWN, -1},
-        {L"C:\\", DRIVE_FIXED, -1},
-        {L"C:\\plans", DRIVE_FIXED, -1},
-        {L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}", DRIVE_NO_ROOT_DIR, -1},
+        int expected;
+    } rows[] = {
+        {L"", DRIVE_UNKNOWN, kItsOwn},
+        {L"C:\\", DRIVE_FIXED, kItsOwn},
+        {L"C:\\plans", DRIVE_FIXED, kItsOwn},
+        {L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}", DRIVE_NO_ROOT_DIR, kItsOwn},
         {L"N:\\", DRIVE_REMOTE, SIID_DRIVENET},
         {L"N:\\plans", DRIVE_REMOTE, SIID_FOLDER},
         {L"\\\\server\\share", DRIVE_NO_ROOT_DIR, SIID_FOLDER},
@@ -301,20 +279,13 @@ TEST(RowIcons, GeneralPictures_StandForNetworkAndRemovableVolumes) {
         {L"E:\\", DRIVE_REMOVABLE, SIID_DRIVEREMOVE},
         {L"E:\\plans", DRIVE_REMOVABLE, SIID_FOLDER},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(generalPicture(row.path, row.drive).value_or(static_cast<SHSTOCKICONID>(-1)), row.expected)
+    for (const auto& row : rows) {
+        EXPECT_EQ(generalPicture(row.path, row.drive).value_or(static_cast<SHSTOCKICONID>(kItsOwn)), row.expected)
             << utf8(row.path);
     }
-}
-
-TEST_F(FolderCombo, FillingAndDropping_LeaksNothing) {
-    const auto list = parsed(m_folder.path());
-    const ObjectCounts growth = growthOver(10, [&] {
-        m_combo.SetCurSel(m_combo.FillToFolder(list.get()));
-        m_combo.ShowDropDown();
-        m_combo.ShowDropDown(FALSE);
-    });
-    EXPECT_EQ(growth, ObjectCounts());
+    const Canvas canvas(16, 16, kUntouched);
+    RowIcons().draw(canvas.dc(), SIID_DRIVENET, {0, 0}, {16, 16});
+    EXPECT_THAT(canvas.pixels(), testing::Contains(testing::Ne(kUntouched)));
 }
 
 }  // namespace

@@ -1,33 +1,32 @@
-// A window with buttons, for tests.
+// A window with controls, for tests.
 #pragma once
 
 #include <knav/CNavButtonMenuSource.h>
+#include <platform/CComboBox.h>
 #include <platform/CMenu.h>
-#include <platform/CWnd.h>
-#include <platform/GdiOwners.h>
 #include <platform/Resources.h>
 
+#include <functional>
+#include <string>
+#include <utility>
 #include <vector>
-
-#include "controls/GdiPlus.h"
 
 namespace knav::test {
 
-inline constexpr UINT kButtonId = 100;
+inline constexpr UINT kControlId = 100;
 inline constexpr UINT kFirstCommand = 201;
+inline constexpr RECT kComboPlace{0, 0, 200, 300};
 
 /// Records the commands it gets; its menu has two entries, and closes by itself or by choosing the highlighted one.
-class ButtonHost : public CWnd, public CNavButtonMenuSource {
+class ControlHost : public CWnd, public CNavButtonMenuSource {
 public:
-    enum class Close { Escape, Choose };
-
-    ButtonHost() { CreateEx(0, nullptr, L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr); }
-    ~ButtonHost() override { CWnd::DestroyWindow(); }
+    ControlHost() { CreateEx(0, nullptr, L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr); }
+    ~ControlHost() override { CWnd::DestroyWindow(); }
 
     HWND addButton(DWORD style, const wchar_t* text = L"&Open", RECT at = {10, 10, 110, 34}) {
         return CreateWindowExW(0, L"BUTTON", text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, at.left, at.top,
                                at.right - at.left, at.bottom - at.top, m_hWnd,
-                               reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kButtonId)), nullptr, nullptr);
+                               reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kControlId)), nullptr, nullptr);
     }
 
     int PrepareButtonMenu(UINT buttonId, CMenu& menu) override {
@@ -53,21 +52,22 @@ public:
     }
 
     bool hasMenu = true;
-    Close close = Close::Escape;
-    std::function<void()> whileOpen;
+    WPARAM closingKey = VK_ESCAPE;
+    std::function<void()> whileOpen = [] {};
     std::vector<UINT> asked;
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-        m_commands.emplace_back(LOWORD(wParam), HIWORD(wParam));
-        return CWnd::OnCommand(wParam, lParam);
+        const BOOL taken = CWnd::OnCommand(wParam, lParam);
+        if (!taken)
+            m_commands.emplace_back(LOWORD(wParam), HIWORD(wParam));
+        return taken;
     }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_TIMER && wParam == kCloser) {
             KillTimer(kCloser);
-            if (whileOpen)
-                whileOpen();
-            PostMessage(WM_KEYDOWN, close == Close::Choose ? VK_RETURN : VK_ESCAPE);
+            whileOpen();
+            PostMessage(WM_KEYDOWN, closingKey);
         }
         return CWnd::WindowProc(message, wParam, lParam);
     }
@@ -77,27 +77,14 @@ private:
     std::vector<std::pair<int, int>> m_commands;
 };
 
-/// What a window paints, as pixels.
-inline std::vector<DWORD> paintedBy(HWND window) {
-    RECT area{};
-    GetClientRect(window, &area);
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = area.right;
-    info.bmiHeader.biHeight = -area.bottom;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    void* bits = nullptr;
-    const zoui::UniqueMemoryDC dc(CreateCompatibleDC(nullptr));
-    const zoui::UniqueBitmap bitmap(CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-    const zoui::SelectedObject selected(dc.get(), bitmap.get());
-    SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.get()), PRF_CLIENT);
-    GdiFlush();
-    const auto* pixels = static_cast<const DWORD*>(bits);
-    std::vector<DWORD> result(pixels, pixels + area.right * area.bottom);
-    for (DWORD& pixel : result)
-        pixel &= 0xFFFFFF;
-    return result;
+inline std::vector<std::wstring> textsOf(const CComboBox& combo) {
+    std::vector<std::wstring> texts;
+    CString text;
+    for (int index = 0; index < combo.GetCount(); ++index) {
+        combo.GetLBText(index, text);
+        texts.emplace_back(text.view());
+    }
+    return texts;
 }
 
 /// The library's resource module as a resource source.
