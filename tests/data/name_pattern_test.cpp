@@ -17,20 +17,11 @@ struct NameRow {
 TEST(CNavFilter, AllowsNamesByItsPatterns) {
     const NameRow rows[] = {
         {"no patterns allow all", {}, L"a", 1},
-        {"no patterns allow an empty name", {}, L"", 1},
         {"null is never allowed", {}, nullptr, 0},
-        {"null is never allowed by a pattern", {L"*"}, nullptr, 0},
-        {"extension", {L"*.dwg"}, L"plan.dwg", 1},
         {"extension in another case", {L"*.dwg"}, L"PLAN.DWG", 1},
-        {"umlauts in another case", {L"*.\u00E4\u00F6"}, L"x.\u00C4\u00D6", 1},
-        {"the last extension counts", {L"*.dwg"}, L"plan.dwg.bak", 0},
-        {"the extension alone is a name", {L"*.dwg"}, L".dwg", 1},
-        {"without a dot", {L"*.dwg"}, L"dwg", 0},
-        {"dots at the end are part of the name", {L"*.dwg"}, L"plan.dwg.", 0},
         {"second pattern", {L"*.dwg", L"*.dxf"}, L"plan.dxf", 1},
         {"a blank before a pattern is skipped", {L" *.dwg"}, L"plan.dwg", 1},
         {"a blank behind it is not", {L"*.dwg "}, L"plan.dwg", 0},
-        {"*.* needs no dot", {L"*.*"}, L"plan", 1},
         {"double stars vanish", {L"a**b"}, L"ab", 1},
         {"and match nothing", {L"a**b"}, L"axb", 0},
         {"of three one is left", {L"a***b"}, L"axb", 1},
@@ -39,7 +30,6 @@ TEST(CNavFilter, AllowsNamesByItsPatterns) {
         {"an empty pattern allows nothing", {L""}, L"a", 0},
         {"double stars alone neither", {L"**"}, L"a", 0},
         {"added patterns may be lists", {L"*.a;*.b"}, L"x.b", 1},
-        {"question mark", {L"a?c"}, L"abc", 1},
     };
     for (const NameRow& row : rows) {
         SCOPED_TRACE(row.why);

@@ -28,21 +28,20 @@ private:
     int m_made = 0;
 };
 
-class EmptyHandedArray : public CNavArray<Logged> {
+// Makes no element, in one way or the other.
+class PoorArray : public CNavArray<Logged> {
 public:
-    Logged* NewData() override { return nullptr; }
+    explicit PoorArray(bool throws) : m_throws(throws) {}
+    Logged* NewData() override { return m_throws ? throw std::bad_alloc() : nullptr; }
+
+private:
+    bool m_throws;
 };
 
-class ThrowingArray : public CNavArray<Logged> {
-public:
-    Logged* NewData() override { throw std::bad_alloc(); }
-};
-
-TEST(CNavArray, GivesNullForAnIndexOutside) {
+TEST(CNavArray, GivesNullForAnIndexOutsideAndForAnElementThatCannotBeMade) {
     CNavArray<Logged> array;
     Logged* const first = array.AddData();
     Logged* const second = array.AddData();
-    EXPECT_EQ(array.GetCount(), 2);
     EXPECT_EQ(array.GetData(0), first);
     EXPECT_EQ(array.GetData(1), second);
     for (const __int64 outside : {-1LL, 2LL, 1LL << 40, -(1LL << 62)}) {
@@ -52,9 +51,14 @@ TEST(CNavArray, GivesNullForAnIndexOutside) {
     }
     EXPECT_EQ(array.GetCount(), 2);
     EXPECT_EQ(array.IsIndexValid(1), 1);
+    for (const bool throws : {false, true}) {
+        PoorArray poor(throws);
+        EXPECT_EQ(poor.AddData(), nullptr);
+        EXPECT_EQ(poor.GetCount(), 0);
+    }
 }
 
-TEST(CNavArray, DeletesWhatItRemoves) {
+TEST(CNavArray, DeletesWhatItRemovesAndNothingThatTheBaseDoes) {
     std::vector<int> deleted;
     {
         LoggedArray array(deleted);
@@ -64,32 +68,15 @@ TEST(CNavArray, DeletesWhatItRemoves) {
         array.RemoveData(1);
         EXPECT_THAT(deleted, ElementsAre(2));
         EXPECT_EQ(array.GetData(1)->number, 3);
-
         array.RemoveAllData();
         EXPECT_THAT(deleted, ElementsAre(2, 1, 3, 4, 5)) << "in the order of the indices";
         EXPECT_EQ(array.GetCount(), 0);
-
+        const std::unique_ptr<Logged> taken(array.AddData());
         array.AddData();
-        array.AddData();
+        array.RemoveAt(0);
+        EXPECT_EQ(deleted.size(), 5u);
     }
     EXPECT_THAT(deleted, ElementsAre(2, 1, 3, 4, 5, 6, 7)) << "the destructor deletes the rest once";
-}
-
-TEST(CNavArray, LeavesOwnershipToTheCallerOfBaseOperations) {
-    std::vector<int> deleted;
-    LoggedArray array(deleted);
-    const std::unique_ptr<Logged> taken(array.AddData());
-    array.RemoveAt(0);
-    EXPECT_TRUE(deleted.empty());
-}
-
-TEST(CNavArray, StaysAsItWasWhenNoElementCanBeMade) {
-    EmptyHandedArray emptyHanded;
-    EXPECT_EQ(emptyHanded.AddData(), nullptr);
-    EXPECT_EQ(emptyHanded.GetCount(), 0);
-    ThrowingArray throwing;
-    EXPECT_EQ(throwing.AddData(), nullptr);
-    EXPECT_EQ(throwing.GetCount(), 0);
 }
 
 TEST(FileDialogAllowReturnFolderEnabler, HoldsUntilTheLastIsGone) {

