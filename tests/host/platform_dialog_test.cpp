@@ -1,5 +1,4 @@
 // Modal dialogs, driven by messages that they post to themselves.
-#include <platform/CButton.h>
 #include <platform/CDialog.h>
 #include <platform/CEdit.h>
 
@@ -36,18 +35,6 @@ public:
     CEdit m_field;
 };
 
-// Consumes Escape when told to.
-class EscapeEdit : public CEdit {
-public:
-    bool m_consume = false;
-    int m_consumed = 0;
-    BOOL PreTranslateMessage(MSG* message) override {
-        const bool escape = message->message == WM_KEYDOWN && message->wParam == VK_ESCAPE;
-        m_consumed += escape && m_consume;
-        return escape && m_consume;
-    }
-};
-
 class SampleDialog : public CDialog {
 public:
     explicit SampleDialog(CWnd* parent = nullptr) { InitModalIndirect(sampleTemplate().get(), parent); }
@@ -55,7 +42,7 @@ public:
     std::function<void()> onInit = [] {};
     std::function<void()> onStep = [] {};
     std::function<bool(LPARAM)> onIdle = [](LPARAM) { return false; };
-    EscapeEdit m_edit;
+    CEdit m_edit;
     CString m_text;
     bool m_refuseText = false;
 
@@ -64,10 +51,6 @@ public:
         onStep = std::move(step);
         onInit = [this] { PostMessage(WM_STEP); };
         return DoModal();
-    }
-    void press(WPARAM key) {
-        ::PostMessageW(::GetFocus(), WM_KEYDOWN, key, 1);
-        ::PostMessageW(::GetFocus(), WM_KEYUP, key, 0xC0000001);
     }
 
 protected:
@@ -97,7 +80,6 @@ END_MESSAGE_MAP()
 
 TEST(ModalDialog, DisablesItsOwnerAndPutsEverythingBack) {
     OwnerWindow owner;
-    ASSERT_EQ(::GetFocus(), owner.m_field.m_hWnd);
     SampleDialog dialog(&owner.m_field);  // a child as parent stands for its top-level window
     const INT_PTR result = dialog.runWith([&] {
         EXPECT_FALSE(owner.IsWindowEnabled());
@@ -109,14 +91,9 @@ TEST(ModalDialog, DisablesItsOwnerAndPutsEverythingBack) {
     EXPECT_EQ(dialog.m_hWnd, nullptr);
     EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
     EXPECT_EQ(::GetFocus(), owner.m_field.m_hWnd);
-}
-
-TEST(ModalDialog, LeavesADisabledOwnerDisabled) {
-    OwnerWindow owner;
     owner.EnableWindow(FALSE);
-    SampleDialog dialog(&owner);
     EXPECT_EQ(dialog.runWith([&] { dialog.EndDialog(33); }), 33);
-    EXPECT_FALSE(owner.IsWindowEnabled());
+    EXPECT_FALSE(owner.IsWindowEnabled()) << "as it was";
 }
 
 TEST(ModalDialog, RunsAgain) {
@@ -130,13 +107,35 @@ TEST(ModalDialog, RunsAgain) {
               IDOK);
 }
 
-TEST(ModalDialog, WithoutATemplateFailsAndLeavesTheOwnerAlone) {
+TEST(ModalDialog, WhateverGoesWrongFailsItAndLeavesTheOwnerEnabled) {
+    struct Row {
+        const char* why;
+        std::function<void(SampleDialog&)> atInit;
+        std::function<void(SampleDialog&)> whenShown;
+    };
+    const Row rows[] = {
+        {"initialising throws", [](SampleDialog&) { throw std::runtime_error("no data"); }, nullptr},
+        {"destroyed by others", nullptr, [](SampleDialog& dialog) { ::DestroyWindow(dialog.m_hWnd); }},
+        {"destroyed at once", [](SampleDialog& dialog) { ::DestroyWindow(dialog.m_hWnd); }, nullptr},
+        {"the program is to end", nullptr, [](SampleDialog&) { PostQuitMessage(3); }},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.why);
+        OwnerWindow owner;
+        SampleDialog dialog(&owner);
+        dialog.onStep = [&] { row.whenShown(dialog); };
+        dialog.onInit = [&] { row.atInit ? row.atInit(dialog) : void(dialog.PostMessage(WM_STEP)); };
+        EXPECT_EQ(dialog.DoModal(), kDialogFailed);
+        EXPECT_TRUE(owner.IsWindowEnabled());
+    }
+    MSG message{};
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "is let through";
+    EXPECT_EQ(message.wParam, 3u);
+
     OwnerWindow owner;
-    CDialog dialog(4711, &owner);
-    EXPECT_EQ(dialog.DoModal(), kDialogFailed);
+    EXPECT_EQ(CDialog(4711, &owner).DoModal(), kDialogFailed) << "no template";
+    EXPECT_EQ(CDialog(4711, &owner, GetModuleHandleW(L"user32.dll")).DoModal(), kDialogFailed);
     EXPECT_TRUE(owner.IsWindowEnabled());
-    CDialog fromModule(4711, &owner, GetModuleHandleW(L"user32.dll"));
-    EXPECT_EQ(fromModule.DoModal(), kDialogFailed);
 }
 
 TEST(ModalDialog, EndedWhileInitialisingIsNeverShown) {
@@ -147,17 +146,6 @@ TEST(ModalDialog, EndedWhileInitialisingIsNeverShown) {
     dialog.onInit = [&] { dialog.EndDialog(12); };
     EXPECT_EQ(dialog.DoModal(), 12);
     EXPECT_FALSE(shown);
-    EXPECT_TRUE(owner.IsWindowEnabled());
-}
-
-TEST(ModalDialog, FailsWhenItsWindowIsDestroyedByOthers) {
-    OwnerWindow owner;
-    SampleDialog dialog(&owner);
-    EXPECT_EQ(dialog.runWith([&] { ::DestroyWindow(dialog.m_hWnd); }), kDialogFailed);
-    EXPECT_TRUE(owner.IsWindowEnabled());
-    dialog.onInit = [&] { ::DestroyWindow(dialog.m_hWnd); };
-    EXPECT_EQ(dialog.DoModal(), kDialogFailed);
-    EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
 TEST(ModalDialog, SurvivesTheEndOfItsOwner) {
@@ -166,111 +154,69 @@ TEST(ModalDialog, SurvivesTheEndOfItsOwner) {
     EXPECT_EQ(dialog.runWith([&] { owner.reset(); }), kDialogFailed);
 }
 
-TEST(ModalDialog, FailsWhenInitialisingThrows) {
-    OwnerWindow owner;
-    SampleDialog dialog(&owner);
-    dialog.onInit = [] { throw std::runtime_error("no data"); };
-    EXPECT_EQ(dialog.DoModal(), kDialogFailed);
-    EXPECT_TRUE(owner.IsWindowEnabled());
-}
-
 TEST(ModalDialog, KicksIdleUntilThereIsNothingToDo) {
     SampleDialog dialog;
     std::vector<LPARAM> counts;
-    bool visibleFirst = true;
+    bool alwaysVisible = true;
     dialog.onIdle = [&](LPARAM count) {
         counts.push_back(count);
-        visibleFirst = visibleFirst && dialog.IsWindowVisible();
+        alwaysVisible = alwaysVisible && dialog.IsWindowVisible();
         if (counts.size() == 3) {
             dialog.PostMessage(WM_STEP);  // a message starts the count anew
+        } else if (counts.size() == 4) {
+            dialog.EndDialog(IDOK);
         }
         return count < 2;
     };
-    dialog.onStep = [&] {
-        if (counts.size() >= 3) {
-            dialog.onIdle = [&](LPARAM count) {
-                counts.push_back(count);
-                dialog.EndDialog(IDOK);
-                return false;
-            };
-        }
-    };
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_THAT(counts, ElementsAre(0, 1, 2, 0));
-    EXPECT_TRUE(visibleFirst);
+    EXPECT_TRUE(alwaysVisible);
 }
 
-TEST(ModalDialog, TranslatesKeysUnlessAControlConsumesThem) {
-    SampleDialog dialog;
-    EXPECT_EQ(dialog.runWith([&] { dialog.press(VK_ESCAPE); }), IDCANCEL);
-    EXPECT_EQ(dialog.runWith([&] { dialog.press(VK_RETURN); }), IDOK);
-
-    dialog.m_edit.m_consume = true;
-    const INT_PTR result = dialog.runWith([&] {
-        ASSERT_EQ(::GetFocus(), dialog.m_edit.m_hWnd);
-        dialog.press(VK_ESCAPE);
-        dialog.press(VK_TAB);
-        dialog.onStep = [&] { dialog.EndDialog(::GetDlgCtrlID(::GetFocus()) + 100); };
-        dialog.PostMessage(WM_STEP);
-    });
-    EXPECT_EQ(result, IDOK + 100);
-    EXPECT_EQ(dialog.m_edit.m_consumed, 1);
-}
-
-TEST(ModalDialog, LetsTheQuitMessageThrough) {
-    OwnerWindow owner;
-    SampleDialog dialog(&owner);
-    EXPECT_EQ(dialog.runWith([] { PostQuitMessage(3); }), kDialogFailed);
-    MSG message{};
-    EXPECT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
-    EXPECT_EQ(message.wParam, 3u);
-    EXPECT_TRUE(owner.IsWindowEnabled());
+TEST(ModalDialog, TranslatesKeys) {
+    for (const auto& [key, result] : {std::pair{VK_ESCAPE, IDCANCEL}, {VK_RETURN, IDOK}}) {
+        SampleDialog dialog;
+        EXPECT_EQ(dialog.runWith([&] {
+            ::PostMessageW(::GetFocus(), WM_KEYDOWN, VK_TAB, 1);
+            ::PostMessageW(::GetFocus(), WM_KEYDOWN, static_cast<WPARAM>(key), 1);
+        }),
+                  result);
+    }
 }
 
 TEST(ModalDialog, OwnsTheDialogRunFromIt) {
     OwnerWindow owner;
     SampleDialog outer(&owner);
     SampleDialog inner;  // no parent given: the active window owns it
-    HWND innerOwner = nullptr;
-    bool outerDisabled = false;
-    bool outerEnabledAgain = false;
     const INT_PTR result = outer.runWith([&] {
         inner.runWith([&] {
-            innerOwner = ::GetWindow(inner, GW_OWNER);
-            outerDisabled = !outer.IsWindowEnabled();
+            EXPECT_EQ(inner.GetOwner(), &outer);
+            EXPECT_FALSE(outer.IsWindowEnabled());
             inner.EndDialog(IDOK);
         });
-        outerEnabledAgain = outer.IsWindowEnabled() && !owner.IsWindowEnabled() && innerOwner == outer.m_hWnd;
+        EXPECT_TRUE(outer.IsWindowEnabled());
+        EXPECT_FALSE(owner.IsWindowEnabled());
         outer.EndDialog(IDYES);
     });
     EXPECT_EQ(result, IDYES);
-    EXPECT_TRUE(outerDisabled);
-    EXPECT_TRUE(outerEnabledAgain);
 }
 
-TEST(DialogData, MovesBetweenControlsAndMembers) {
+TEST(DialogData, MovesBetweenControlsAndMembersUnlessItIsRefused) {
     SampleDialog dialog;
     dialog.m_text = L"before";
+    dialog.m_refuseText = true;
     dialog.runWith([&] {
         CString shown;
         dialog.m_edit.GetWindowText(shown);
         EXPECT_STREQ(shown, L"before");
         dialog.m_edit.SetWindowText(L"after");
+        dialog.NextDlgCtrl();
+        dialog.SendMessage(WM_COMMAND, IDOK);
+        EXPECT_EQ(::GetFocus(), dialog.m_edit.m_hWnd) << "still open, with the focus on what was refused";
+        dialog.m_refuseText = false;
         dialog.PostMessage(WM_COMMAND, IDOK);
     });
     EXPECT_STREQ(dialog.m_text, L"after");
-}
-
-TEST(DialogData, RefusedValueKeepsTheDialogOpenWithTheFocusOnIt) {
-    SampleDialog dialog;
-    dialog.m_refuseText = true;
-    const INT_PTR result = dialog.runWith([&] {
-        dialog.GotoDlgCtrl(dialog.GetDlgItem(IDOK));
-        dialog.SendMessage(WM_COMMAND, IDOK);
-        EXPECT_EQ(::GetFocus(), dialog.m_edit.m_hWnd);
-        dialog.EndDialog(77);
-    });
-    EXPECT_EQ(result, 77);
 }
 
 TEST(ModelessDialog, LivesUntilItIsDestroyed) {

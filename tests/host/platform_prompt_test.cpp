@@ -6,72 +6,44 @@
 
 namespace {
 
-// Installs a handler for the length of a test.
-class ScopedHandler {
-public:
-    explicit ScopedHandler(ZoPromptHandler handler) : m_previous(ZoSetPromptHandler(std::move(handler))) {}
-    ~ScopedHandler() { ZoSetPromptHandler(m_previous); }
-    ScopedHandler(const ScopedHandler&) = delete;
-    ScopedHandler& operator=(const ScopedHandler&) = delete;
-
-private:
-    ZoPromptHandler m_previous;
-};
-
 TEST(Prompt, HandlerAnswersAndSeesWhatWouldBeShown) {
     ZoPrompt seen;
-    const ScopedHandler handler([&](const ZoPrompt& prompt) {
+    const ZoPromptHandler before = ZoSetPromptHandler([&](const ZoPrompt& prompt) {
         seen = prompt;
         return IDRETRY;
     });
-    EXPECT_EQ(AfxMessageBox(L"Replace it?", MB_RETRYCANCEL), IDRETRY);
+    EXPECT_EQ(ZoMessageBox(GetDesktopWindow(), L"Replace it?", L"Caption", MB_YESNO | MB_DEFBUTTON2), IDRETRY);
     EXPECT_EQ(seen.kind, ZoPromptKind::MessageBox);
     EXPECT_STREQ(seen.text, L"Replace it?");
-    EXPECT_STREQ(seen.caption, L"test_host");
-    EXPECT_EQ(seen.flags, UINT{MB_RETRYCANCEL | MB_ICONQUESTION});
-
-    AfxMessageBox(L"Done", MB_OK);
-    EXPECT_EQ(seen.flags, UINT{MB_OK | MB_ICONEXCLAMATION});
-    AfxMessageBox(L"Done", MB_OK | MB_ICONINFORMATION);
-    EXPECT_EQ(seen.flags, UINT{MB_OK | MB_ICONINFORMATION});
-    ZoMessageBox(GetDesktopWindow(), L"text", L"Caption", MB_YESNO | MB_DEFBUTTON2);
     EXPECT_STREQ(seen.caption, L"Caption");
     EXPECT_EQ(seen.owner, GetDesktopWindow());
     EXPECT_EQ(seen.flags, UINT{MB_YESNO | MB_DEFBUTTON2 | MB_ICONQUESTION});
+    AfxMessageBox(L"Done", MB_OK);
+    EXPECT_STREQ(seen.caption, L"test_host");
+    EXPECT_EQ(seen.flags, UINT{MB_OK | MB_ICONEXCLAMATION});
+    AfxMessageBox(L"Done", MB_OK | MB_ICONINFORMATION);
+    EXPECT_EQ(seen.flags, UINT{MB_OK | MB_ICONINFORMATION});
+    ZoSetPromptHandler(before);
 }
 
 TEST(Prompt, IsShownWhenTheHandlerPassesOrFails) {
-    int shown = 0;
-    const auto show = [&](const ZoPrompt& prompt) {
-        ++shown;
-        return prompt.text == L"text" ? IDNO : 0;
+    const ZoPromptHandler handlers[] = {
+        nullptr,
+        [](const ZoPrompt&) { return std::nullopt; },
+        [](const ZoPrompt&) -> std::optional<int> { throw std::runtime_error("broken"); },
     };
-    ZoPrompt prompt;
-    prompt.text = L"text";
-    {
-        const ScopedHandler handler(nullptr);
-        EXPECT_EQ(ZoAsk(prompt, show), IDNO);
+    const ZoPromptHandler before = ZoSetPromptHandler(nullptr);
+    for (const ZoPromptHandler& handler : handlers) {
+        ZoSetPromptHandler(handler);
+        EXPECT_EQ(ZoAsk(ZoPrompt{}, [](const ZoPrompt&) { return IDNO; }), IDNO);
     }
-    {
-        const ScopedHandler handler([](const ZoPrompt&) { return std::nullopt; });
-        EXPECT_EQ(ZoAsk(prompt, show), IDNO);
-    }
-    {
-        const ScopedHandler handler([](const ZoPrompt&) -> std::optional<int> { throw std::runtime_error("broken"); });
-        EXPECT_EQ(ZoAsk(prompt, show), IDNO);
-    }
-    EXPECT_EQ(shown, 3);
-}
-
-TEST(Prompt, HandlerMayAskAndReplaceItself) {
-    int outerCalls = 0;
-    const ScopedHandler handler([&](const ZoPrompt&) -> std::optional<int> {
-        ++outerCalls;
+    // A handler may ask, and replace itself.
+    ZoSetPromptHandler([](const ZoPrompt&) -> std::optional<int> {
         ZoSetPromptHandler([](const ZoPrompt&) { return IDNO; });
-        return AfxMessageBox(L"inner");
+        return AfxMessageBox(L"inner") == IDNO ? IDYES : IDCANCEL;
     });
-    EXPECT_EQ(AfxMessageBox(L"outer"), IDNO);
-    EXPECT_EQ(outerCalls, 1);
+    EXPECT_EQ(AfxMessageBox(L"outer"), IDYES);
+    ZoSetPromptHandler(before);
 }
 
 /// Looks for a box over `owner`, notes where it is, and closes it.

@@ -13,16 +13,10 @@ TEST(String, FindAnswersThePositionOrMinusOne) {
         int expected;
     };
     constexpr Row kRows[] = {
-        {"first of several", L"abcabc", L"bc", 0, 1},
-        {"from the start position on", L"abcabc", L"bc", 2, 4},
-        {"at the start position", L"abcabc", L"bc", 4, 4},
-        {"case counts", L"abc", L"B", 0, -1},
-        {"negative start is the beginning", L"abc", L"a", -5, 0},
-        {"start behind the end", L"abc", L"c", 9, -1},
-        {"empty text is found at the start position", L"abc", L"", 2, 2},
-        {"null is empty text", L"abc", nullptr, 0, 0},
-        {"in empty text", L"", L"a", 0, -1},
-        {"overlapping occurrence", L"aaab", L"aab", 0, 1},
+        {"first of several", L"abcabc", L"bc", 0, 1},  {"at the start position", L"abcabc", L"bc", 4, 4},
+        {"case counts", L"abc", L"B", 0, -1},          {"negative start is the beginning", L"abc", L"a", -5, 0},
+        {"start behind the end", L"abc", L"c", 9, -1}, {"empty text is found at the start position", L"abc", L"", 2, 2},
+        {"null is empty text", L"abc", nullptr, 0, 0}, {"in empty text", L"", L"a", 0, -1},
     };
     for (const Row& row : kRows) {
         EXPECT_EQ(CString(row.text).Find(row.searched, row.start), row.expected) << row.why;
@@ -30,7 +24,6 @@ TEST(String, FindAnswersThePositionOrMinusOne) {
     EXPECT_EQ(CString(L"a.b.c").ReverseFind(L'.'), 3);
     EXPECT_EQ(CString(L"abc").ReverseFind(L'.'), -1);
     EXPECT_EQ(CString(L"abc").Find(L'c', 3), -1);
-    EXPECT_EQ(CString(L"a/b\\c").FindOneOf(L"\\/"), 1);
 }
 
 TEST(String, ReplaceCountsAndDoesNotSearchWhatItInserted) {
@@ -43,11 +36,9 @@ TEST(String, ReplaceCountsAndDoesNotSearchWhatItInserted) {
         const wchar_t* expected;
     };
     constexpr Row kRows[] = {
-        {"every occurrence", L"a|b|c", L"|", L"--", 2, L"a--b--c"},
         {"replacement contains the searched text", L"aa", L"a", L"aa", 2, L"aaaa"},
         {"null removes", L"xaxb", L"x", nullptr, 2, L"ab"},
         {"empty searched text", L"abc", L"", L"x", 0, L"abc"},
-        {"no occurrence", L"abc", L"d", L"x", 0, L"abc"},
         {"occurrences do not overlap", L"aaa", L"aa", L"b", 1, L"ba"},
         {"whole text", L"abc", L"abc", L"", 1, L""},
     };
@@ -59,25 +50,15 @@ TEST(String, ReplaceCountsAndDoesNotSearchWhatItInserted) {
     CString text(L"a|b|");
     EXPECT_EQ(text.Replace(L'|', L'\0'), 2);
     EXPECT_EQ(text.GetLength(), 4);
-    EXPECT_EQ(text.Replace(L'a', L'a'), 0);
     EXPECT_EQ(text.Remove(L'\0'), 2);
     EXPECT_STREQ(text, L"ab");
 }
 
 TEST(String, PartsAreClampedToTheText) {
     const CString text(L"abcde");
-    EXPECT_STREQ(text.Left(2), L"ab");
-    EXPECT_STREQ(text.Left(-1), L"");
-    EXPECT_STREQ(text.Left(9), L"abcde");
-    EXPECT_STREQ(text.Right(2), L"de");
-    EXPECT_STREQ(text.Right(9), L"abcde");
-    EXPECT_STREQ(text.Right(-1), L"");
-    EXPECT_STREQ(text.Mid(3), L"de");
-    EXPECT_STREQ(text.Mid(-2), L"abcde");
-    EXPECT_STREQ(text.Mid(9), L"");
-    EXPECT_STREQ(text.Mid(1, 2), L"bc");
-    EXPECT_STREQ(text.Mid(4, 9), L"e");
-    EXPECT_STREQ(text.Mid(1, -1), L"");
+    EXPECT_EQ(text.Left(2) + L"|" + text.Left(-1) + L"|" + text.Left(9), L"ab||abcde");
+    EXPECT_EQ(text.Mid(3) + L"|" + text.Mid(-2) + L"|" + text.Mid(9), L"de|abcde|");
+    EXPECT_EQ(text.Mid(1, 2) + L"|" + text.Mid(4, 9) + L"|" + text.Mid(1, -1), L"bc|e|");
     EXPECT_EQ(text[4], L'e');
     EXPECT_EQ(text.GetAt(5), L'\0');
     EXPECT_EQ(text.GetAt(-1), L'\0');
@@ -90,38 +71,20 @@ TEST(String, TrimCutsWhatBelongsToTheSetOnly) {
         const wchar_t* set;  // null: white space
         const wchar_t* left;
         const wchar_t* right;
-        const wchar_t* both;
     };
     constexpr Row kRows[] = {
-        {"white space of every kind", L" \t\r\na b\u00A0 ", nullptr, L"a b\u00A0 ", L" \t\r\na b", L"a b"},
-        {"only white space", L" \t ", nullptr, L"", L"", L""},
-        {"any character of a set", L"x.ya.x", L".xy", L"a.x", L"x.ya", L"a"},
-        {"empty set", L" a ", L"", L" a ", L" a ", L" a "},
+        {"white space of every kind", L" \t\r\na b\u00A0 ", nullptr, L"a b\u00A0 ", L" \t\r\na b"},
+        {"any character of a set", L"x.ya.x", L".xy", L"a.x", L"x.ya"},
+        {"empty set", L" a ", L"", L" a ", L" a "},
     };
     for (const Row& row : kRows) {
         CString left(row.text);
         CString right(row.text);
-        CString both(row.text);
         EXPECT_STREQ(row.set ? left.TrimLeft(row.set) : left.TrimLeft(), row.left) << row.why;
         EXPECT_STREQ(row.set ? right.TrimRight(row.set) : right.TrimRight(), row.right) << row.why;
-        EXPECT_STREQ(row.set ? both.Trim(row.set) : both.Trim(), row.both) << row.why;
     }
-    EXPECT_STREQ(CString(L"\\a\\\\").TrimRight(L'\\'), L"\\a");
+    EXPECT_STREQ(CString(L" a ").Trim(), L"a");
     EXPECT_STREQ(CString(L"00100").Trim(L'0'), L"1");
-}
-
-TEST(String, InsertAndDeleteAnswerTheNewLength) {
-    CString text(L"ad");
-    EXPECT_EQ(text.Insert(1, L"bc"), 4);
-    EXPECT_EQ(text.Insert(99, L'e'), 5);
-    EXPECT_EQ(text.Insert(-3, L"_"), 6);
-    EXPECT_STREQ(text, L"_abcde");
-    EXPECT_EQ(text.Delete(0), 5);
-    EXPECT_EQ(text.Delete(3, 99), 3);
-    EXPECT_EQ(text.Delete(9), 3);
-    EXPECT_STREQ(text, L"abc");
-    EXPECT_EQ(text.Insert(1, text), 6);  // its own text
-    EXPECT_STREQ(text, L"aabcbc");
 }
 
 TEST(String, OperationsMayReferToTheStringItself) {
@@ -130,8 +93,13 @@ TEST(String, OperationsMayReferToTheStringItself) {
     EXPECT_STREQ(text, L"abab");
     text = text.GetString() + 1;
     EXPECT_STREQ(text, L"bab");
+    EXPECT_EQ(text.Insert(1, text), 6);
+    EXPECT_STREQ(text, L"bbabab");
+    EXPECT_EQ(text.Insert(99, L'e') + text.Insert(-3, L"_"), 7 + 8);
+    EXPECT_EQ(text.Delete(0) + text.Delete(2, 99) + text.Delete(9), 7 + 2 + 2);
+    EXPECT_STREQ(text, L"bb");
     text.Format(L"<%s%s>", text, text);
-    EXPECT_STREQ(text, L"<babbab>");
+    EXPECT_STREQ(text, L"<bbbb>");
     text.Replace(text, L"x");
     EXPECT_STREQ(text, L"x");
     text.TrimLeft(text);
@@ -143,33 +111,21 @@ TEST(String, FormatTakesWideTextStringsAndNumbers) {
     const wchar_t array[] = L"array";
     text.Format(L"%s %s %d %u %I64d %c %%", CString(L"string"), array, -1, 0xFFFFFFFFu, INT64_C(1) << 40, L'c');
     EXPECT_STREQ(text, L"string array -1 4294967295 1099511627776 c %");
-
-    const CString longText(L'x', 5000);
-    text.Format(L"%s!", longText);
-    EXPECT_EQ(text.GetLength(), 5001);
-    EXPECT_EQ(text[5000], L'!');
-
-    text.Format(L"");
-    EXPECT_TRUE(text.IsEmpty());
-    text = L"old";
+    text.Format(L"%s!", CString(L'x', 5000));
+    EXPECT_EQ(text, CString(L'x', 5000) + L"!");
     text.Format(0xFFFFu, 1);  // no such string resource
     EXPECT_TRUE(text.IsEmpty());
 }
 
-TEST(String, ComparisonWithoutCaseCoversOtherLanguages) {
+TEST(String, ComparesWithAndWithoutCase) {
     EXPECT_EQ(CString(L"ZEICHNUNG\u00C4").CompareNoCase(L"zeichnung\u00E4"), 0);
     EXPECT_LT(CString(L"abc").CompareNoCase(L"ABD"), 0);
     EXPECT_GT(CString(L"abc").CompareNoCase(L"AB"), 0);
     EXPECT_EQ(CString().CompareNoCase(nullptr), 0);
     EXPECT_LT(CString(L"B").Compare(L"a"), 0);
-    EXPECT_GT(CString(L"abc").Compare(L"ab"), 0);
+    EXPECT_STREQ(CString(L"\u00E4b").MakeUpper(), L"\u00C4B");
+    EXPECT_STREQ(CString(L"\u00C4B").MakeLower(), L"\u00E4b");
 
-    CString text(L"\u00E4b");
-    EXPECT_STREQ(text.MakeUpper(), L"\u00C4B");
-    EXPECT_STREQ(text.MakeLower(), L"\u00E4b");
-}
-
-TEST(String, EqualityAndOrderWorkInBothDirections) {
     const CString text(L"b");
     const wchar_t* const null = nullptr;
     EXPECT_TRUE(text == L"b" && L"b" == text && text != L"B" && L"B" != text);
@@ -190,7 +146,6 @@ TEST(String, BufferIsCutWhereTheWriterStopped) {
     std::copy_n(L"a\0bc", 4, buffer);
     text.ReleaseBuffer(3);
     EXPECT_EQ(text.view(), std::wstring_view(L"a\0b", 3));
-
     text.GetBuffer(2);
     text.ReleaseBuffer(99);  // never beyond the buffer
     EXPECT_EQ(text.GetLength(), 3);

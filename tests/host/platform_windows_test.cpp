@@ -2,18 +2,14 @@
 #include <platform/CEdit.h>
 #include <platform/CStatic.h>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <memory>
 #include <stdexcept>
-#include <string>
 #include <thread>
-#include <vector>
 
 namespace {
-
-using testing::ElementsAre;
 
 constexpr RECT kPlace{0, 0, 100, 50};
 
@@ -35,22 +31,19 @@ private:
 // Runs a function for WM_APP, and counts what it hears.
 class Probe : public CWnd {
 public:
-    std::function<void()> action;
+    std::function<void()> action = [] {};
     int ended = 0;
-    std::vector<UINT> messages;
+    UINT firstMessage = WM_NULL;
 
     LRESULT onAction(WPARAM, LPARAM) {
-        action();
+        const auto run = action;  // a copy: it may delete this object
+        run();
         return 5;
-    }
-    BOOL PreTranslateMessage(MSG*) override {
-        action();
-        return FALSE;
     }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        messages.push_back(message);
+        firstMessage = firstMessage == WM_NULL ? message : firstMessage;
         return CWnd::WindowProc(message, wParam, lParam);
     }
     void PostNcDestroy() override { ++ended; }
@@ -64,22 +57,18 @@ BOOL createPopup(CWnd& window) {
     return window.CreateEx(0, nullptr, L"", WS_POPUP, kPlace, nullptr, 0);
 }
 
-TEST(WindowLifetime, ObjectThatMadeItsWindowTakesItAlong) {
-    HWND handle = nullptr;
+TEST(WindowLifetime, WindowEndsWithTheObjectThatMadeItAndWithNoOther) {
+    HWND made = nullptr;
     {
         CWnd window;
         ASSERT_TRUE(createPopup(window));
-        handle = window.m_hWnd;
+        made = window.m_hWnd;
     }
-    EXPECT_FALSE(IsWindow(handle));
-}
-
-TEST(WindowLifetime, SubclassedAndAttachedWindowsOutliveTheirObjects) {
+    EXPECT_FALSE(IsWindow(made));
     const RawWindow raw;
     {
         Probe probe;
         ASSERT_TRUE(probe.SubclassWindow(raw));
-        probe.action = [] {};
         EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 5);
     }
     EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 0);
@@ -120,65 +109,45 @@ TEST(WindowLifetime, ObjectMayBeDeletedInItsOwnHandler) {
     const RawWindow raw;
     auto subclassing = std::make_unique<Probe>();
     subclassing->SubclassWindow(raw);
-    subclassing->action = [&] { subclassing.reset(); };
-    // The function is a member of the deleted object, so it runs from a copy.
-    const auto run = std::exchange(subclassing->action, nullptr);
-    subclassing->action = [&] {
-        const auto copy = run;
-        copy();
-    };
+    subclassing->action = [&object = subclassing] { object.reset(); };
     EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 5);
     EXPECT_EQ(subclassing, nullptr);
     EXPECT_TRUE(IsWindow(raw));
     EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 0);
 }
 
+// Refuses to be created, and deletes itself whenever its window ends.
 class SelfDeleting : public CWnd {
 public:
-    explicit SelfDeleting(bool& deleted, int createResult) : m_deleted(deleted), m_createResult(createResult) {}
-    int OnCreate(CREATESTRUCTW*) { return m_createResult; }
-    LRESULT onDestroy(WPARAM, LPARAM) {
-        DestroyWindow();
-        return 6;
-    }
+    explicit SelfDeleting(int& deleted) : m_deleted(deleted) {}
+    int OnCreate(CREATESTRUCTW*) { return -1; }
 
 protected:
     void PostNcDestroy() override {
-        m_deleted = true;
+        ++m_deleted;
         delete this;
     }
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool& m_deleted;
-    int m_createResult;
+    int& m_deleted;
 };
 BEGIN_MESSAGE_MAP(SelfDeleting, CWnd)
 ON_WM_CREATE()
-ON_MESSAGE(WM_APP, &SelfDeleting::onDestroy)
 END_MESSAGE_MAP()
 
-TEST(WindowLifetime, SelfDeletingObjectIsGoneWithItsWindow) {
-    bool deleted = false;
-    auto* const window = new SelfDeleting(deleted, 0);
-    ASSERT_TRUE(createPopup(*window));
-    EXPECT_EQ(window->SendMessage(WM_APP), 6);
-    EXPECT_TRUE(deleted);
-}
-
 TEST(WindowLifetime, RefusedCreationEndsASelfDeletingObjectOnce) {
-    bool deleted = false;
-    EXPECT_FALSE(createPopup(*new SelfDeleting(deleted, -1)));
-    EXPECT_TRUE(deleted);
+    int deleted = 0;
+    EXPECT_FALSE(createPopup(*new SelfDeleting(deleted)));
+    EXPECT_EQ(deleted, 1);
 }
 
 TEST(WindowCreation, ObjectHearsTheFirstMessageOfASystemClass) {
     CWnd parent;
     createPopup(parent);
     Probe probe;
-    probe.action = [] {};
     ASSERT_TRUE(probe.CreateEx(0, WC_COMBOBOXW, nullptr, WS_CHILD | CBS_DROPDOWN, kPlace, &parent, 3));
-    EXPECT_EQ(probe.messages.front(), UINT{WM_NCCREATE});
+    EXPECT_EQ(probe.firstMessage, UINT{WM_NCCREATE});
     EXPECT_EQ(probe.GetDlgCtrlID(), 3);
     // The edit field inside the combo box is not the object's window.
     EXPECT_EQ(CWnd::FromHandlePermanent(::GetWindow(probe, GW_CHILD)), nullptr);
@@ -210,7 +179,6 @@ TEST(Subclassing, EndsInTheMiddleOfOthers) {
     SetWindowSubclass(raw, addToResult, 1, 10);
     Probe probe;
     probe.SubclassWindow(raw);
-    probe.action = [] {};
     SetWindowSubclass(raw, addToResult, 2, 100);
     EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 105);
     EXPECT_EQ(probe.UnsubclassWindow(), static_cast<HWND>(raw));
@@ -227,7 +195,6 @@ TEST(Subclassing, EndsAndBeginsAnewBelowAnotherProcedure) {
     const RawWindow raw;
     Probe probe;
     ASSERT_TRUE(probe.SubclassWindow(raw));
-    probe.action = [] {};
     g_procedureBelow =
         reinterpret_cast<WNDPROC>(SetWindowLongPtrW(raw, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&addTen)));
     EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 15);
@@ -235,7 +202,6 @@ TEST(Subclassing, EndsAndBeginsAnewBelowAnotherProcedure) {
     EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 10);
     Probe second;
     ASSERT_TRUE(second.SubclassWindow(raw));
-    second.action = [] {};
     EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 15);
     ::DestroyWindow(raw);
     EXPECT_EQ(second.m_hWnd, nullptr);
@@ -264,44 +230,45 @@ TEST(WindowFromHandle, GivesTheObjectOrOneTemporary) {
 
 class Consumer : public CWnd {
 public:
-    Consumer(const char* name, std::vector<std::string>& log) : m_name(name), m_log(log) {}
+    explicit Consumer(int& log) : m_log(log) {}
     std::function<BOOL()> answer = [] { return FALSE; };
     BOOL PreTranslateMessage(MSG*) override {
-        m_log.push_back(m_name);
+        m_log = 10 * m_log + GetDlgCtrlID();
         return answer();
     }
 
 private:
-    std::string m_name;
-    std::vector<std::string>& m_log;
+    int& m_log;  // a digit for each window that was asked
 };
 
 TEST(PreTranslate, WalksFromTheWindowUpToTheStop) {
-    std::vector<std::string> log;
-    Consumer top("top", log);
-    Consumer middle("middle", log);
-    Consumer inner("inner", log);
+    int log = 0;
+    CWnd top;
+    Consumer outer(log);
+    Consumer middle(log);
+    Consumer inner(log);
     createPopup(top);
-    middle.Create(nullptr, L"", 0, kPlace, &top, 1);
-    inner.Create(nullptr, L"", 0, kPlace, &middle, 1);
+    outer.Create(nullptr, L"", 0, kPlace, &top, 1);
+    middle.Create(nullptr, L"", 0, kPlace, &outer, 2);
+    inner.Create(nullptr, L"", 0, kPlace, &middle, 3);
     const RawWindow withoutObject(L"Static", inner);
     MSG message{withoutObject, WM_KEYDOWN, VK_TAB, 0, 0, {}};
-
-    EXPECT_FALSE(CWnd::WalkPreTranslateTree(top, &message));
-    EXPECT_THAT(log, ElementsAre("inner", "middle", "top"));
-    log.clear();
-    EXPECT_FALSE(CWnd::WalkPreTranslateTree(middle, &message));
-    EXPECT_THAT(log, ElementsAre("inner", "middle"));
-    log.clear();
+    const auto walk = [&](HWND stop) {
+        log = 0;
+        return CWnd::WalkPreTranslateTree(stop, &message);
+    };
+    EXPECT_FALSE(walk(outer));
+    EXPECT_EQ(log, 321);
+    EXPECT_FALSE(walk(middle));
+    EXPECT_EQ(log, 32);
     middle.answer = [] { return TRUE; };
-    EXPECT_TRUE(CWnd::WalkPreTranslateTree(top, &message));
-    EXPECT_THAT(log, ElementsAre("inner", "middle"));
-    log.clear();
+    EXPECT_TRUE(walk(outer));
+    EXPECT_EQ(log, 32);
     inner.answer = []() -> BOOL { throw std::runtime_error("broken"); };
-    EXPECT_TRUE(CWnd::WalkPreTranslateTree(top, &message));
-    EXPECT_THAT(log, ElementsAre("inner"));
+    EXPECT_TRUE(walk(outer));
+    EXPECT_EQ(log, 3);
     inner.answer = [&] { return middle.DestroyWindow() ? FALSE : TRUE; };
-    EXPECT_FALSE(CWnd::WalkPreTranslateTree(top, &message));
+    EXPECT_FALSE(walk(outer));
 }
 
 }  // namespace

@@ -19,18 +19,21 @@ protected:
     RyRegKey m_key;
 };
 
-TEST_F(RegistryTest, TextAndNumberComeBackAsWritten) {
+TEST_F(RegistryTest, ValuesComeBackAsWritten) {
     EXPECT_EQ(ryRegSetValue(m_key.get(), L"text", CString(L"\x00FC plan")), ERROR_SUCCESS);
     EXPECT_EQ(ryRegSetValue(m_key.get(), L"empty", CString()), ERROR_SUCCESS);
     EXPECT_EQ(ryRegSetValue(m_key.get(), L"number", 0xFFFFFFFF), ERROR_SUCCESS);
     EXPECT_EQ(ryRegSetValue(m_key.get(), nullptr, CString(L"default")), ERROR_SUCCESS);
-    CString text;
-    EXPECT_EQ(ryRegGetValue(m_key.get(), L"text", text), ERROR_SUCCESS);
-    EXPECT_EQ(text, L"\x00FC plan");
-    EXPECT_EQ(ryRegGetValue(m_key.get(), L"empty", text), ERROR_SUCCESS);
-    EXPECT_EQ(text, L"");
-    EXPECT_EQ(ryRegGetValue(m_key.get(), L"", text), ERROR_SUCCESS);
-    EXPECT_EQ(text, L"default");
+    storeRaw(L"open", REG_SZ, L"abc", 6);
+    storeRaw(L"two", REG_EXPAND_SZ, L"%PATH%\0x", 18);
+    const std::pair<const wchar_t*, const wchar_t*> rows[] = {
+        {L"text", L"\x00FC plan"}, {L"empty", L""}, {L"", L"default"}, {L"open", L"abc"}, {L"two", L"%PATH%"},
+    };
+    for (const auto& [name, expected] : rows) {
+        CString text(L"before");
+        EXPECT_EQ(ryRegGetValue(m_key.get(), name, text), ERROR_SUCCESS);
+        EXPECT_EQ(text, expected);
+    }
     DWORD number = 0;
     EXPECT_EQ(ryRegGetValue(m_key.get(), L"number", number), ERROR_SUCCESS);
     EXPECT_EQ(number, 0xFFFFFFFF);
@@ -40,50 +43,37 @@ TEST_F(RegistryTest, TextAndNumberComeBackAsWritten) {
 }
 
 TEST_F(RegistryTest, ValuesThatAreNotWhatWasAskedForAreErrorsAndChangeNothing) {
-    const BYTE bytes[8] = {'a', 0, 'b', 0, 'c', 0, 'd', 0};
-    storeRaw(L"short number", REG_DWORD, bytes, 2);
-    storeRaw(L"long number", REG_DWORD, bytes, 8);
-    storeRaw(L"other byte order", REG_DWORD_BIG_ENDIAN, bytes, 4);
-    storeRaw(L"binary", REG_BINARY, bytes, 4);
-    storeRaw(L"list", REG_MULTI_SZ, L"a\0", 6);
-    storeRaw(L"odd text", REG_SZ, bytes, 5);
-    storeRaw(L"text", REG_SZ, L"1", 4);
-    storeRaw(L"number", REG_DWORD, bytes, 4);
-    struct Row {
-        const wchar_t* name;
+    const struct {
+        const char* what;
+        DWORD type;
+        DWORD bytes;
         LONG asNumber;
         LONG asText;
+    } stored[] = {
+        {"short number", REG_DWORD, 2, ERROR_INVALID_DATA, ERROR_UNSUPPORTED_TYPE},
+        {"long number", REG_DWORD, 8, ERROR_INVALID_DATA, ERROR_UNSUPPORTED_TYPE},
+        {"other byte order", REG_DWORD_BIG_ENDIAN, 4, ERROR_UNSUPPORTED_TYPE, ERROR_UNSUPPORTED_TYPE},
+        {"binary", REG_BINARY, 4, ERROR_UNSUPPORTED_TYPE, ERROR_UNSUPPORTED_TYPE},
+        {"list", REG_MULTI_SZ, 6, ERROR_UNSUPPORTED_TYPE, ERROR_UNSUPPORTED_TYPE},
+        {"odd text", REG_SZ, 5, ERROR_UNSUPPORTED_TYPE, ERROR_INVALID_DATA},
+        {"text", REG_SZ, 4, ERROR_UNSUPPORTED_TYPE, ERROR_SUCCESS},
+        {"number", REG_DWORD, 4, ERROR_SUCCESS, ERROR_UNSUPPORTED_TYPE},
+        {"missing", REG_NONE, 0, ERROR_FILE_NOT_FOUND, ERROR_FILE_NOT_FOUND},
     };
-    constexpr Row rows[] = {
-        {L"missing", ERROR_FILE_NOT_FOUND, ERROR_FILE_NOT_FOUND},
-        {L"short number", ERROR_INVALID_DATA, ERROR_UNSUPPORTED_TYPE},
-        {L"long number", ERROR_INVALID_DATA, ERROR_UNSUPPORTED_TYPE},
-        {L"other byte order", ERROR_UNSUPPORTED_TYPE, ERROR_UNSUPPORTED_TYPE},
-        {L"binary", ERROR_UNSUPPORTED_TYPE, ERROR_UNSUPPORTED_TYPE},
-        {L"list", ERROR_UNSUPPORTED_TYPE, ERROR_UNSUPPORTED_TYPE},
-        {L"odd text", ERROR_UNSUPPORTED_TYPE, ERROR_INVALID_DATA},
-        {L"text", ERROR_UNSUPPORTED_TYPE, ERROR_SUCCESS},
-        {L"number", ERROR_SUCCESS, ERROR_UNSUPPORTED_TYPE},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(knav::test::utf8(row.name));
+    for (const auto& [what, type, bytes, asNumber, asText] : stored) {
+        SCOPED_TRACE(what);
+        if (type != REG_NONE) {
+            storeRaw(L"value", type, L"abcd", bytes);
+        } else {
+            ryRegDeleteValue(m_key.get(), L"value");
+        }
         DWORD number = 77;
-        EXPECT_EQ(ryRegGetValue(m_key.get(), row.name, number), row.asNumber);
-        EXPECT_EQ(number == 77, row.asNumber != ERROR_SUCCESS);
+        EXPECT_EQ(ryRegGetValue(m_key.get(), L"value", number), asNumber);
+        EXPECT_EQ(number == 77, asNumber != ERROR_SUCCESS);
         CString text(L"kept");
-        EXPECT_EQ(ryRegGetValue(m_key.get(), row.name, text), row.asText);
-        EXPECT_EQ(text == L"kept", row.asText != ERROR_SUCCESS);
+        EXPECT_EQ(ryRegGetValue(m_key.get(), L"value", text), asText);
+        EXPECT_EQ(text == L"kept", asText != ERROR_SUCCESS);
     }
-}
-
-TEST_F(RegistryTest, TextIsReadToItsFirstTerminatorAndWithoutOne) {
-    storeRaw(L"open", REG_SZ, L"abc", 6);
-    storeRaw(L"two", REG_EXPAND_SZ, L"%PATH%\0x", 18);
-    CString text;
-    EXPECT_EQ(ryRegGetValue(m_key.get(), L"open", text), ERROR_SUCCESS);
-    EXPECT_EQ(text, L"abc");
-    EXPECT_EQ(ryRegGetValue(m_key.get(), L"two", text), ERROR_SUCCESS);
-    EXPECT_EQ(text, L"%PATH%") << "as it is stored";
 }
 
 TEST_F(RegistryTest, OverlongTextIsRefusedBothWays) {

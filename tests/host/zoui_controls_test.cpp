@@ -17,7 +17,8 @@ public:
         AddString(L"first");
         AddString(L"second");
     }
-    int OnGetTipSupport() override { return 1; }
+    int m_tips = 0;
+    int OnGetTipSupport() override { return m_tips; }
     int OnGetTipText(const POINT& point, CString& text) override {
         text = point.y < rowHeight() ? L"the first row" : L"";
         return 1;
@@ -50,9 +51,13 @@ TOOLINFOW toolOf(HWND list, wchar_t (&text)[80]) {
 TEST(ZoUiListBox, TipFollowsThePointerFromRowToRow) {
     TipList list;
     wchar_t text[80];
+    list.moveTo(1);
+    toolOf(list, text);
+    EXPECT_STREQ(text, L"") << "no window is made for a list without tips";
+    list.m_tips = 1;
     list.moveTo(list.rowHeight() + 1);
     toolOf(list, text);
-    EXPECT_STREQ(text, L"") << "no window is made for a row without a tip";
+    EXPECT_STREQ(text, L"") << "nor for a row without one";
     list.moveTo(1);
     const RECT row = toolOf(list, text).rect;
     EXPECT_STREQ(text, L"the first row ") << "the blank is there to be cut off";
@@ -65,17 +70,6 @@ TEST(ZoUiListBox, TipFollowsThePointerFromRowToRow) {
     list.moveTo(150);
     toolOf(list, text);
     EXPECT_STREQ(text, L"") << "below the last row";
-}
-
-TEST(ZoUiListBox, ListWithoutTipSupportMakesNoTipWindow) {
-    class Plain : public TipList {
-        int OnGetTipSupport() override { return 0; }
-    };
-    Plain list;
-    list.moveTo(1);
-    wchar_t text[80];
-    toolOf(list, text);
-    EXPECT_STREQ(text, L"");
 }
 
 SIZE sizeOf(HICON icon) {
@@ -97,47 +91,9 @@ TEST(ResourcePictures, IconsAreFoundByNameInTheResourceModules) {
         EXPECT_NE(CZoUiRm::Icon(L"idb_knav_new_ftp_16"), nullptr);
         EXPECT_EQ(sizeOf(CZoUiRm::Icon(L"IDB_KNAV_NEW_FTP_16", 24).get()).cx, 24);
         EXPECT_EQ(CZoUiRm::Icon(L"IDB_NONE"), nullptr);
+        EXPECT_EQ(knav::test::growthOver(20, [] { CZoUiRm::Icon(L"IDB_KNAV_NEW_FTP_16", 32); }).gdi, 0);
     }
     RyUtResource::freeDll(module);
-}
-
-TEST(ResourcePictures, BitmapServesAsAnIconWithItsCornerColourTransparent) {
-    // The standard toolbar pictures: a row of 15 in 16 colours on a grey ground.
-    const HINSTANCE module = LoadLibraryExW(L"comctl32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    constexpr UINT kStandardPictures = 120;
-    const CDynLinkLibrary link(module);
-    const zoui::UniqueBitmap bitmap = CZoUiRm::Bitmap(kStandardPictures);
-    ASSERT_NE(bitmap, nullptr);
-    BITMAP description{};
-    GetObjectW(bitmap.get(), sizeof(description), &description);
-    const zoui::UniqueIcon icon = CZoUiRm::Icon(kStandardPictures);
-    ASSERT_NE(icon, nullptr);
-    EXPECT_EQ(sizeOf(icon.get()).cx, description.bmWidth);
-
-    const zoui::UniqueMemoryDC memory(CreateCompatibleDC(nullptr));
-    const zoui::WindowDC screen(nullptr);
-    const zoui::UniqueBitmap canvas(CreateCompatibleBitmap(screen, description.bmWidth, description.bmHeight));
-    const zoui::SelectedObject selected(memory.get(), canvas.get());
-    const RECT all{0, 0, description.bmWidth, description.bmHeight};
-    const zoui::UniqueBrush red(CreateSolidBrush(RGB(255, 0, 0)));
-    FillRect(memory.get(), &all, red.get());
-    DrawIconEx(memory.get(), 0, 0, icon.get(), description.bmWidth, description.bmHeight, 0, nullptr, DI_NORMAL);
-    EXPECT_EQ(GetPixel(memory.get(), 0, 0), RGB(255, 0, 0)) << "the ground shows what is below";
-    int drawn = 0;
-    for (int x = 0; x < description.bmWidth; ++x) {
-        drawn += GetPixel(memory.get(), x, description.bmHeight / 2) != RGB(255, 0, 0);
-    }
-    EXPECT_GT(drawn, description.bmWidth / 4) << "and the pictures cover it";
-    FreeLibrary(module);
-}
-
-TEST(ResourcePictures, NothingIsLeftBehind) {
-    const HINSTANCE module = LoadLibraryExW(L"comctl32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-    {
-        const CDynLinkLibrary link(module);
-        EXPECT_EQ(knav::test::growthOver(20, [] { CZoUiRm::Icon(120, 32); }).gdi, 0);
-    }
-    FreeLibrary(module);
 }
 
 }  // namespace

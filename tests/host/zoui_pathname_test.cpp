@@ -28,7 +28,6 @@ protected:
         expanded.Replace(L"{ROOTLESS}", m_folder.path().Mid(2));
         return expanded;
     }
-    CString drive() const { return m_folder.path().Left(2); }
 
     static CString fullPath(const CZoUiPathname& path) {
         CString text(L"untouched");
@@ -42,7 +41,7 @@ private:
     wchar_t m_previous[MAX_PATH];
 };
 
-struct GoodRow {
+struct ParseRow {
     const char* why;
     const wchar_t* text;
     bool wildcards;
@@ -51,18 +50,13 @@ struct GoodRow {
     bool absolute;
 };
 
-constexpr GoodRow kGoodRows[] = {
+constexpr ParseRow kGoodRows[] = {
     {"file", L"{T}\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", true},
-    {"new file", L"{T}\\new.dwg", false, Type::NewFile, L"{T}\\new.dwg", true},
     {"folder", L"{T}\\sub", false, Type::Directory, L"{T}\\sub", true},
     {"a trailing separator stays", L"{T}\\sub\\", false, Type::Directory, L"{T}\\sub\\", true},
-    {"a trailing slash counts as one", L"sub/", false, Type::Directory, L"{T}\\sub\\", false},
     {"relative to the current directory", L"plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", false},
     {"slashes", L"sub/deep/a.b.txt", false, Type::ExistingFile, L"{T}\\sub\\deep\\a.b.txt", false},
-    {"separators may be doubled", L"sub\\\\deep//a.b.txt", false, Type::ExistingFile, L"{T}\\sub\\deep\\a.b.txt",
-     false},
     {"blanks and quotes around it", L" \t\" plan.dwg \" ", false, Type::ExistingFile, L"{T}\\plan.dwg", false},
-    {"one quote forgotten", L"\"plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", false},
     {"dot is the current directory", L".", false, Type::Directory, L"{T}", false},
     {"dots are followed", L"sub\\.\\deep\\..\\..\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", false},
     {"dots follow names that need not exist", L"nowhere\\..\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg",
@@ -72,22 +66,17 @@ constexpr GoodRow kGoodRows[] = {
     {"but blanks and dots inside stay", L"a . b..c", false, Type::NewFile, L"{T}\\a . b..c", false},
     {"a name that begins with a dot", L".config", false, Type::NewFile, L"{T}\\.config", false},
     {"root of the drive", L"{ROOTLESS}\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", true},
-    {"bare drive is its root", L"c:", false, Type::Directory, L"C:\\", true},
     {"drive root", L"c:/", false, Type::Directory, L"C:\\", true},
     {"drive-relative", L"C:plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", true},
     {"verbatim prefix", L"\\\\?\\{T}\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", true},
     {"pattern", L"*.dwg", true, Type::Wildcard, L"{T}\\*.dwg", false},
     {"pattern that ends in a dot", L"{T}\\sub\\?*.", true, Type::Wildcard, L"{T}\\sub\\?*.", true},
-    {"pattern in a missing folder", L"nowhere\\*.dwg", true, Type::Invalid, L"{T}\\nowhere\\*.dwg", false},
     {"missing folder", L"nowhere\\new.dwg", false, Type::Invalid, L"{T}\\nowhere\\new.dwg", false},
     {"a file is no folder", L"plan.dwg\\new.dwg", false, Type::Invalid, L"{T}\\plan.dwg\\new.dwg", false},
-    {"nor with a separator", L"plan.dwg\\", false, Type::Invalid, L"{T}\\plan.dwg\\", false},
     {"a new folder cannot be named", L"new\\", false, Type::Invalid, L"{T}\\new\\", false},
     {"missing drive", L"Q:\\x", false, Type::Invalid, L"Q:\\x", true},
-    {"root of a missing drive", L"Q:", false, Type::Invalid, L"Q:\\", true},
     {"device", L"con", false, Type::Invalid, L"{T}\\con", false},
     {"device with an extension", L"NUL.txt", false, Type::Invalid, L"{T}\\NUL.txt", false},
-    {"port", L"lpt9 .dwg", false, Type::Invalid, L"{T}\\lpt9 .dwg", false},
     {"no port has the number 0", L"com0", false, Type::NewFile, L"{T}\\com0", false},
     {"names that only begin like a device", L"console", false, Type::NewFile, L"{T}\\console", false},
     {"missing share", L"\\\\nowhere.invalid\\share\\x", false, Type::Invalid, L"\\\\nowhere.invalid\\share\\x", true},
@@ -98,7 +87,7 @@ constexpr GoodRow kGoodRows[] = {
 };
 
 TEST_F(PathnameTest, ParseCompletesAndClassifiesWhatMayBeAPath) {
-    for (const GoodRow& row : kGoodRows) {
+    for (const ParseRow& row : kGoodRows) {
         SCOPED_TRACE(row.why);
         CZoUiPathname path;
         EXPECT_EQ(path.Parse(expand(row.text), row.wildcards), PathErr::None);
@@ -119,22 +108,17 @@ struct BadRow {
 constexpr BadRow kBadRows[] = {
     {"null", nullptr, true, PathErr::Empty},
     {"blanks", L" \t", true, PathErr::Empty},
-    {"quotes", L"\" \"", true, PathErr::Empty},
     {"wildcards that are not wanted", L"*.dwg", false, PathErr::InvalidCharacter},
     {"wildcards in a folder", L"a*\\b", true, PathErr::InvalidCharacter},
     {"quote inside", L"a\"b", true, PathErr::InvalidCharacter},
-    {"angle bracket", L"a<b", true, PathErr::InvalidCharacter},
     {"bar in a folder", L"C:\\a|b\\c", true, PathErr::InvalidCharacter},
     {"stream of a file", L"plan.dwg:stream", true, PathErr::InvalidCharacter},
     {"control character", L"a\x0001", true, PathErr::InvalidCharacter},
     {"nothing but dots", L"a\\...\\b", true, PathErr::InvalidCharacter},
     {"wildcard in the name of a share", L"\\\\server\\sh*re", true, PathErr::InvalidCharacter},
     {"URL", L"http://host/a", true, PathErr::NotFileSystem},
-    {"URL in other letters", L"FTP://host", true, PathErr::NotFileSystem},
-    {"file URL", L"file:///C:/windows", true, PathErr::NotFileSystem},
     {"shell location", L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}", true, PathErr::NotFileSystem},
     {"bare server", L"\\\\server", true, PathErr::NotFileSystem},
-    {"bare server with a separator", L"\\\\server\\", true, PathErr::NotFileSystem},
     {"no server", L"\\\\\\share\\x", true, PathErr::NotFileSystem},
     {"device name space", L"\\\\.\\C:\\x", true, PathErr::NotFileSystem},
     {"volume by name", L"\\\\?\\Volume{1}\\x", true, PathErr::NotFileSystem},
@@ -147,7 +131,6 @@ TEST_F(PathnameTest, ParseRefusesWhatCannotBeAPathAndKeepsNothing) {
         ASSERT_EQ(path.Parse(L"plan.dwg", false), PathErr::None);
         EXPECT_EQ(path.Parse(row.text, row.wildcards), row.error);
         EXPECT_EQ(path.GetType(), Type::Invalid);
-        EXPECT_EQ(path.GetPathString(), nullptr);
         EXPECT_EQ(fullPath(path), L"");
     }
 }
@@ -172,14 +155,11 @@ struct RelativeRow {
 
 constexpr RelativeRow kRelativeRows[] = {
     {"name in a folder", L"{T}\\sub", L"new.dwg", L"{T}\\sub\\new.dwg"},
-    {"the base may end in a separator", L"{T}\\sub\\", L"new.dwg", L"{T}\\sub\\new.dwg"},
     {"a file stands for its folder", L"{T}\\sub\\deep\\a.b.txt", L"new.dwg", L"{T}\\sub\\deep\\new.dwg"},
-    {"a new file does, too", L"{T}\\sub\\none.txt", L"new.dwg", L"{T}\\sub\\new.dwg"},
     {"parent", L"{T}\\sub\\deep", L"..", L"{T}\\sub"},
     {"root of the base's drive", L"{T}\\sub", L"\\windows", L"C:\\windows"},
     {"same drive", L"{T}\\sub", L"c:new.dwg", L"{T}\\sub\\new.dwg"},
     {"other drive", L"{T}\\sub", L"Q:new.dwg", L"Q:\\new.dwg"},
-    {"absolute text needs no base", L"{T}\\sub", L"{T}\\plan.dwg", L"{T}\\plan.dwg"},
     {"root of the base's share", L"\\\\nowhere.invalid\\share\\a\\b", L"\\c", L"\\\\nowhere.invalid\\share\\c"},
 };
 
@@ -235,7 +215,7 @@ TEST_F(PathnameTest, PartsAreThoseOfTheLastName) {
     }
 }
 
-TEST_F(PathnameTest, GetParentOfAPathThatExistsIsADirectory) {
+TEST_F(PathnameTest, ChangesKeepPathAndTypeTogether) {
     CZoUiPathname path;
     path.Parse(L"sub\\deep\\a.b.txt", false);
     EXPECT_NE(path.GetParent(path), 0) << "also into itself";
@@ -243,42 +223,28 @@ TEST_F(PathnameTest, GetParentOfAPathThatExistsIsADirectory) {
     path.Parse(L"nowhere\\x", false);
     path.GetParent(path);
     EXPECT_EQ(path.GetType(), Type::NewFile) << "the folder of an invalid path is looked at";
-}
-
-TEST_F(PathnameTest, ExistsAsksTheDiskAgain) {
-    CZoUiPathname path;
-    path.Parse(L"late.dwg", false);
-    EXPECT_EQ(path.Exists(), 0);
-    m_folder.addFile(L"late.dwg");
-    EXPECT_NE(path.Exists(), 0);
-    EXPECT_EQ(path.GetType(), Type::NewFile) << "the type is that of the parsing";
-    path.Parse(L"*", true);
-    EXPECT_EQ(path.Exists(), 0);
-    EXPECT_EQ(CZoUiPathname().Exists(), 0);
-}
-
-TEST_F(PathnameTest, AddExtensionAlwaysAppendsAndLooksAgain) {
-    CZoUiPathname path;
     path.Parse(L"plan", false);
     path.AddExtensionAlways(L".dwg");
-    EXPECT_EQ(fullPath(path).CompareNoCase(expand(L"{T}\\plan.dwg")), 0);
     EXPECT_EQ(path.GetType(), Type::ExistingFile);
     path.AddExtensionAlways(L"bak");
     EXPECT_EQ(fullPath(path).CompareNoCase(expand(L"{T}\\plan.dwg.bak")), 0);
     EXPECT_EQ(path.GetType(), Type::NewFile);
-    path.Parse(L"sub", false);
-    path.AddExtensionAlways(L"dwg");
-    EXPECT_EQ(fullPath(path).CompareNoCase(expand(L"{T}\\sub")), 0) << "a folder gets none";
-}
-
-TEST_F(PathnameTest, TrimSlashLeavesARootItsSeparator) {
-    CZoUiPathname path;
     path.Parse(L"sub\\", false);
     path.TrimSlash();
-    EXPECT_EQ(CString(path.GetPathString()).CompareNoCase(expand(L"{T}\\sub")), 0);
+    path.AddExtensionAlways(L"dwg");
+    EXPECT_EQ(fullPath(path).CompareNoCase(expand(L"{T}\\sub")), 0) << "a folder gets none";
     path.Parse(L"C:\\", false);
     path.TrimSlash();
-    EXPECT_STREQ(path.GetPathString(), L"C:\\");
+    EXPECT_EQ(fullPath(path), L"C:\\") << "a root keeps its separator";
+
+    path.Parse(L"late.dwg", false);
+    EXPECT_EQ(path.Exists(), 0);
+    m_folder.addFile(L"late.dwg");
+    EXPECT_NE(path.Exists(), 0) << "the disk is asked again";
+    EXPECT_EQ(path.GetType(), Type::NewFile) << "the type is that of the parsing";
+    path.Parse(L"*", true);
+    EXPECT_EQ(path.Exists(), 0);
+    EXPECT_EQ(CZoUiPathname().Exists(), 0);
 }
 
 TEST_F(PathnameTest, AssignmentGoesThroughTheVirtualCopy) {

@@ -25,34 +25,21 @@ protected:
 };
 
 TEST_F(SettingsTest, ValuesComeBackAsStoredUntilDeleted) {
-    EXPECT_NE(m_dialog.SetDialogData(L"text", CString(L"C:\\work")), 0);
-    EXPECT_NE(m_dialog.SetDialogData(L"number", 4ul), 0);
-    EXPECT_EQ(stored(L"text"), L"C:\\work");
-    unsigned long number = 0;
-    EXPECT_NE(m_dialog.GetDialogData(L"number", number), 0);
-    EXPECT_EQ(number, 4u);
-    EXPECT_NE(m_dialog.DelDialogData(L"text"), 0);
-    EXPECT_NE(m_dialog.DelDialogData(L"text"), 0) << "deleting it again is no failure";
-    EXPECT_EQ(stored(L"text"), L"(absent)");
-}
-
-TEST_F(SettingsTest, ValueOfTheOtherKindReadsAsAbsent) {
-    m_dialog.SetDialogData(L"value", CString(L"4"));
+    EXPECT_NE(m_dialog.SetDialogData(L"value", CString(L"C:\\work")), 0);
+    EXPECT_EQ(stored(L"value"), L"C:\\work");
+    EXPECT_EQ(m_dialog.SetDialogData(L"value", CString(L'x', ryRegMaxText + 1)), 0);
+    EXPECT_EQ(stored(L"value"), L"C:\\work") << "an overlong text is refused";
     unsigned long number = 77;
-    EXPECT_EQ(m_dialog.GetDialogData(L"value", number), 0);
-    EXPECT_EQ(number, 77u);
-    m_dialog.SetDialogData(L"value", 4ul);
-    EXPECT_EQ(stored(L"value"), L"(absent)");
+    EXPECT_EQ(m_dialog.GetDialogData(L"value", number), 0) << "of the other kind";
     EXPECT_EQ(m_dialog.GetDialogData(L"missing", number), 0);
-}
-
-TEST_F(SettingsTest, EachNameHasItsOwnValues) {
-    m_dialog.SetDialogData(L"value", CString(L"mine"));
-    m_dialog.SetDialogName(L"AllSamples");
+    EXPECT_EQ(number, 77u);
+    EXPECT_NE(m_dialog.SetDialogData(L"value", 4ul), 0);
+    EXPECT_NE(m_dialog.GetDialogData(L"value", number), 0);
+    EXPECT_EQ(number, 4u);
     EXPECT_EQ(stored(L"value"), L"(absent)");
-    m_dialog.SetDialogData(L"value", CString(L"shared"));
-    m_dialog.SetDialogName(L"Sample");
-    EXPECT_EQ(stored(L"value"), L"mine");
+    EXPECT_NE(m_dialog.DelDialogData(L"value"), 0);
+    EXPECT_NE(m_dialog.DelDialogData(L"value"), 0) << "deleting it again is no failure";
+    EXPECT_EQ(m_dialog.GetDialogData(L"value", number), 0);
 }
 
 TEST_F(SettingsTest, DialogWithoutANameStoresNothing) {
@@ -94,12 +81,6 @@ TEST_F(SettingsTest, NamesWithOddCharactersGetKeysOfTheirOwnDirectlyBelowTheRoot
         EXPECT_EQ(stored(L"name"), name);
         EXPECT_EQ(m_dialog.GetSettingsKey().ReverseFind(L'\\'), m_dialog.GetRootKey().GetLength());
     }
-}
-
-TEST_F(SettingsTest, OverlongTextIsRefusedAndKeepsTheOldValue) {
-    m_dialog.SetDialogData(L"value", CString(L"old"));
-    EXPECT_EQ(m_dialog.SetDialogData(L"value", CString(L'x', ryRegMaxText + 1)), 0);
-    EXPECT_EQ(stored(L"value"), L"old");
 }
 
 }  // namespace
