@@ -6,6 +6,7 @@
 #include <platform/DataExchange.h>
 #include <platform/RegisteredMessage.h>
 #include <platform/Resources.h>
+#include <platform/ScopedErrorMode.h>
 
 #include "dialog/ResourceModule.h"
 #include "resources/ids.h"
@@ -98,6 +99,7 @@ INT_PTR CNavDialogImp::runModal() {
     resetRun();
     wchar_t directory[MAX_PATH + 1];
     const DWORD length = GetCurrentDirectoryW(MAX_PATH + 1, directory);
+    const ScopedErrorMode quiet;
     const INT_PTR result = m_facade.CZoUiDialog::DoModal();
     if (result != IDOK && length > 0 && length <= MAX_PATH) {
         SetCurrentDirectoryW(directory);

@@ -2,6 +2,7 @@
 #include <direct.h>
 #include <knav/CNavDataArray.h>
 #include <platform/Prompt.h>
+#include <platform/ScopedErrorMode.h>
 #include <platform/Url.h>
 #include <wininet.h>
 
@@ -18,13 +19,11 @@ namespace {
 bool canBeCurrent(const std::wstring& drive) {
     wchar_t previous[MAX_PATH + 1];
     const DWORD length = GetCurrentDirectoryW(MAX_PATH + 1, previous);
-    DWORD mode = 0;
-    SetThreadErrorMode(SEM_FAILCRITICALERRORS, &mode);
+    const ScopedErrorMode quiet;
     const bool ready = _chdrive(drive[0] - L'A' + 1) == 0;
     if (ready && length > 0 && length <= MAX_PATH) {
         SetCurrentDirectoryW(previous);
     }
-    SetThreadErrorMode(mode, nullptr);
     return ready;
 }
 

@@ -1,6 +1,7 @@
 #include "shell/FolderPaths.h"
 
 #include <knav/NavFolders.h>
+#include <platform/ScopedErrorMode.h>
 
 #include "shell/Guard.h"
 #include "shell/ItemList.h"
@@ -20,11 +21,8 @@ CString pathOfSpecialFolder(int csidl) {
 }
 
 bool isPathThere(const wchar_t* path) noexcept {
-    DWORD mode = 0;
-    SetThreadErrorMode(SEM_FAILCRITICALERRORS, &mode);
-    const bool isThere = GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
-    SetThreadErrorMode(mode, nullptr);
-    return isThere;
+    const ScopedErrorMode quiet;
+    return GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
 }
 
 }  // namespace knav

@@ -1,3 +1,4 @@
+#include <platform/ScopedErrorMode.h>
 #include <ry/FileSystem.h>
 #include <ry/RyBackground.h>
 
@@ -57,6 +58,7 @@ bool isOnFixedDisk(const std::wstring& path) {
 }
 
 bool isFolder(const std::wstring& path) {
+    const ScopedErrorMode quiet;
     const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }

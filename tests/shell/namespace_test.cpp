@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "shell/FolderCalls.h"
+#include "shell/FolderPaths.h"
 #include "support/RealNamespace.h"
 
 namespace {
@@ -92,6 +93,19 @@ TEST_F(Namespace, PathsAreParsedUpToTheirLimit) {
         EXPECT_TRUE(!list || isSame(list, parsed(row.path))) << row.why;
     }
     EXPECT_EQ(NavGetQualifiedItemListFromFolderFullPath(nullptr), nullptr);
+}
+
+TEST_F(Namespace, FoldersHaveTheirPaths) {
+    EXPECT_EQ(pathOfFolder(parsed(m_deep).get()), m_deep);
+    wchar_t windows[MAX_PATH] = L"";
+    GetWindowsDirectoryW(windows, MAX_PATH);
+    EXPECT_STREQ(pathOfSpecialFolder(CSIDL_WINDOWS), windows);
+    EXPECT_EQ(pathOfSpecialFolder(CSIDL_DRIVES), L"");
+    EXPECT_EQ(pathOfFolder(nullptr), L"");
+    const DWORD mode = GetThreadErrorMode();
+    EXPECT_TRUE(isPathThere(m_deep));
+    EXPECT_FALSE(isPathThere(m_temp.path(L"missing")));
+    EXPECT_EQ(GetThreadErrorMode(), mode);
 }
 
 TEST_F(Namespace, ListsAreShownToPeople) {

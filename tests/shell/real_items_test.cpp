@@ -160,8 +160,7 @@ TEST_F(RealItems, LeadToTheirFoldersAndTargets) {
     EXPECT_TRUE(isSame(toFolder, listOf("the third folder, not ASCII")));
     EXPECT_TRUE(ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(toFolder.get())));
     const auto toFile = ItemList::adopt(NavResolveLink(listOf("a shortcut to a file").get(), 0));
-    EXPECT_THAT(toFile.get(), HoldsSameBytes(listOf("a file three deep, not ASCII").get()))
-        << "as good as a list of the file itself";
+    EXPECT_TRUE(isSame(toFile, listOf("a file three deep, not ASCII")));
     const ItemList damaged = parsed(m_temp.addFile(L"damaged.lnk", "this is no shortcut"));
     for (ITEMIDLIST* const list : {damaged.get(), static_cast<ITEMIDLIST*>(nullptr)}) {
         EXPECT_EQ(NavResolveLink(list, 0), nullptr);
