@@ -2,6 +2,7 @@
 
 #include "shell/ExtensionItems.h"
 #include "shell/FolderCalls.h"
+#include "shell/FolderPaths.h"
 #include "shell/ItemList.h"
 #include "shell/ItemNames.h"
 #include "shell/SpecialItems.h"
@@ -11,7 +12,6 @@
 #include <knav/NavLinks.h>
 #include <knav/NavNames.h>
 
-#include <array>
 #include <utility>
 
 namespace knav {
@@ -25,12 +25,14 @@ constexpr const wchar_t* kComputersNearMe = L"{D4480A50-BA28-11D1-8E75-00C04FA31
 // Some shells record a shortcut's folder as if it were a file, so that it does not bind. Only a fixed disk is asked:
 // the user waits for every item.
 bool isFolderOnFixedDisk(const ITEMIDLIST* target) {
-    std::array<wchar_t, MAX_PATH> path{};
-    if (!SHGetPathFromIDListW(target, path.data()) || PathGetDriveNumberW(path.data()) < 0) {
-        return false;
-    }
+    const CString path = pathOfFolder(target);
     const wchar_t root[] = {path[0], L':', L'\\', L'\0'};
-    return GetDriveTypeW(root) == DRIVE_FIXED && PathIsDirectoryW(path.data());
+    return PathGetDriveNumberW(path) >= 0 && GetDriveTypeW(root) == DRIVE_FIXED && PathIsDirectoryW(path);
+}
+
+// Places that are shown wherever they are, though they are not in the file system.
+bool IsSpecialItemAllowed(ITEMIDLIST* item) {
+    return NavIsDrives(item) || NavIsNetwork(item);
 }
 
 }  // namespace
@@ -104,7 +106,7 @@ bool Admission::allowsFolder(const Question& question) {
         return true;
     }
     const auto qualified = ItemList::join(m_id, question.item);
-    return NavIsDrives(qualified.get()) || NavIsNetwork(qualified.get()) || holdsFoldersOutsideTheFileSystem() ||
+    return IsSpecialItemAllowed(qualified.get()) || holdsFoldersOutsideTheFileSystem() ||
            (NavIsDrives(m_id) && NavIsWebFoldersItem(qualified.get()));
 }
 

@@ -1,13 +1,13 @@
 #include "view/ArrivalFilter.h"
 
 #include "shell/ComPtr.h"
+#include "shell/ListWalk.h"
 #include "view/BrowserState.h"
 
 #include <knav/CNavCommDlgBrowser.h>
 #include <knav/CNavListCtrl.h>
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace knav {
@@ -17,12 +17,6 @@ ItemList itemAt(IFolderView* view, int index) {
     PITEMID_CHILD item = nullptr;
     const HRESULT result = guarded([&] { return view->Item(index, &item); });
     return ItemList::adopt(SUCCEEDED(result) ? item : nullptr);
-}
-
-bool sameItem(const ItemList& left, const ItemList& right) {
-    const int size = NavGetItemElementSize(left.get());
-    return size > 0 && size == NavGetItemElementSize(right.get()) &&
-           std::memcmp(left.get(), right.get(), static_cast<std::size_t>(size)) == 0;
 }
 
 }  // namespace
@@ -64,7 +58,8 @@ void ArrivalFilter::removeRows(const std::vector<ItemList>& items) {
     }
     for (int row = ListView_GetItemCount(list) - 1; row >= 0; --row) {
         const auto shown = itemAt(view.get(), row);
-        if (std::ranges::any_of(items, [&shown](const ItemList& item) { return sameItem(item, shown); })) {
+        if (std::ranges::any_of(items,
+                                [&shown](const ItemList& item) { return areSameBytes(item.get(), shown.get()); })) {
             ListView_DeleteItem(list, row);
         }
     }

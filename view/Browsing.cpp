@@ -115,7 +115,7 @@ HRESULT createWindow(BrowserState& state, NewView& next) {
 bool showNextView(BrowserState& state, NewView& next) {
     const NewChildren windows(state.ownerHandle());
     if (SUCCEEDED(createWindow(state, next))) {
-        next.window = IsWindow(next.window) ? next.window : windows.first();
+        next.window = IsWindow(next.window) ? next.window : windows.view();
         if (next.window != nullptr) {
             return true;
         }
@@ -175,7 +175,7 @@ bool browse(CNavCommDlgBrowser& browser, ITEMIDLIST* list, UINT flags) {
     if (!target.folder) {
         return false;
     }
-    saveView(state);
+    saveView(browser);
     return replaceView(browser, std::move(target), flags);
 }
 
@@ -207,7 +207,7 @@ int CNavCommDlgBrowser::RefreshView() {
 void CNavCommDlgBrowser::DestroyViewWindow(int saveState) {
     knav::atApiEdge([this, saveState] {
         if (saveState != 0) {
-            knav::saveView(*m_state);
+            knav::saveView(*this);
         }
         knav::releaseViewWindows(*m_state);
         m_state->retired.retire(std::exchange(m_state->view, nullptr), std::exchange(m_state->viewHandle, nullptr));

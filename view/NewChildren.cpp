@@ -1,6 +1,7 @@
 #include "view/NewChildren.h"
 
 #include "shell/Guard.h"
+#include "view/ViewTakeover.h"
 
 #include <algorithm>
 
@@ -12,18 +13,19 @@ std::vector<HWND> childrenOf(HWND parent) {
     for (HWND child = GetWindow(parent, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
         children.push_back(child);
     }
-    std::ranges::sort(children);
     return children;
 }
 
 }  // namespace
 
 NewChildren::NewChildren(HWND parent) : m_parent(parent), m_known(childrenOf(parent)) {
+    std::ranges::sort(m_known);
 }
 
-HWND NewChildren::first() const {
+HWND NewChildren::view() const {
     const auto children = found();
-    return children.empty() ? nullptr : children.front();
+    const auto standard = std::ranges::find_if(children, isStandardView);
+    return standard != children.end() ? *standard : children.empty() ? nullptr : children.front();
 }
 
 // Their procedures belong to whoever made them.
@@ -34,8 +36,8 @@ void NewChildren::destroy() const {
 }
 
 std::vector<HWND> NewChildren::found() const {
-    std::vector<HWND> children;
-    std::ranges::set_difference(childrenOf(m_parent), m_known, std::back_inserter(children));
+    auto children = childrenOf(m_parent);
+    std::erase_if(children, [this](HWND child) { return std::ranges::binary_search(m_known, child); });
     return children;
 }
 

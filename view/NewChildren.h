@@ -14,8 +14,10 @@ public:
     NewChildren(const NewChildren&) = delete;
     NewChildren& operator=(const NewChildren&) = delete;
 
-    /// A child that the parent has got since; null when there is none.
-    HWND first() const;
+    /// The one of the children made since that is most likely a view: one of the shell's own kind, or else the topmost.
+    /// Null when there is none.
+    HWND view() const;
+    /// Destroys the children made since.
     void destroy() const;
 
 private:

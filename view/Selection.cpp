@@ -15,8 +15,6 @@
 #include <knav/NavFolders.h>
 #include <knav/NavNames.h>
 
-#include <cstring>
-
 namespace knav {
 namespace {
 

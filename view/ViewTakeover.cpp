@@ -19,23 +19,6 @@ constexpr const wchar_t* kListClass = L"SysListView32";
 constexpr UINT kPlaceholderId = 13001;
 constexpr DWORD kListHelpId = 0x808332D2;
 
-bool isStandardView(HWND window) {
-    std::array<wchar_t, 80> name{};
-    const int length = GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-    return std::wstring_view(name.data(), static_cast<std::size_t>(length)) == kViewClass;
-}
-
-void subclassView(CNavCommDlgBrowser& browser, HWND window) {
-    auto* const view = browser.GetViewWindow();
-    if (view != nullptr && isStandardView(window)) {
-        view->SubclassWindow(window);
-        view->SetBrowser(&browser);
-        view->SetZoUiParent(browser.GetViewOwnerWindow());
-        view->SetTabNext(kPlaceholderId);
-        subclassListCtrl(browser, window);
-    }
-}
-
 // The dialog manager walks the windows from the top of the stack down: behind the placeholder, the view has the
 // placeholder's turn.
 void takePlaceOf(CNavCommDlgBuddy& placeholder, HWND window) {
@@ -52,16 +35,23 @@ void markThumbnails(HWND list, unsigned mode) {
 
 }  // namespace
 
-void saveView(const BrowserState& state) {
-    if (state.view) {
-        guarded([&state] { return state.view->SaveViewState(); });
-        if (state.browseOwner != nullptr) {
-            state.browseOwner->saveListState(state.view.get());
-        }
+bool isStandardView(HWND window) {
+    std::array<wchar_t, 80> name{};
+    const int length = GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+    return std::wstring_view(name.data(), static_cast<std::size_t>(length)) == kViewClass;
+}
+
+void saveView(CNavCommDlgBrowser& browser) {
+    if (const auto view = browser.state().view) {
+        guarded([&view] { return view->SaveViewState(); });
+        browser.SaveListCtrlState();
     }
 }
 
 void releaseViewWindows(BrowserState& state) {
+    if (state.viewHandle == nullptr) {
+        return;  // nothing is taken over, and the host may have ended its list control
+    }
     if (state.buddy != nullptr) {
         state.buddy->SetBuddy(nullptr);
     }
@@ -85,7 +75,7 @@ void viewWindowDestroyed(BrowserState& state, HWND window) {
 void takeOverView(CNavCommDlgBrowser& browser) {
     auto& state = browser.state();
     if (const HWND window = state.viewHandle) {
-        subclassView(browser, window);
+        browser.SubclassView(window);
         if (state.buddy != nullptr) {
             takePlaceOf(*state.buddy, window);
         }
@@ -94,27 +84,7 @@ void takeOverView(CNavCommDlgBrowser& browser) {
     if (const HWND list = SafeHwnd(state.listCtrl)) {
         markThumbnails(list, state.folderSettings.ViewMode);
     }
-    if (state.browseOwner != nullptr) {
-        state.browseOwner->restoreListState(state.view.get());
-    }
-}
-
-void subclassListCtrl(CNavCommDlgBrowser& browser, HWND viewWindow) {
-    auto& state = browser.state();
-    auto* const list = state.listCtrl;
-    if (list == nullptr) {
-        return;
-    }
-    list->UnsubclassWindow();
-    const HWND window = FindWindowExW(viewWindow, nullptr, kListClass, nullptr);
-    if (window == nullptr || !list->SubclassWindow(window)) {
-        return;
-    }
-    list->SetBrowser(&browser);
-    list->SetZoUiParent(state.owner);
-    list->SetWindowContextHelpId(kListHelpId);
-    list->ModifyStyle(0, LVS_SHOWSELALWAYS);
-    ListView_SetExtendedListViewStyleEx(window, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+    browser.RestoreListCtrlState();
 }
 
 FocusInView::FocusInView(const BrowserState& state) : m_state(state) {
@@ -130,3 +100,43 @@ FocusInView::~FocusInView() {
 }
 
 }  // namespace knav
+
+void CNavCommDlgBrowser::SubclassView(HWND window) {
+    CNavCommDlgView* const view = m_state->viewWindow;
+    if (view != nullptr && knav::isStandardView(window)) {
+        view->SubclassWindow(window);
+        view->SetBrowser(this);
+        view->SetZoUiParent(m_state->owner);
+        view->SetTabNext(knav::kPlaceholderId);
+        SubclassListCtrl(window);
+    }
+}
+
+void CNavCommDlgBrowser::SubclassListCtrl(HWND viewWindow) {
+    CNavListCtrl* const list = m_state->listCtrl;
+    if (list == nullptr) {
+        return;
+    }
+    list->UnsubclassWindow();
+    const HWND window = FindWindowExW(viewWindow, nullptr, knav::kListClass, nullptr);
+    if (window == nullptr || !list->SubclassWindow(window)) {
+        return;
+    }
+    list->SetBrowser(this);
+    list->SetZoUiParent(m_state->owner);
+    list->SetWindowContextHelpId(knav::kListHelpId);
+    list->ModifyStyle(0, LVS_SHOWSELALWAYS);
+    ListView_SetExtendedListViewStyleEx(window, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+}
+
+void CNavCommDlgBrowser::SaveListCtrlState() {
+    if (m_state->browseOwner != nullptr) {
+        m_state->browseOwner->saveListState(m_state->view.get());
+    }
+}
+
+void CNavCommDlgBrowser::RestoreListCtrlState() {
+    if (m_state->browseOwner != nullptr) {
+        m_state->browseOwner->restoreListState(m_state->view.get());
+    }
+}

@@ -9,10 +9,14 @@ namespace knav {
 
 struct BrowserState;
 
-/// Has the current view save its state and the owner its columns; nothing without a view.
-void saveView(const BrowserState& state);
+/// A window of the shell's own kind of view.
+bool isStandardView(HWND window);
 
-/// Gives the window and the list of the current view back; they then belong to the shell alone.
+/// Has the current view save its state and the owner its columns; nothing without a view.
+void saveView(CNavCommDlgBrowser& browser);
+
+/// Gives the window and the list of the current view back; they then belong to the shell alone. Nothing is touched when
+/// no view is there.
 void releaseViewWindows(BrowserState& state);
 
 /// The window was destroyed by somebody else: nothing points to it any more.
@@ -21,9 +25,6 @@ void viewWindowDestroyed(BrowserState& state, HWND window);
 /// Takes over the window and the list of a view that was just made and puts it behind the placeholder in the tab order.
 /// Its list shows the mode that was asked for, and the owner restores its columns.
 void takeOverView(CNavCommDlgBrowser& browser);
-
-/// Takes over the list in a view's window, after giving back the one held before.
-void subclassListCtrl(CNavCommDlgBrowser& browser, HWND viewWindow);
 
 /// When the focus is in the current view, it is in its successor at the end of the scope.
 class FocusInView {

@@ -116,6 +116,14 @@ public:
     CNavCommDlgBuddy* GetBuddyWindow() const;
     void SetBuddyWindow(CNavCommDlgBuddy* buddy);
 
+    /// Let the view window object take over the window of a view of the shell's own kind, and the list control the list
+    /// in it, after giving back the one it holds. Every browse does so.
+    void SubclassView(HWND window);
+    void SubclassListCtrl(HWND viewWindow);
+    /// Have the owner keep the columns of the current view and put them back.
+    void SaveListCtrlState();
+    void RestoreListCtrlState();
+
     /// Internal: the window and list objects report to the browser that took them over.
     knav::BrowserState& state() { return *m_state; }
 

@@ -144,7 +144,8 @@ public:
     /// View mode of the list, a NavViewMode.
     unsigned int GetViewMode() const;
     void SetViewMode(unsigned int mode);
-    /// The list control that takes over the shell's list. The host keeps a control of its own alive; null is ignored.
+    /// The list control that takes over the shell's list. The host keeps a control of its own alive while the dialog is
+    /// shown; null is ignored.
     CNavListCtrl* GetFolderListCtrl() const;
     void SetFolderListCtrl(CNavListCtrl* list);
     /// Tools menu items that are offered, bits of NavToolsMenuItem. Default all.

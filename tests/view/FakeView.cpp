@@ -223,14 +223,23 @@ private:
         if (!m_script.makesWindow) {
             return S_OK;
         }
-        const wchar_t* const kind = m_script.standardWindow ? standardClass() : WC_STATICW;
-        m_window = CreateWindowExW(0, kind, L"", WS_CHILD | WS_VISIBLE, place.left, place.top, place.right - place.left,
+        const auto make = [&place, parent](const wchar_t* kind) {
+            return CreateWindowExW(0, kind, L"", WS_CHILD | WS_VISIBLE, place.left, place.top, place.right - place.left,
                                    place.bottom - place.top, parent, nullptr, GetModuleHandleW(nullptr), nullptr);
+        };
+        if (m_script.hidesWindow) {
+            make(WC_STATICW);
+        }
+        m_window = make(m_script.standardWindow ? standardClass() : WC_STATICW);
         if (m_script.standardWindow) {
             CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_LIST, 0, 0, 100, 100, m_window, nullptr,
                             nullptr, nullptr);
         }
-        *window = m_window;
+        if (m_script.hidesWindow) {
+            make(WC_STATICW);
+        } else {
+            *window = m_window;
+        }
         return S_OK;
     }
 

@@ -58,6 +58,7 @@ struct ViewScript {
     bool offersView2 = true;
     bool offersFolderView = true;
     bool makesWindow = true;
+    bool hidesWindow = false;       ///< makes its window between two others and does not tell which it is
     bool standardWindow = false;    ///< its window is of the class of the shell's own views, with a list in it
     bool breaksAfterwards = false;  ///< making the window misbehaves when the window is there
     int focusedItem = 0;

@@ -105,6 +105,16 @@ TEST_F(BrokenView, ViewThatBreaksWhenItsWindowIsThere_LeavesNoWindowOverThePrevi
     }
 }
 
+TEST_F(BrokenView, ViewThatDoesNotTellItsWindow_IsTakenOverAllTheSame) {
+    m_script.standardWindow = true;
+    m_script.hidesWindow = true;
+    ASSERT_TRUE(browseStore());
+    HWND window = nullptr;
+    m_host.browser.GetCurrentShellView()->GetWindow(&window);
+    EXPECT_EQ(m_host.viewHandle(), window);
+    EXPECT_NE(m_host.list(), nullptr);
+}
+
 TEST_F(BrokenView, SettingsThatCannotBeRead_AreThoseTheViewWasMadeWith) {
     ASSERT_TRUE(browseStore());
     const UINT flags = m_script.settings.fFlags;

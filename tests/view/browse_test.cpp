@@ -257,6 +257,18 @@ TEST_F(Browse, DestroyedView_ComesBackWithTheCurrentFolder) {
     EXPECT_EQ(m_host.rows().size(), 4u);
 }
 
+TEST_F(Browse, ListControlThatHasEnded_IsNotTouchedOnceTheViewIsGone) {
+    void* const memory = VirtualAlloc(nullptr, sizeof(CNavListCtrl), MEM_COMMIT, PAGE_READWRITE);
+    auto* const list = new (memory) CNavListCtrl;
+    m_host.browser.SetListCtrl(list);
+    ASSERT_TRUE(m_host.browse(m_folder.path()));
+    EXPECT_NE(list->m_hWnd, nullptr);
+    m_host.browser.DestroyViewWindow(1);
+    list->~CNavListCtrl();
+    VirtualFree(memory, 0, MEM_RELEASE);
+    m_host.browser.DestroyViewWindow(1);
+}
+
 TEST_F(Browse, FiftyBrowses_LeakNothing) {
     const ObjectCounts growth = growthOver(25, [this] {
         m_host.browse(m_folder.path(L"sub"));
