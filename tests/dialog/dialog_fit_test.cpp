@@ -9,6 +9,7 @@
 #include "controls/Accessible.h"
 #include "dialog/DialogUser.h"
 #include "shell/ComPtr.h"
+#include "support/Controls.h"
 
 namespace knav::test {
 namespace {
@@ -24,25 +25,6 @@ protected:
     }
 };
 
-std::wstring textOf(HWND window) {
-    wchar_t text[300] = L"";
-    GetWindowTextW(window, text, 300);
-    return text;
-}
-
-std::wstring classOf(HWND window) {
-    wchar_t name[64] = L"";
-    GetClassNameW(window, name, 64);
-    return name;
-}
-
-RECT rectIn(HWND dialog, HWND control) {
-    RECT rect{};
-    GetWindowRect(control, &rect);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
-
 std::vector<HWND> visibleControls() {
     std::vector<HWND> controls;
     for (HWND child = GetWindow(DialogDriver::dialog(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
@@ -51,16 +33,6 @@ std::vector<HWND> visibleControls() {
         }
     }
     return controls;
-}
-
-SIZE extentOf(HWND control) {
-    const HDC dc = GetDC(control);
-    const HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
-    RECT rect{};
-    DrawTextW(dc, textOf(control).c_str(), -1, &rect, DT_CALCRECT | DT_SINGLELINE);
-    SelectObject(dc, old);
-    ReleaseDC(control, dc);
-    return {rect.right, rect.bottom};
 }
 
 /// Room that a control needs for its text: what a push button has around it, with the arrow of the one with a menu.

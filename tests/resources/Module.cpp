@@ -1,19 +1,33 @@
 #include "resources/Module.h"
 
-#include <array>
 #include <filesystem>
 
 #include <gtest/gtest.h>
 
 #include "resources/ids.h"
+#include "support/Printers.h"
 
 namespace knav::test {
 namespace {
 
 std::filesystem::path programFolder() {
-    std::array<wchar_t, 1024> path{};
-    GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    return std::filesystem::path(path.data()).parent_path();
+    wchar_t path[MAX_PATH] = L"";
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return std::filesystem::path(path).parent_path();
+}
+
+void addPopup(HMENU popup, std::vector<std::vector<Entry>>& popups) {
+    std::vector<Entry> entries;
+    for (int at = 0; at < GetMenuItemCount(popup); ++at) {
+        wchar_t text[300] = L"";
+        if (GetMenuStringW(popup, static_cast<UINT>(at), text, 300, MF_BYPOSITION) > 0) {
+            const HMENU inner = GetSubMenu(popup, at);
+            entries.push_back({text, inner ? 0 : GetMenuItemID(popup, at)});
+            if (inner)
+                addPopup(inner, popups);
+        }
+    }
+    popups.push_back(entries);
 }
 
 // Where an extended template keeps its width and height, and where its header ends.
@@ -89,6 +103,14 @@ std::vector<std::wstring> builtLanguages() {
     return languages;
 }
 
+std::vector<std::vector<Entry>> popupsOf(const Module& module, UINT id) {
+    std::vector<std::vector<Entry>> popups;
+    const HMENU menu = LoadMenuW(module.handle(), MAKEINTRESOURCEW(id));
+    addPopup(GetSubMenu(menu, 0), popups);
+    DestroyMenu(menu);
+    return popups;
+}
+
 Dialog::Dialog(const Module& module, UINT id, int points) {
     INITCOMMONCONTROLSEX classes{sizeof classes, ICC_WIN95_CLASSES | ICC_DATE_CLASSES};
     InitCommonControlsEx(&classes);
@@ -116,18 +138,6 @@ std::vector<HWND> Dialog::controls() const {
     return all;
 }
 
-std::wstring textOf(HWND window) {
-    std::array<wchar_t, 300> text{};
-    GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
-    return text.data();
-}
-
-std::wstring textOf(HMENU menu, int position) {
-    std::array<wchar_t, 300> text{};
-    GetMenuStringW(menu, static_cast<UINT>(position), text.data(), static_cast<int>(text.size()), MF_BYPOSITION);
-    return text.data();
-}
-
 wchar_t mnemonicOf(const std::wstring& text) {
     for (size_t i = 0; i + 1 < text.size(); ++i) {
         if (text[i] != L'&')
@@ -137,14 +147,6 @@ wchar_t mnemonicOf(const std::wstring& text) {
                 reinterpret_cast<UINT_PTR>(CharUpperW(reinterpret_cast<LPWSTR>(UINT_PTR(text[i])))));
     }
     return 0;
-}
-
-std::string utf8(const std::wstring& text) {
-    std::string out(text.size() * 3 + 1, '\0');
-    const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), out.data(),
-                                           static_cast<int>(out.size()), nullptr, nullptr);
-    out.resize(static_cast<size_t>(length));
-    return out;
 }
 
 }  // namespace knav::test

@@ -40,18 +40,14 @@ private:
 /// The languages that were built: the sub-folders with a module, and "" for the default one.
 std::vector<std::wstring> builtLanguages();
 
-/// A menu from a module.
-class Menu {
-public:
-    Menu(const Module& module, UINT id) : m_menu(LoadMenuW(module.handle(), MAKEINTRESOURCEW(id))) {}
-    ~Menu() { DestroyMenu(m_menu); }
-    Menu(const Menu&) = delete;
-    Menu& operator=(const Menu&) = delete;
-    HMENU popup() const { return GetSubMenu(m_menu, 0); }
-
-private:
-    HMENU m_menu;
+/// An entry of a menu: its text with the key behind it, and what it does; 0 for one that opens a menu of its own.
+struct Entry {
+    std::wstring text;
+    UINT id;
 };
+
+/// The popups of a menu, the inner ones too, each with its entries but the separators.
+std::vector<std::vector<Entry>> popupsOf(const Module& module, UINT menu);
 
 /// A dialog made from a template with another size of type: the size stands in for the resolution, as both change the
 /// dialog unit alike (18 points at 96 DPI are 9 points at 192).
@@ -72,12 +68,7 @@ private:
     SIZE m_area{};
 };
 
-std::wstring textOf(HWND window);
-std::wstring textOf(HMENU menu, int position);
-
 /// The key that "&" marks in a text, upper case; 0 without one.
 wchar_t mnemonicOf(const std::wstring& text);
-
-std::string utf8(const std::wstring& text);
 
 }  // namespace knav::test

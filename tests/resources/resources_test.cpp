@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -9,6 +8,8 @@
 
 #include "resources/Module.h"
 #include "resources/ids.h"
+#include "support/Controls.h"
+#include "support/Printers.h"
 
 namespace knav::test {
 namespace {
@@ -25,15 +26,6 @@ INSTANTIATE_TEST_SUITE_P(, Resources, testing::ValuesIn(builtLanguages()), [](co
 // The window that the dialog itself makes.
 constexpr UINT kMadeByCode[] = {IDC_KNAV_FIND_STATUS};
 constexpr UINT kMenus[] = {IDR_KNAV_OK_MENU, IDR_KNAV_TOOLS_MENU, IDR_KNAV_VIEWS_MENU, IDR_KNAV_PLACES_MENU};
-
-// Calls `body` for every popup, the inner ones too.
-void eachPopup(HMENU popup, const std::function<void(HMENU)>& body) {
-    body(popup);
-    for (int i = 0; i < GetMenuItemCount(popup); ++i) {
-        if (HMENU inner = GetSubMenu(popup, i))
-            eachPopup(inner, body);
-    }
-}
 
 std::vector<UINT> dialogIds() {
     std::vector<UINT> ids;
@@ -93,40 +85,32 @@ TEST_P(Resources, TextsTakeTheArgumentThatTheirCallersGive) {
 
 TEST_P(Resources, MenuEntriesHaveMnemonicsOfTheirOwn) {
     for (const UINT id : kMenus) {
-        eachPopup(Menu(m_module, id).popup(), [id](HMENU popup) {
+        for (const auto& popup : popupsOf(m_module, id)) {
             std::set<wchar_t> used;
-            for (int i = 0; i < GetMenuItemCount(popup); ++i) {
-                if (GetMenuState(popup, static_cast<UINT>(i), MF_BYPOSITION) & MF_SEPARATOR)
-                    continue;
-                const std::wstring text = textOf(popup, i);
-                EXPECT_NE(mnemonicOf(text), 0) << id << ": " << utf8(text);
-                EXPECT_TRUE(used.insert(mnemonicOf(text)).second) << id << ": " << utf8(text);
+            for (const Entry& entry : popup) {
+                EXPECT_NE(mnemonicOf(entry.text), 0) << id << ": " << utf8(entry.text);
+                EXPECT_TRUE(used.insert(mnemonicOf(entry.text)).second) << id << ": " << utf8(entry.text);
             }
-        });
+        }
     }
-    EXPECT_NE(mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_FOLDER)), mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_ITEM)));
-    EXPECT_NE(mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_FOLDER)), mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_ITEMS)));
+    for (const UINT item : {IDS_KNAV_FAVORITE_ITEM, IDS_KNAV_FAVORITE_ITEMS}) {
+        EXPECT_NE(mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_FOLDER)), mnemonicOf(m_module.text(item)));
+    }
 }
 
 TEST_P(Resources, ToolsMenuKeepsItsPositions) {
-    const Menu menu(m_module, IDR_KNAV_TOOLS_MENU);
-    const HMENU tools = menu.popup();
-    EXPECT_EQ(GetMenuItemID(tools, 0), static_cast<UINT>(IDM_KNAV_FIND));
-    EXPECT_EQ(GetMenuItemID(tools, 1), static_cast<UINT>(IDM_KNAV_LOCATE));
-    EXPECT_EQ(GetMenuItemID(tools, 2), static_cast<UINT>(IDM_KNAV_FTP_LOCATIONS));
-    EXPECT_EQ(GetMenuItemID(tools, 4), static_cast<UINT>(IDM_KNAV_ADD_TO_PLACES));
-    EXPECT_TRUE(GetSubMenu(tools, 5));
-    EXPECT_EQ(GetMenuItemCount(tools), 6);
+    std::vector<UINT> ids;
+    for (const Entry& entry : popupsOf(m_module, IDR_KNAV_TOOLS_MENU).back()) {
+        ids.push_back(entry.id);
+    }
+    EXPECT_THAT(
+        ids, testing::ElementsAre(IDM_KNAV_FIND, IDM_KNAV_LOCATE, IDM_KNAV_FTP_LOCATIONS, IDM_KNAV_ADD_TO_PLACES, 0));
 }
 
 // What a menu entry promises at its right edge is what the keys do.
 std::string shownKey(const ACCEL& key) {
-    std::string text;
-    if (key.fVirt & FCONTROL)
-        text += "Ctrl+";
-    if (key.fVirt & FSHIFT)
-        text += "Shift+";
-    return text + static_cast<char>(key.key);
+    const std::string text = key.fVirt & FCONTROL ? "Ctrl+" : "";
+    return text + (key.fVirt & FSHIFT ? "Shift+" : "") + static_cast<char>(key.key);
 }
 
 TEST_P(Resources, KeysAreCommandsAndMenusShowThem) {
@@ -144,14 +128,13 @@ TEST_P(Resources, KeysAreCommandsAndMenusShowThem) {
     }
     ASSERT_FALSE(keyOf.empty());
     for (const UINT id : kMenus) {
-        eachPopup(Menu(m_module, id).popup(), [&](HMENU popup) {
-            for (int i = 0; i < GetMenuItemCount(popup); ++i) {
-                const std::wstring text = textOf(popup, i);
-                if (const size_t tab = text.find(L'\t'); tab != std::wstring::npos) {
-                    EXPECT_EQ(utf8(text.substr(tab + 1)), keyOf[GetMenuItemID(popup, i)]) << utf8(text);
-                }
+        for (const auto& popup : popupsOf(m_module, id)) {
+            for (const Entry& entry : popup) {
+                const size_t tab = entry.text.find(L'\t');
+                const std::wstring shown = tab != std::wstring::npos ? entry.text.substr(tab + 1) : L"";
+                EXPECT_TRUE(shown.empty() || utf8(shown) == keyOf[entry.id]) << utf8(entry.text);
             }
-        });
+        }
     }
 }
 
@@ -163,24 +146,20 @@ std::vector<int> sizesOf(const std::vector<BYTE>& directory) {
     return sizes;
 }
 
-struct AlphaRange {
-    BYTE least = 255;
-    BYTE most = 0;
-};
-
-AlphaRange alphaOf(HBITMAP bitmap, int size) {
-    BITMAPINFO info{};
-    info.bmiHeader = {sizeof info.bmiHeader, size, -size, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    std::vector<DWORD> pixels(static_cast<size_t>(size) * static_cast<size_t>(size));
-    HDC screen = GetDC(nullptr);
-    GetDIBits(screen, bitmap, 0, static_cast<UINT>(size), pixels.data(), &info, DIB_RGB_COLORS);
-    ReleaseDC(nullptr, screen);
-    AlphaRange range;
-    for (const DWORD pixel : pixels) {
-        range.least = std::min(range.least, static_cast<BYTE>(pixel >> 24));
-        range.most = std::max(range.most, static_cast<BYTE>(pixel >> 24));
-    }
-    return range;
+// The alpha values of an icon, pixel by pixel.
+std::vector<BYTE> alphaOf(HICON icon, int size) {
+    ICONINFO parts{};
+    BITMAP colour{};
+    if (!GetIconInfo(icon, &parts) || !GetObjectW(parts.hbmColor, sizeof colour, &colour) || colour.bmWidth != size)
+        return {};
+    const zoui::UniqueBitmap picture(parts.hbmColor);
+    const zoui::UniqueBitmap mask(parts.hbmMask);
+    std::vector<BYTE> bytes(static_cast<size_t>(size * size * 4));
+    GetBitmapBits(parts.hbmColor, size * size * 4, bytes.data());
+    std::vector<BYTE> alpha;
+    for (size_t at = 3; at < bytes.size(); at += 4)
+        alpha.push_back(bytes[at]);
+    return alpha;
 }
 
 TEST_P(Resources, PicturesHaveEverySizeWithAlpha) {
@@ -191,50 +170,17 @@ TEST_P(Resources, PicturesHaveEverySizeWithAlpha) {
         const std::vector<int> sizes = sizesOf(m_module.bytes(row.id, RT_GROUP_ICON));
         EXPECT_THAT(sizes, testing::AnyOf(testing::ElementsAre(16, 20, 24, 32), testing::ElementsAre(32, 40, 48, 64)));
         for (const int size : sizes) {
-            const auto icon = static_cast<HICON>(
-                LoadImageW(m_module.handle(), MAKEINTRESOURCEW(row.id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
-            ICONINFO info{};
-            ASSERT_TRUE(GetIconInfo(icon, &info)) << size;
-            BITMAP colour{};
-            GetObjectW(info.hbmColor, sizeof colour, &colour);
-            EXPECT_EQ(colour.bmWidth, size);
-            const AlphaRange alpha = alphaOf(info.hbmColor, size);
-            EXPECT_EQ(alpha.least, 0) << size;
-            EXPECT_EQ(alpha.most, 255) << size;
-            DeleteObject(info.hbmColor);
-            DeleteObject(info.hbmMask);
-            DestroyIcon(icon);
+            const zoui::UniqueIcon icon(static_cast<HICON>(
+                LoadImageW(m_module.handle(), MAKEINTRESOURCEW(row.id), IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+            EXPECT_THAT(alphaOf(icon.get(), size), testing::IsSupersetOf({0, 255})) << size;
         }
     }
 }
 
 // --- dialogs ---------------------------------------------------------------------------------------------------
 
-std::wstring classOf(HWND window) {
-    wchar_t name[64] = L"";
-    GetClassNameW(window, name, 64);
-    return name;
-}
-
 bool shown(HWND control) {
     return (GetWindowLongW(control, GWL_STYLE) & WS_VISIBLE) != 0;
-}
-
-RECT rectIn(HWND dialog, HWND control) {
-    RECT rect;
-    GetWindowRect(control, &rect);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
-
-SIZE extentOf(HWND control) {
-    HDC dc = GetDC(control);
-    const HGDIOBJ old = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
-    RECT rect{};
-    DrawTextW(dc, textOf(control).c_str(), -1, &rect, DT_CALCRECT | DT_SINGLELINE);
-    SelectObject(dc, old);
-    ReleaseDC(control, dc);
-    return {rect.right, rect.bottom};
 }
 
 // What a control needs besides its text; nothing for a picture button, which does not draw it.
@@ -264,6 +210,8 @@ TEST_P(Resources, NoControlIsClippedOrCovered) {
             SCOPED_TRACE(std::to_string(id) + " at " + std::to_string(points) + " points");
             const Dialog dialog(m_module, id, points);
             const SIZE area = dialog.area();
+            const bool mirrored = (GetWindowLongW(dialog.window(), GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+            EXPECT_EQ(mirrored, GetParam() == L"xr") << "read from the right";
             std::vector<std::pair<RECT, std::string>> placed;
             for (HWND control : dialog.controls()) {
                 // An up-down control lies over its field on purpose.
@@ -283,14 +231,6 @@ TEST_P(Resources, NoControlIsClippedOrCovered) {
                 placed.emplace_back(at, name);
             }
         }
-    }
-}
-
-TEST_P(Resources, DialogsAreMirroredWhereTheLanguageIsReadFromTheRight) {
-    for (const UINT id : dialogIds()) {
-        const Dialog dialog(m_module, id, 9);
-        const auto style = GetWindowLongW(dialog.window(), GWL_EXSTYLE);
-        EXPECT_EQ((style & WS_EX_LAYOUTRTL) != 0, GetParam() == L"xr") << id;
     }
 }
 
@@ -339,15 +279,13 @@ TEST_P(Resources, DialogMnemonicsAreUnique) {
 
 // A label speaks for the control behind it, to the keyboard and to a screen reader.
 TEST_P(Resources, FieldsFollowTheirLabels) {
-    const std::pair<UINT, UINT> rows[] = {
-        {IDC_KNAV_LOOK_IN_LABEL, IDC_KNAV_LOOK_IN},     {IDC_KNAV_PLACES_LABEL, IDC_KNAV_PLACES},
-        {IDC_KNAV_VIEW_LABEL, IDC_KNAV_VIEW},           {IDC_KNAV_FILE_NAME_LABEL, IDC_KNAV_FILE_NAME},
-        {IDC_KNAV_FILE_TYPE_LABEL, IDC_KNAV_FILE_TYPE},
-    };
     const Dialog dialog(m_module, IDD_KNAV, 9);
-    for (const auto& [label, field] : rows) {
-        const HWND next = GetWindow(GetDlgItem(dialog.window(), static_cast<int>(label)), GW_HWNDNEXT);
-        EXPECT_EQ(static_cast<UINT>(GetDlgCtrlID(next)), field);
+    for (const auto& [label, field] : {std::pair{IDC_KNAV_LOOK_IN_LABEL, IDC_KNAV_LOOK_IN},
+                                       {IDC_KNAV_PLACES_LABEL, IDC_KNAV_PLACES},
+                                       {IDC_KNAV_VIEW_LABEL, IDC_KNAV_VIEW},
+                                       {IDC_KNAV_FILE_NAME_LABEL, IDC_KNAV_FILE_NAME},
+                                       {IDC_KNAV_FILE_TYPE_LABEL, IDC_KNAV_FILE_TYPE}}) {
+        EXPECT_EQ(GetDlgCtrlID(GetWindow(GetDlgItem(dialog.window(), label), GW_HWNDNEXT)), field);
     }
 }
 
