@@ -2,16 +2,27 @@
 
 #include <knav/NavFolders.h>
 #include <knav/NavNames.h>
+#include <platform/CWaitCursor.h>
 
+#include "dialog/AskInTime.h"
+#include "dialog/NetworkCheck.h"
 #include "shell/ComPtr.h"
 #include "shell/FolderPaths.h"
 
 namespace knav {
 namespace {
 
-bool isOnDisk(ITEMIDLIST* list) {
+/// A folder of the network counts as gone when it does not answer in time.
+bool isThere(ITEMIDLIST* list) {
     const CString path = pathOfFolder(list);
-    return path.IsEmpty() || isPathThere(path);
+    if (path.IsEmpty()) {
+        return true;
+    }
+    if (!PathIsNetworkPathW(path)) {
+        return isPathThere(path);
+    }
+    const CWaitCursor wait;
+    return askInTime<bool>([path] { return isPathThere(path); }, networkPatience()).value_or(false);
 }
 
 }  // namespace
@@ -23,7 +34,7 @@ bool sameFolder(ITEMIDLIST* a, ITEMIDLIST* b) {
 
 bool canBeShown(ITEMIDLIST* list) {
     // Some systems bind to drives and folders that are not there.
-    return list && isOnDisk(list) && ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(list));
+    return list && isThere(list) && ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(list));
 }
 
 }  // namespace knav

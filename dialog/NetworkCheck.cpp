@@ -1,12 +1,6 @@
 #include "dialog/NetworkCheck.h"
 
-#include <ry/RyBackground.h>
-
-#include <memory>
-
-#include "dialog/PaintingWait.h"
-#include "dialog/ResourceModule.h"
-#include "shell/ScopedHandle.h"
+#include "dialog/AskInTime.h"
 #include "shell/TextRules.h"
 
 namespace knav {
@@ -16,23 +10,9 @@ constexpr wchar_t kSeparator = L'\\';
 
 unsigned g_patience = 10'000;
 
-/// What the dialog's thread and the worker share; whoever leaves last frees it. The worker writes, sets the event, and
-/// writes no more.
-struct Check {
-    const ScopedHandle done{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
+struct Outcome {
     unsigned long error = ERROR_BAD_NETPATH;
     std::wstring message;
-};
-
-class SetOnExit {
-public:
-    explicit SetOnExit(HANDLE event) noexcept : m_event(event) {}
-    ~SetOnExit() { SetEvent(m_event); }
-    SetOnExit(const SetOnExit&) = delete;
-    SetOnExit& operator=(const SetOnExit&) = delete;
-
-private:
-    const HANDLE m_event;
 };
 
 unsigned long ask(NetworkProbe& probe, const NetworkName& name, const std::wstring& text, std::wstring& message) {
@@ -105,16 +85,18 @@ NetworkName splitNetworkName(std::wstring_view text) {
 }
 
 NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, unsigned limit) {
-    const auto check = std::make_shared<Check>();
-    const bool started = ryRunInBackground(libraryModule(), [check, &probe, text = std::wstring(trimmed(name.view()))] {
-        const SetOnExit done(check->done.get());  // also when memory ran out: as good as no answer
-        check->error = ask(probe, splitNetworkName(text), text, check->message);
-    });
-    if (!started || !waitWhilePainting(check->done.get(), limit)) {
+    const auto outcome = askInTime<Outcome>(
+        [&probe, text = std::wstring(trimmed(name.view()))] {
+            Outcome found;
+            found.error = ask(probe, splitNetworkName(text), text, found.message);
+            return found;
+        },
+        limit);
+    if (!outcome) {
         return {false, false, 1, {}};
     }
-    const bool asksWho = wantsLogin(check->error);
-    return {check->error == NO_ERROR || asksWho, asksWho, codeOf(check->error), CString(check->message)};
+    const bool asksWho = wantsLogin(outcome->error);
+    return {outcome->error == NO_ERROR || asksWho, asksWho, codeOf(outcome->error), CString(outcome->message)};
 }
 
 NetworkAnswer networkLogin(NetworkProbe& probe, HWND owner, const NetworkName& location) {
