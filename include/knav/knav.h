@@ -28,6 +28,7 @@
 #include <knav/CNavTree.h>
 #include <knav/FileDialogAllowReturnFolderEnabler.h>
 #include <knav/NavExtensions.h>
+#include <knav/NavFind.h>
 #include <knav/NavFolders.h>
 #include <knav/NavItemList.h>
 #include <knav/NavLinks.h>
