@@ -147,6 +147,11 @@ void DialogLayout::closeColumn(UINT id) {
     layOutAgain();
 }
 
+void DialogLayout::closeGap(UINT id) {
+    m_layout.closeGap(id);
+    layOutAgain();
+}
+
 void DialogLayout::joinRows(UINT upper, UINT lower) {
     m_layout.joinRows(upper, lower);
     layOutAgain();

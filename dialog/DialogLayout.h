@@ -17,6 +17,9 @@ public:
     /// Gives the room of a hidden column left of the body to its neighbours, and lays out again.
     void closeColumn(UINT id);
 
+    /// Gives the room of a hidden control in a row to what stands before it, and lays out again.
+    void closeGap(UINT id);
+
     /// Puts two buttons that stand one above the other into one row, and lays out again.
     void joinRows(UINT upper, UINT lower);
 

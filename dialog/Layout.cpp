@@ -87,6 +87,27 @@ LaidOut* Layout::find(UINT id) {
     return found == m_items.end() ? nullptr : &*found;
 }
 
+void Layout::closeGap(UINT id) {
+    const LaidOut* const gap = find(id);
+    if (!gap)
+        return;
+    const auto inRow = [gap](const LaidOut& item) { return &item != gap && meets(spanDown(item), spanDown(*gap)); };
+    LONG next = gap->at.right;  // where the row goes on
+    for (const LaidOut& item : m_items) {
+        if (inRow(item) && item.at.left >= gap->at.right && (next == gap->at.right || item.at.left < next))
+            next = item.at.left;
+    }
+    const LONG gained = next - gap->at.left;
+    for (LaidOut& item : m_items) {
+        if (!inRow(item) || item.at.right > gap->at.left || item.across == Grow::Stay)
+            continue;
+        item.at.right += gained;
+        if (item.across == Grow::Move)
+            item.at.left += gained;
+    }
+    m_least.reset();
+}
+
 void Layout::joinRows(UINT upper, UINT lower) {
     LaidOut* const first = find(upper);
     const LaidOut* const second = find(lower);

@@ -45,6 +45,10 @@ public:
     /// Gives the room of a column left of the body (a control that is not shown) to what stands right of it.
     void closeColumn(UINT id);
 
+    /// Gives the room of a control in a row (it is not shown) to the one that stretches before it; what stands between
+    /// the two moves along.
+    void closeGap(UINT id);
+
     /// Two buttons that stand one above the other where nothing else is left: puts the upper one before the lower one,
     /// and gives its row to the body and to what ends with the lower one.
     void joinRows(UINT upper, UINT lower);
