@@ -213,11 +213,12 @@ UINT driveProblem(UINT type) {
 
 std::wstring withExtensionOf(std::wstring_view name, std::wstring_view pattern) {
     const std::size_t nameDot = name.rfind(L'.');
-    const std::size_t patternDot = pattern.rfind(L'.');
-    if (nameDot == std::wstring_view::npos || !namesOneExtension(pattern)) {
+    const std::wstring_view extension = pattern.substr(pattern.rfind(L'.') + 1);
+    const bool isPlain = !extension.empty() && extension.find_first_of(L"*?") == std::wstring_view::npos;
+    if (nameDot == std::wstring_view::npos || !isPlain) {
         return std::wstring(name);
     }
-    return std::wstring(name.substr(0, nameDot + 1)) + std::wstring(pattern.substr(patternDot + 1));
+    return std::wstring(name.substr(0, nameDot + 1)) + std::wstring(extension);
 }
 
 }  // namespace knav

@@ -163,6 +163,8 @@ TEST(NameRules, DriveProblemTellsMissingDrivesFromEmptyOnes) {
 TEST(NameRules, WithExtensionOfTakesItFromThePattern) {
     EXPECT_EQ(withExtensionOf(L"a.b.txt", L"*.dwg"), L"a.b.dwg");
     EXPECT_EQ(withExtensionOf(L"plain", L"*.dwg"), L"plain");
+    EXPECT_EQ(withExtensionOf(L"a.txt", L"plan*.dwg"), L"a.dwg");
+    EXPECT_EQ(withExtensionOf(L"a.txt", L"*.dw?"), L"a.txt");
 }
 
 }  // namespace
