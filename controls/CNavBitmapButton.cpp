@@ -14,6 +14,7 @@ struct ToolButtonFace {
     Picture picture;
     int loadedSize = 0;  // pixels that `picture` was loaded for; 0: not yet
     UINT pictureId = 0;
+    HINSTANCE pictureModule = nullptr;
     CString tipText;
     ButtonTip tip;
     ButtonTheme theme;
@@ -63,8 +64,9 @@ UINT CNavBitmapButton::GetPictureId() const {
     return m_face->pictureId;
 }
 
-void CNavBitmapButton::SetPictureId(UINT id) {
+void CNavBitmapButton::SetPictureId(UINT id, HINSTANCE module) {
     m_face->pictureId = id;
+    m_face->pictureModule = module;
     m_face->picture.reset();
     m_face->loadedSize = 0;
     Invalidate(FALSE);
@@ -197,7 +199,7 @@ void CNavBitmapButton::PaintContent(HDC dc, const RECT& area, const ButtonState&
     const UINT dpi = GetDpi();
     const int size = scaled(kPictureSize, dpi);
     if (m_face->pictureId != 0 && m_face->loadedSize != size) {
-        m_face->picture = loadPicture(MAKEINTRESOURCEW(m_face->pictureId), size);
+        m_face->picture = loadPicture(MAKEINTRESOURCEW(m_face->pictureId), size, m_face->pictureModule);
         m_face->loadedSize = size;
         if (m_face->picture && m_face->directional && (GetExStyle() & WS_EX_LAYOUTRTL))
             m_face->picture->RotateFlip(Gdiplus::RotateNoneFlipX);

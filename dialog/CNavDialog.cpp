@@ -32,7 +32,7 @@ ON_REGISTERED_MESSAGE(CNavDialogImp::s_ownMessage, &CNavDialog::OnImpMessage)
 END_MESSAGE_MAP()
 
 CNavDialog::CNavDialog(CNavDataArray& data, CNavFilterArray& filters, UINT idd, CWnd* parent, HINSTANCE instance)
-    : CZoUiDialog(idd == 0 ? IDD_KNAV : idd, parent, idd == 0 ? knav::templateModule() : instance),
+    : CZoUiDialog(idd == 0 ? IDD_KNAV : idd, parent, idd == 0 ? knav::ownResources() : instance),
       m_imp(new CNavDialogImp(data, filters, idd == 0 ? IDD_KNAV : idd, *this)) {
 }
 
@@ -109,11 +109,11 @@ BOOL CNavDialog::OnHelpInfo(HELPINFO* info) {
 }
 
 LRESULT CNavDialog::OnKickIdle(WPARAM wParam, LPARAM lParam) {
-    return m_imp->OnKickIdle(wParam, lParam);
+    return knav::atApiEdge(LRESULT{0}, [&] { return m_imp->OnKickIdle(wParam, lParam); });
 }
 
 void CNavDialog::OnContextMenu(CWnd*, POINT point) {
-    m_imp->OnContextMenu(nullptr, point);
+    knav::atApiEdge([&] { m_imp->OnContextMenu(nullptr, point); });
 }
 
 void CNavDialog::OnSize(UINT type, int cx, int cy) {
@@ -122,7 +122,7 @@ void CNavDialog::OnSize(UINT type, int cx, int cy) {
 }
 
 void CNavDialog::OnGetMinMaxInfo(MINMAXINFO* info) {
-    m_imp->OnGetMinMaxInfo(*info);
+    knav::atApiEdge([&] { m_imp->OnGetMinMaxInfo(*info); });
 }
 
 LRESULT CNavDialog::OnWmGetIShellBrowser(WPARAM, LPARAM) {

@@ -47,6 +47,7 @@ ON_CONTROL(CBN_EDITCHANGE, IDC_KNAV_FILE_NAME, &CNavDialogImp::OnFileNameEdit)
 ON_CONTROL(CBN_SELCHANGE, IDC_KNAV_FILE_NAME, &CNavDialogImp::OnFileNameSelected)
 ON_CONTROL(CBN_KILLFOCUS, IDC_KNAV_FILE_NAME, &CNavDialogImp::OnFileNameComboKillFocus)
 ON_CONTROL(CBN_SELENDOK, IDC_KNAV_FILE_TYPE, &CNavDialogImp::OnFileTypeSelected)
+ON_CONTROL(CBN_SELENDCANCEL, IDC_KNAV_FILE_TYPE, &CNavDialogImp::OnFileTypeCancel)
 ON_CONTROL(LBN_SELCHANGE, IDC_KNAV_PLACES, &CNavDialogImp::OnPlacesSelected)
 ON_COMMAND(IDM_KNAV_OPEN, &CNavDialogImp::OnOpenMenuOpen)
 ON_COMMAND(IDM_KNAV_OPEN_READ_ONLY, &CNavDialogImp::OnOpenMenuOpenReadOnly)
@@ -112,9 +113,9 @@ void CNavDialogImp::resetRun() {
     m_data.RemoveAllData();
     m_policies = {};
     m_currentFilter = &m_noFilter;  // the host may have other file types by now
+    m_fileTypeInUse = -1;
     m_browser.SetCurrentFilter(nullptr);
     m_browser.SetCurrentObjectID(nullptr);
-    m_options.readOnlySpecified = 0;
     m_enterHeldSinceStart = true;
     m_started = false;
     m_ok.closing = false;
@@ -260,8 +261,7 @@ void CNavDialogImp::OnOwnMessage(OwnMessage message) {
             m_facade.UpdateUIState();
             break;
         case OwnMessage::RunOk:
-            m_options.readOnlySpecified = 0;
-            m_facade.OnOK();
+            openFromView();
             break;
         case OwnMessage::FollowLookIn:
             followLookIn();
@@ -269,10 +269,21 @@ void CNavDialogImp::OnOwnMessage(OwnMessage message) {
         case OwnMessage::RestoreLookIn:
             restoreLookIn();
             break;
+        case OwnMessage::RestoreFileType:
+            m_fileType.SetCurSel(m_fileTypeInUse);
+            break;
         case OwnMessage::ShowTypedName:
             showTypedName();
             break;
     }
+}
+
+/// What the user double-clicks is what is meant, not a name that was typed before.
+void CNavDialogImp::openFromView() {
+    if (m_fileName.IsFileNameComboBoxDirty() && selectedCount() > 0) {
+        m_facade.OnFolderItemChange();
+    }
+    m_facade.OnOK();
 }
 
 void CNavDialogImp::OnLookInSelEnd() {
@@ -302,6 +313,11 @@ void CNavDialogImp::OnFileNameSelected() {
 
 void CNavDialogImp::OnFileTypeSelected() {
     m_facade.OnFilterChange();
+}
+
+/// As with the folders: a type that was only passed over is not the one in force.
+void CNavDialogImp::OnFileTypeCancel() {
+    postToSelf(OwnMessage::RestoreFileType);
 }
 
 void CNavDialogImp::OnDestroy() {
@@ -344,7 +360,11 @@ LRESULT CNavDialogImp::OnKickIdle(WPARAM, LPARAM count) {
 }
 
 BOOL CNavDialogImp::OnHelpInfo(HELPINFO*) {
-    m_facade.OnDialogHelp();
+    if (const CString& tag = m_facade.GetHelpTag(); !tag.IsEmpty()) {
+        m_facade.OnDialogHelp(tag);
+    } else {
+        m_facade.OnDialogHelp();
+    }
     return TRUE;
 }
 

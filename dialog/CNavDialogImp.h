@@ -35,7 +35,7 @@ class CNavDialogImp final : public CCmdTarget,
                             public knav::PlacesHost {
 public:
     /// Work that must wait until the handler that asked for it has returned.
-    enum class OwnMessage { SyncSelection, RunOk, FollowLookIn, RestoreLookIn, ShowTypedName };
+    enum class OwnMessage { SyncSelection, RunOk, FollowLookIn, RestoreLookIn, RestoreFileType, ShowTypedName };
     static const UINT s_ownMessage;
 
     CNavDialogImp(CNavDataArray& data, CNavFilterArray& filters, UINT idd, CNavDialog& facade);
@@ -222,13 +222,13 @@ private:
     void loadFileNameHistory();
     void startPlaces();
     void startPictures();
+    void keepNamesLeftToRight();
     void captureLayout();
     void startFocus();
     void finishStart();
 
     // assistive tools (DialogAccess.cpp)
     void startAccessibility();
-    void keepNamesLeftToRight();
     void nameView();
 
     // folders
@@ -239,16 +239,15 @@ private:
     void followLookIn();
     void restoreLookIn();
     void showTypedName();
-    CString historyDirectory();
+    CString GetHistoryDirectoryForCurrentDialog();
     bool placeStandsFor(int row, ITEMIDLIST* folder);
 
     // names
     CString fileNameText();
-    static bool returnFolderMode();
     void selectFileNameText();
     void refuseFileName();
     void clearStaleName();
-    void setCurrentFilter(CNavFilter* filter);
+    void useFileType(int index);
     void updateExtensionForType();
     void leaveIfFocused(CWnd& control, bool staysEnabled);
 
@@ -287,12 +286,14 @@ private:
     bool translateAccelerator(MSG& message);
     void postToSelf(OwnMessage message);
     void closeView();
+    void openFromView();
     void OnLookInSelEnd();
     void OnLookInSelCancel();
     void OnFileNameComboKillFocus();
     void OnFileNameEdit();
     void OnFileNameSelected();
     void OnFileTypeSelected();
+    void OnFileTypeCancel();
     void OnOpenMenuOpen();
     void OnOpenMenuOpenReadOnly();
     void OnFind();
@@ -324,6 +325,7 @@ private:
     CNavFilter m_noFilter;
     CNavFilter m_wildcardFilter;
     CNavFilter* m_currentFilter = &m_noFilter;
+    int m_fileTypeInUse = -1;  // while the list is dropped down it may show another
     knav::BackHistory m_previous;
     knav::DialogLayout m_layout;
     HACCEL m_accelerators = nullptr;

@@ -12,12 +12,13 @@ void CNavDialogImp::startAccessibility() {
         UINT label;
         bool dropsMenu;
     };
-    constexpr Row rows[] = {
+    const bool okDropsMenu = m_okButton.GetMenuExists() != 0;
+    const Row rows[] = {
         {IDC_KNAV_PLACES, ROLE_SYSTEM_LIST, IDC_KNAV_PLACES_LABEL, false},
         {IDC_KNAV_LOOK_IN, ROLE_SYSTEM_COMBOBOX, IDC_KNAV_LOOK_IN_LABEL, false},
         {IDC_KNAV_FILE_NAME, ROLE_SYSTEM_COMBOBOX, IDC_KNAV_FILE_NAME_LABEL, false},
         {IDC_KNAV_FILE_TYPE, ROLE_SYSTEM_COMBOBOX, IDC_KNAV_FILE_TYPE_LABEL, false},
-        {IDOK, ROLE_SYSTEM_SPLITBUTTON, 0, true},
+        {IDOK, okDropsMenu ? ROLE_SYSTEM_SPLITBUTTON : ROLE_SYSTEM_PUSHBUTTON, 0, okDropsMenu},
         {IDCANCEL, ROLE_SYSTEM_PUSHBUTTON, 0, false},
     };
     const HWND dialog = m_facade.GetSafeHwnd();
@@ -31,23 +32,6 @@ void CNavDialogImp::startAccessibility() {
         const bool drops = button == &m_toolsButton || button == &m_viewsButton;
         knav::makeAccessible(button->GetSafeHwnd(), {drops ? ROLE_SYSTEM_BUTTONMENU : ROLE_SYSTEM_PUSHBUTTON, nullptr,
                                                      drops, [button] { return std::wstring(button->GetTipText()); }});
-    }
-}
-
-/// Names and paths are read from the left in every language.
-void CNavDialogImp::keepNamesLeftToRight() {
-    COMBOBOXINFO info{};
-    info.cbSize = sizeof info;
-    if (!m_fileName.GetSafeHwnd() || !GetComboBoxInfo(m_fileName.GetSafeHwnd(), &info)) {
-        return;
-    }
-    // The text of the list of file types below begins this far from the field's edge.
-    ::SendMessageW(info.hwndItem, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(1, 1));
-    constexpr LONG_PTR fromTheRight = WS_EX_LAYOUTRTL | WS_EX_RTLREADING | WS_EX_RIGHT;
-    const LONG_PTR style = GetWindowLongPtrW(info.hwndItem, GWL_EXSTYLE);
-    if ((style & fromTheRight) != 0) {
-        SetWindowLongPtrW(info.hwndItem, GWL_EXSTYLE, style & ~fromTheRight);
-        ::InvalidateRect(info.hwndItem, nullptr, TRUE);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "dialog/CNavDialogImp.h"
 #include "dialog/FolderQuestions.h"
 #include "dialog/Messages.h"
+#include "dialog/ScopedFlag.h"
 #include "resources/ids.h"
 #include "shell/Guard.h"
 
@@ -135,11 +136,11 @@ void CNavDialogImp::OnLocate() {
 }
 
 void CNavDialogImp::OnOpenMenuOpen() {
-    m_options.readOnlySpecified = 0;
     m_facade.OnOK();
 }
 
 void CNavDialogImp::OnOpenMenuOpenReadOnly() {
+    const knav::ScopedFlag readOnly(m_ok.readOnly);
     m_options.readOnlySpecified = 1;
     m_facade.OnOK();
     // Refused: it was this attempt that was to be read-only, not the next one.

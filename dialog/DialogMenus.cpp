@@ -53,11 +53,14 @@ int CNavDialogImp::PrepareButtonMenu(UINT buttonId, CMenu& menu) {
     const UINT menuId = buttonId == IDOK             ? IDR_KNAV_OK_MENU
                         : buttonId == IDC_KNAV_TOOLS ? IDR_KNAV_TOOLS_MENU
                                                      : IDR_KNAV_VIEWS_MENU;
-    if (!menu.LoadMenu(menuId, knav::resourceModule())) {
+    if (!menu.LoadMenu(menuId, knav::ownResources())) {
         return 0;
     }
     CMenu* popup = menu.GetSubMenu(0);
     if (buttonId == IDOK) {
+        CString caption;
+        m_okButton.GetWindowText(caption);
+        popup->ModifyMenu(IDM_KNAV_OPEN, MF_BYCOMMAND | MF_STRING, IDM_KNAV_OPEN, caption);
         m_facade.PrepareOkMenu(popup);
     } else if (buttonId == IDC_KNAV_TOOLS) {
         m_facade.PrepareToolsMenu(popup);

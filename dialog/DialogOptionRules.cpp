@@ -38,7 +38,8 @@ void CNavDialogImp::SetDefaultFileExtension(const wchar_t* text) {
         CNavPathname path;
         path.Parse(text, true);
         path.GetExtension(extension);
-    } else {
+    }
+    if (extension.IsEmpty()) {  // a URL is no path, and a server that is gone is not asked
         extension = extensionIn(text);
     }
     if (extension.IsEmpty()) {
@@ -126,7 +127,7 @@ void CNavDialogImp::SetFilterIndex(int index) {
     }
     m_fileType.SetCurSel(index);
     m_options.filterIndex = index;
-    setCurrentFilter(m_filters.GetData(index));
+    useFileType(index);
     if (m_browser.GetCurrentObjectID()) {
         m_browser.BrowseCurrentObject();
     }

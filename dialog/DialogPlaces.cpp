@@ -68,7 +68,7 @@ void CNavDialogImp::SavePlacesList() {
     m_placesListDirty = false;
 }
 
-CString CNavDialogImp::historyDirectory() {
+CString CNavDialogImp::GetHistoryDirectoryForCurrentDialog() {
     CString folder;
     m_facade.GetRecentDirectory(folder);
     if (folder.IsEmpty()) {
@@ -81,7 +81,8 @@ CString CNavDialogImp::historyDirectory() {
 void CNavDialogImp::SetPlacesId(int index) {
     switch (m_places.GetItemType(index)) {
         case PlacesItemHistory:
-            m_places.SetItemIdList(index, NavGetQualifiedItemListFromFolderFullPath(historyDirectory()));
+            m_places.SetItemIdList(index,
+                                   NavGetQualifiedItemListFromFolderFullPath(GetHistoryDirectoryForCurrentDialog()));
             break;
         case PlacesItemPersonal:
             m_places.SetItemIdList(index, specialFolder(CSIDL_PERSONAL));

@@ -18,10 +18,6 @@ bool CNavDialogImp::multiSelectAllowed() const {
     return m_browser.GetMultiSelectAllowed() != 0;
 }
 
-bool CNavDialogImp::returnFolderMode() {
-    return FileDialogAllowReturnFolderEnabler::status();
-}
-
 CString CNavDialogImp::fileNameText() {
     CString text;
     if (m_fileName.GetSafeHwnd()) {
@@ -54,7 +50,7 @@ void CNavDialogImp::refuseFileName() {
 
 void CNavDialogImp::SyncEditFieldToBrowser() {
     m_browser.SendSelectionToData(m_data);
-    if (m_data.GetCount() == 0 && !returnFolderMode()) {
+    if (m_data.GetCount() == 0) {
         clearStaleName();
         return;
     }
@@ -67,9 +63,11 @@ void CNavDialogImp::SyncEditFieldToBrowser() {
 }
 
 /// A name that only stood for the selection goes with it. What the user typed stays, and so does every name in a
-/// dialog that saves: picking a file there is a way of typing its name.
+/// dialog that saves: picking a file there is a way of typing its name. Where folders can be chosen by their names, one
+/// that was left would be taken for a folder in the one shown.
 void CNavDialogImp::clearStaleName() {
-    if (m_nameCameFromSelection && !m_fileNameEditDirty && !m_options.creatingFile) {
+    const bool keepsNames = m_options.creatingFile && !FileDialogAllowReturnFolderEnabler::status();
+    if (m_nameCameFromSelection && !m_fileNameEditDirty && !keepsNames) {
         setFileNameText(CString());
     }
 }
@@ -116,13 +114,15 @@ void CNavDialogImp::showTypedName() {
     }
 }
 
-void CNavDialogImp::setCurrentFilter(CNavFilter* filter) {
+void CNavDialogImp::useFileType(int index) {
+    CNavFilter* filter = m_filters.GetData(index);
+    m_fileTypeInUse = index;
     m_currentFilter = filter ? filter : &m_noFilter;
     m_browser.SetCurrentFilter(m_currentFilter);
 }
 
 void CNavDialogImp::OnFilterChange() {
-    setCurrentFilter(m_filters.GetData(GetFilterIndex()));
+    useFileType(GetFilterIndex());
     if (m_options.creatingFile) {
         updateExtensionForType();
     }

@@ -9,6 +9,7 @@
 
 #include <array>
 
+#include "controls/Dpi.h"
 #include "dialog/CNavDialogImp.h"
 #include "dialog/FolderQuestions.h"
 #include "dialog/FolderTexts.h"
@@ -57,8 +58,8 @@ void CNavDialogImp::InitializeDialogData() {
     startFilter();
     m_appendCompletion = GetAutoCompleteRegValue();
     startLookIn();
-    showInitialFolder(folder);
     pushOptionsToControls();
+    showInitialFolder(folder);
     SyncListToComboBox();
     showSomeFolder();
     if (!m_options.okButtonText.IsEmpty() && m_okButton.GetSafeHwnd()) {
@@ -91,7 +92,7 @@ void CNavDialogImp::startFoldersOnly() {
 
 void CNavDialogImp::startAccelerators() {
     if (!m_accelerators) {
-        m_accelerators = LoadAcceleratorsW(knav::resourceModule(), MAKEINTRESOURCEW(IDR_KNAV_KEYS));
+        m_accelerators = LoadAcceleratorsW(knav::ownResources(), MAKEINTRESOURCEW(IDR_KNAV_KEYS));
     }
 }
 
@@ -165,6 +166,7 @@ void CNavDialogImp::startButtons() {
     }
     if (m_policies.noBackButton) {
         hide(m_backButton);
+        m_layout.closeGap(IDC_KNAV_BACK);
     }
 }
 
@@ -176,8 +178,6 @@ void CNavDialogImp::startLookIn() {
     RECT client{};  // the box is as high as its pictures now
     m_facade.GetClientRect(&client);
     m_layout.apply(client.right, client.bottom);
-    m_lookIn.SetNoFTP(m_options.noFtp || m_options.noUrlsAllowed);
-    m_lookIn.SetNoExtraExtensions(m_options.noExtraExtensions || m_options.noUrlsAllowed);
 }
 
 void CNavDialogImp::showInitialFolder(const CString& folder) {
@@ -288,8 +288,26 @@ void CNavDialogImp::startPictures() {
     };
     m_backButton.SetPictureDirectional(1);
     for (const ButtonLook& look : looks) {
-        look.button->SetPictureId(look.picture);
+        look.button->SetPictureId(look.picture, knav::ownResources());
         look.button->SetTipText(knav::messageText(look.tip));
+    }
+}
+
+/// Names and paths are read from the left in every language.
+void CNavDialogImp::keepNamesLeftToRight() {
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    if (!m_fileName.GetSafeHwnd() || !GetComboBoxInfo(m_fileName.GetSafeHwnd(), &info)) {
+        return;
+    }
+    // The text of the list of file types below begins this far from the field's edge.
+    const int margin = knav::scaled(1, GetDpiForWindow(info.hwndItem));
+    ::SendMessageW(info.hwndItem, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
+    constexpr LONG_PTR fromTheRight = WS_EX_LAYOUTRTL | WS_EX_RTLREADING | WS_EX_RIGHT;
+    const LONG_PTR style = GetWindowLongPtrW(info.hwndItem, GWL_EXSTYLE);
+    if ((style & fromTheRight) != 0) {
+        SetWindowLongPtrW(info.hwndItem, GWL_EXSTYLE, style & ~fromTheRight);
+        ::InvalidateRect(info.hwndItem, nullptr, TRUE);
     }
 }
 

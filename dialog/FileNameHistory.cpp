@@ -12,6 +12,9 @@ namespace {
 
 constexpr int kLongestEntry = 254;
 
+/// The system keeps a link to each, and forgets all but the last few dozen.
+constexpr int kMostRecentDocuments = 20;
+
 }  // namespace
 
 /// The form in which a name enters the history, or nothing when it does not.
@@ -82,7 +85,7 @@ void CNavDialogImp::AddDataToHistory() {
     if (m_policies.noRecentDocsHistory) {
         return;
     }
-    for (int i = 0; i < m_data.GetCount(); ++i) {
+    for (int i = 0; i < std::min(m_data.GetCount(), kMostRecentDocuments); ++i) {
         const CNavData* item = m_data.GetData(i);
         if (item && (item->GetDataType() == NAV_DATA_FILE || item->GetDataType() == NAV_DATA_NETWORK)) {
             SHAddToRecentDocs(SHARD_PATHW, item->GetText());

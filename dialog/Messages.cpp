@@ -15,12 +15,9 @@ constexpr wchar_t kTaskDialogs[] = L"/RyTaskDialogs;component/TaskDialogs.xaml";
 
 }  // namespace
 
-// Looked up in the one module: a host may have a text of the same number.
 CString messageText(UINT id) {
     CString text;
-    if (const HMODULE module = resourceModule()) {
-        text.LoadString(module, id);
-    }
+    text.LoadString(ownResources(), id);
     return text;
 }
 

@@ -217,7 +217,7 @@ int CNavDialogImp::ExtractDirectoryFromURL(const CString& url, CString& director
 
 void CNavDialogImp::GetSingleDataFullPath(CString& path) {
     path.Empty();
-    if (m_data.GetCount() == 1) {
-        m_facade.CombineDataTextWithFolderName(m_data.GetData(0), path);
+    if (m_data.GetCount() == 1 && m_facade.CombineDataTextWithFolderName(m_data.GetData(0), path) != OkErrNone) {
+        path.Empty();
     }
 }

@@ -15,6 +15,7 @@ void CNavDialogImp::OnOK() {
         return;
     }
     m_ok.closing = false;
+    m_options.readOnlySpecified = m_ok.readOnly;
     {
         const knav::NetworkAnswers::Scope asked(m_ok.network);
         const knav::ScopedFlag running(m_ok.running);

@@ -88,7 +88,7 @@ HMODULE resourceModule() {
     return module.get();
 }
 
-HMODULE templateModule() {
+HMODULE ownResources() {
     const HMODULE module = resourceModule();
     return module ? module : libraryModule();
 }

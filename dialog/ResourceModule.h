@@ -12,9 +12,10 @@ void setResourceLanguage(const wchar_t* language);
 /// cannot be found the user is told once, and null is returned: the library goes on without resources.
 HMODULE resourceModule();
 
-/// Where the library's own dialog templates are looked for: the resource module, and when it is missing a module that
-/// has none. Null would let the framework search every module, and take a host's template of the same number.
-HMODULE templateModule();
+/// Where the library's own templates, menus, keys and texts are looked for: the resource module, and when it is missing
+/// a module that has none. Null would stand for the program or for every module, and find a host's own of the same
+/// number.
+HMODULE ownResources();
 
 /// The module that this code belongs to.
 HINSTANCE libraryModule();

@@ -19,10 +19,10 @@ public:
     CNavBitmapButton();
     ~CNavBitmapButton() override;
 
-    /// The picture: id of an icon in the resource modules, loaded in the size right for the monitor when it is first
-    /// painted. 0: none, the text shows. Default 0.
+    /// The picture: id of an icon in `module` (null: in the resource modules), loaded in the size right for the monitor
+    /// when it is first painted. 0: none, the text shows. Default 0.
     UINT GetPictureId() const;
-    void SetPictureId(UINT id);
+    void SetPictureId(UINT id, HINSTANCE module = nullptr);
 
     /// Whether the picture points in the direction of reading, and so the other way in a mirrored dialog. Default 0.
     int GetPictureDirectional() const;

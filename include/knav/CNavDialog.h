@@ -53,7 +53,8 @@ public:
     UINT GetIDD() const;
     /// Full path of the single chosen item, or empty when there is not exactly one.
     void GetSingleDataFullPath(CString& path);
-    /// Set when the user chose "open read-only"; read it after the dialog. Default 0.
+    /// Set when the user chose "open read-only"; read it after the dialog. What the host sets stays until the user
+    /// chooses OK in one way or the other. Default 0.
     int GetReadOnlySpecified() const;
     void SetReadOnlySpecified(int specified);
 
@@ -199,7 +200,7 @@ public:
 protected:
     // --- hooks, in the order of their slots ----------------------------------------------------------------------
 
-    /// The user asked for help.
+    /// The user asked for help, and the dialog has no help tag (SetHelpTag).
     virtual void OnDialogHelp();
     /// Write and read a value that all dialogs share. Nonzero on success.
     virtual int SetAllDialogsData(const CString& name, unsigned long value);
@@ -218,7 +219,7 @@ protected:
     virtual int BeginDownloadFiles(CStringArray& urls, CDWordArray& codes);
     /// Code word for the transfer of one URL. Default 4.
     virtual unsigned long GetDownloadActionCodes(CString& url);
-    /// The user asked for help on a topic.
+    /// The user asked for help; `topic` is the dialog's help tag.
     virtual void OnDialogHelp(const wchar_t* topic);
     /// The menu is about to drop down; change it here.
     virtual void PrepareOkMenu(CMenu* menu);

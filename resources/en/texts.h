@@ -96,7 +96,7 @@
 #define TXT_NO_SAVE_AT_ROOT "You cannot save here, at the top of the list.\nOpen one of the locations in it, and save there."
 #define TXT_NO_FOLDER_TO_SAVE "You cannot save in this location, because it is not a folder on a disk.\nGo to a folder, and save there."
 #define TXT_NO_FOLDER_TO_OPEN "A file name cannot be opened from this location, because it is not a folder on a disk.\nGo to the folder that holds the file, or type its full path."
-#define TXT_LOCATE_FAILED "“%1” is not in any folder of the search path.\nCheck the name, or look for the file with Find on the Tools menu."
+#define TXT_LOCATE_FAILED "“%1” is not in any folder of the search path.\nCheck the name, or go to the folder that holds the file."
 #define TXT_KEEP_PLACES "You have changed the Places list.\nDo you want to keep the changes?"
 #define TXT_REPLACE "“%1” already exists.\nDo you want to replace it?"
 #define TXT_TRANSFER_FAILED "The files could not be transferred.\nCheck the address and the network connection, and try again."

@@ -235,6 +235,19 @@ TEST_F(DialogCommands, LookIn_GivenUp_GoesBackToTheFolderThatIsShown) {
     EXPECT_EQ(user.cancel().run(), IDCANCEL);
 }
 
+TEST_F(DialogCommands, FileTypeGivenUp_GoesBackToTheOneInForce) {
+    RecordingDialog dialog(folder.path());
+    DialogUser user(dialog);
+    const auto typeList = [] { return DialogDriver::control(IDC_KNAV_FILE_TYPE); };
+    user.settle().check([typeList] { SendMessageW(typeList(), CB_SHOWDROPDOWN, TRUE, 0); });
+    for (const WORD key : {VK_DOWN, VK_ESCAPE}) {
+        user.check([key, typeList] { PostMessageW(typeList(), WM_KEYDOWN, key, 0); }).settle();
+    }
+    user.check([&dialog] { EXPECT_EQ(dialog.GetFilterIndex(), kDrawings); });
+    EXPECT_EQ(user.cancel().run(), IDCANCEL);
+    EXPECT_EQ(dialog.count("OnFilterChange"), 0);
+}
+
 TEST_F(DialogCommands, LookIn_FolderThatIsGone_IsToldAndTheComboGoesBack) {
     prompts.answer(IDOK);
     RecordingDialog dialog(folder.path(L"1\\2"));

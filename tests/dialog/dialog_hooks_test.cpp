@@ -138,13 +138,16 @@ TEST_F(DialogHooks, WhatTheUserDoes_ReachesItsHook) {
                      reinterpret_cast<LPARAM>(list));
     });
     expectThenForget("OnPlacesChanged");
-    user.check([] {
-        HELPINFO info{};
-        info.cbSize = sizeof info;
-        info.hItemHandle = DialogDriver::dialog();
-        SendMessageW(DialogDriver::dialog(), WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
-    });
-    expectThenForget("OnDialogHelp");
+    for (const char* const hook : {"OnDialogHelp", "OnDialogHelp opening.htm"}) {
+        user.check([] {
+            HELPINFO info{};
+            info.cbSize = sizeof info;
+            info.hItemHandle = DialogDriver::dialog();
+            SendMessageW(DialogDriver::dialog(), WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+        });
+        expectThenForget(hook);
+        user.check([&dialog] { dialog.SetHelpTag(L"opening.htm"); });
+    }
     user.cancel();
     EXPECT_EQ(user.run(), IDCANCEL);
     EXPECT_THAT(dialog.log, Not(Contains("PreprocessData")));
@@ -308,6 +311,10 @@ TEST_F(DialogHooks, OpenReadOnly_IsToldToTheHost) {
     RecordingDialog dialog(folder.path());
     EXPECT_EQ(DialogUser(dialog).type(L"plan.dwg").command(IDM_KNAV_OPEN_READ_ONLY).run(), IDOK);
     EXPECT_EQ(dialog.GetReadOnlySpecified(), 1);
+    EXPECT_EQ(DialogUser(dialog).settle().cancel().run(), IDCANCEL);
+    EXPECT_EQ(dialog.GetReadOnlySpecified(), 1) << "nothing was decided";
+    EXPECT_EQ(DialogUser(dialog).type(L"plan.dwg").ok().run(), IDOK);
+    EXPECT_EQ(dialog.GetReadOnlySpecified(), 0);
 }
 
 TEST_F(DialogHooks, OkMenu_OffersReadOnlyAsTheOptionsSay) {

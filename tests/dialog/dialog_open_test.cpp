@@ -77,6 +77,10 @@ TEST_F(DialogOpen, NameTypedOverASelection_Wins) {
     TestDialog dialog(folder.path());
     EXPECT_EQ(DialogUser(dialog).pick({L"a.dwg"}).untilName(L"a.dwg").type(L"b.dwg").ok().run(), IDOK);
     EXPECT_THAT(dialog.chosen(), ElementsAre(wide(typed)));
+    DialogUser user(dialog);
+    user.pick({L"a.dwg"}).untilName(L"a.dwg").type(L"b.dwg").doubleClick(L"a.dwg");
+    EXPECT_EQ(user.run(), IDOK);
+    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(L"a.dwg")))) << "but not over what is double-clicked";
 }
 
 TEST_F(DialogOpen, DoubleClickOnFile_ClosesWithIt) {

@@ -28,9 +28,13 @@ TEST_F(DialogOptionsTest, Caption_IsTrimmed) {
 
 TEST_F(DialogOptionsTest, DefaultFileExtension_IsTakenOutOfWhatIsGiven) {
     const std::pair<const wchar_t*, const wchar_t*> rows[] = {
-        {L"dwg", L"dwg"},      {L"dwg,dxf,dwt", L"dwt"},
-        {L"plan.dwg", L"dwg"}, {L"C:\\plans\\house.v2.dxf", L"dxf"},
-        {L"*.dwg", L"dwg"},    {L"", L""},
+        {L"dwg", L"dwg"},
+        {L"dwg,dxf,dwt", L"dwt"},
+        {L"plan.dwg", L"dwg"},
+        {L"C:\\plans\\house.v2.dxf", L"dxf"},
+        {L"*.dwg", L"dwg"},
+        {L"http://host/dir/plan.dwg", L"dwg"},
+        {L"", L""},
     };
     for (const auto& [given, expected] : rows) {
         dialog.SetDefaultFileExtension(given);

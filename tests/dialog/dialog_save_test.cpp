@@ -276,6 +276,18 @@ TEST_F(DialogFolders, ReturnFolderMode_NamesAndReturnsTheSelectedFolder) {
     EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(L"sub"))));
 }
 
+TEST_F(DialogFolders, ReturnFolderMode_KeepsATypedNameWhenNothingIsSelectedAnyMore) {
+    const FileDialogAllowReturnFolderEnabler mode;
+    TestDialog dialog(folder.path());
+    DialogUser user(dialog);
+    const auto deselect = [] { ListView_SetItemState(viewList(), -1, 0, LVIS_SELECTED); };
+    user.pick({L"sub"}).untilName(L"sub").check(deselect).untilName(L"");
+    user.pick({L"sub"}).untilName(L"sub").type(L"plan.dwg").check(deselect).settle();
+    user.check([] { EXPECT_EQ(fileNameText(), L"plan.dwg"); }).ok();
+    EXPECT_EQ(user.run(), IDOK);
+    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(L"plan.dwg"))));
+}
+
 TEST_F(DialogFolders, WithoutThatMode_SelectedFolderIsNotNamed) {
     TestDialog dialog(folder.path());
     DialogUser user(dialog);

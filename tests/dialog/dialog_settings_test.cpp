@@ -1,4 +1,6 @@
 // What a dialog remembers from one run to the next, and what the user's policies switch off.
+#include <platform/CMenu.h>
+
 #include "dialog/CNavDialogImp.h"
 #include "dialog/DialogUser.h"
 #include "dialog/Messages.h"
@@ -218,6 +220,11 @@ TEST_F(DialogSettings, NoBackPolicy_TakesTheBackButtonAway) {
     user.check([] {
             EXPECT_FALSE(IsWindowVisible(DialogDriver::control(IDC_KNAV_BACK)));
             EXPECT_FALSE(IsWindowEnabled(DialogDriver::control(IDC_KNAV_BACK)));
+            RECT lookIn{};
+            RECT back{};
+            GetWindowRect(DialogDriver::control(IDC_KNAV_LOOK_IN), &lookIn);
+            GetWindowRect(DialogDriver::control(IDC_KNAV_BACK), &back);
+            EXPECT_GT(lookIn.right, back.left) << "its room is used";
         })
         .command(IDM_KNAV_BACK)
         .settle()
@@ -349,7 +356,13 @@ TEST_F(DialogSettings, OkButtonTextAndCaption_AreShown) {
     dialog.SetOkButtonText(L"&Attach");
     look(dialog, [&] {
         EXPECT_EQ(DialogDriver::text(IDOK), L"&Attach");
-        EXPECT_EQ(static_cast<CNavDialogImp*>(dialog.GetImpObject())->okButton().GetZoUiParent(), &dialog);
+        auto& imp = *static_cast<CNavDialogImp*>(dialog.GetImpObject());
+        EXPECT_EQ(imp.okButton().GetZoUiParent(), &dialog);
+        CMenu menu;
+        wchar_t entry[20] = L"";
+        EXPECT_EQ(imp.PrepareButtonMenu(IDOK, menu), 1);
+        GetMenuStringW(menu.m_hMenu, IDM_KNAV_OPEN, entry, 20, MF_BYCOMMAND);
+        EXPECT_STREQ(entry, L"&Attach");
         dialog.SetOkButtonText(L"&Bind");
         EXPECT_EQ(DialogDriver::text(IDOK), L"&Bind");
         dialog.SetDialogCaption(L"  Bind ");
