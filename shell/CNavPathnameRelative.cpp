@@ -2,8 +2,6 @@
 #include <knav/CNavPathname.h>
 #include <knav/NavNames.h>
 
-#include <wininet.h>
-
 #include "data/ApiEdge.h"
 #include "shell/FolderCalls.h"
 #include "shell/ItemList.h"
@@ -29,17 +27,6 @@ CString locationOf(CNavNode& site, const knav::ItemList& qualified) {
         NavGetItemDisplayNameInDesktop(SHGDN_FORPARSING, qualified.get(), location);
     }
     return location;
-}
-
-// Web Folders hand out escaped URLs; the dialog shows and stores them in readable form. Fails for one that is too long.
-bool decodeUrl(std::wstring& location) {
-    wchar_t decoded[MAX_PATH];
-    DWORD size = MAX_PATH;
-    if (!InternetCanonicalizeUrlW(location.c_str(), decoded, &size, ICU_DECODE | ICU_NO_ENCODE)) {
-        return false;
-    }
-    location = decoded;
-    return true;
 }
 
 }  // namespace
@@ -87,22 +74,23 @@ PathErr CNavPathname::parseInSite(const wchar_t* text, const CNavPathname* base,
         }
     }
     const auto qualified = knav::ItemList::adopt(site.CalculateQualifiedItemList());
-    std::wstring place(locationOf(site, qualified).view());
-    std::optional<std::wstring> location = knav::locationInSite(place, text);
-    if (place.empty() || !location) {
+    std::optional<std::wstring> place(locationOf(site, qualified).view());
+    std::optional<std::wstring> location = knav::locationInSite(*place, text);
+    if (place->empty() || !location) {
         return PathErr::NotFileSystem;
     }
     if (!knav::sitePrefix(*location).empty()) {
         location = knav::canonicalLocation(*location);
     }
-    if (!location || location->size() >= MAX_PATH) {
-        return PathErr::TooLong;
+    if (location && site.IsWebFoldersType()) {  // they hand out escaped URLs; people read and store plain ones
+        location = knav::decodedUrl(location->c_str());
+        place = knav::decodedUrl(place->c_str());
     }
-    if (site.IsWebFoldersType() && (!decodeUrl(*location) || !decodeUrl(place))) {
+    if (!location || !place || location->size() >= MAX_PATH) {
         return PathErr::TooLong;
     }
     setLocation(CString(*location));
-    findInSite(site, qualified.get(), std::wstring(knav::nameBelowSite(place, *location)).c_str());
+    findInSite(site, qualified.get(), std::wstring(knav::nameBelowSite(*place, *location)).c_str());
     return PathErr::None;
 }
 

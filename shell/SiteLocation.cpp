@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include <wininet.h>
+
 #include "shell/TextRules.h"
 
 namespace {
@@ -40,6 +42,15 @@ std::wstring withLowerScheme(std::wstring_view url) {
         return character >= L'A' && character <= L'Z' ? static_cast<wchar_t>(character | 0x20) : character;
     });
     return result;
+}
+
+std::optional<std::wstring> decodedUrl(const wchar_t* url) {
+    wchar_t decoded[MAX_PATH];
+    DWORD size = MAX_PATH;
+    if (!InternetCanonicalizeUrlW(url, decoded, &size, ICU_DECODE | ICU_NO_ENCODE)) {
+        return std::nullopt;
+    }
+    return decoded;
 }
 
 std::wstring_view sitePrefix(std::wstring_view location) noexcept {

@@ -13,6 +13,9 @@ bool isUrlLocation(std::wstring_view text) noexcept;
 /// The URL with its scheme, which ends at the first ":", in lower case.
 std::wstring withLowerScheme(std::wstring_view url);
 
+/// The URL with its escapes in readable form; nullopt for one that is longer than a path may be.
+std::optional<std::wstring> decodedUrl(const wchar_t* url);
+
 /// Scheme, "://" and host, without what follows the host; empty when there is no "://" with something behind it.
 std::wstring_view sitePrefix(std::wstring_view location) noexcept;
 

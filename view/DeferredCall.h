@@ -18,7 +18,6 @@ public:
 
     /// False when the system has no window left to post to; the work is then not done.
     bool post();
-    bool isPosted() const { return m_posted; }
 
 private:
     static LRESULT CALLBACK receive(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
