@@ -5,7 +5,7 @@
 #include <knav/NavNames.h>
 #include <platform/GdiOwners.h>
 
-#include "support/ItemLists.h"
+#include "support/RealNamespace.h"
 #include "support/RegistryRedirect.h"
 #include "support/TestExtension.h"
 
@@ -208,36 +208,17 @@ TEST_F(Extensions, OwnTheirFolderAndTheirItem) {
     EXPECT_EQ(m_root->references(), m_references);
 }
 
-// Registers a class in this process that hands out one folder.
-class FolderClass final : public FakeObject<IClassFactory> {
-public:
-    FolderClass(Conducts& conducts, IShellFolder* folder)
-        : FakeObject(conducts, {&IID_IClassFactory}), m_folder(folder) {}
-    ~FolderClass() override = default;
-    HRESULT WINAPI CreateInstance(IUnknown*, REFIID iid, void** object) override {
-        return m_folder->QueryInterface(iid, object);
-    }
-    HRESULT WINAPI LockServer(BOOL) override { return S_OK; }
-
-private:
-    IShellFolder* m_folder;
-};
-
 TEST_F(Extensions, RootFolderIsCreatedOnceAndOnDemand) {
-    constexpr CLSID clsid = {0x6b9d1f0a, 0x1111, 0x4222, {0x93, 0x33, 1, 2, 3, 4, 5, 6}};
-    Conducts conducts;
-    const auto factory = ComPtr<FolderClass>::adopt(new FolderClass(conducts, m_root.get()));
-    DWORD cookie = 0;
-    ASSERT_EQ(CoRegisterClassObject(clsid, factory.get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie), S_OK);
+    CLSID myComputer{};
+    ASSERT_EQ(CLSIDFromString(L"{20D04FE0-3AEA-1069-A2D8-08002B30309D}", &myComputer), S_OK);
     CNavExtension& extension = m_registered.add(L"later");
     EXPECT_EQ(extension.FetchRootFolder(), nullptr) << "no class is known";
-    extension.SetRootFolderCLSID(clsid);
+    extension.SetRootFolderCLSID(myComputer);
     const auto first = ComPtr<IShellFolder>::adopt(extension.FetchRootFolder());
-    CoRevokeClassObject(cookie);
     const auto second = ComPtr<IShellFolder>::adopt(extension.FetchRootFolder());
-    EXPECT_EQ(first.get(), m_root.get());
-    EXPECT_EQ(second.get(), m_root.get());
-    EXPECT_EQ(extension.GetRootFolder(), m_root.get());
+    EXPECT_TRUE(isSame(placeOf(first.get()), special(CSIDL_DRIVES)));
+    EXPECT_EQ(second.get(), first.get());
+    EXPECT_EQ(extension.GetRootFolder(), first.get());
 }
 
 TEST_F(Extensions, PictureIsHandedOutAsACopy) {

@@ -59,48 +59,39 @@ TEST_F(BrokenView, ViewOfTheFirstKind_IsMadeTheOldWay) {
     EXPECT_EQ(place.right, 100) << "a view of another class keeps to the placeholder too";
 }
 
-TEST_F(BrokenView, ViewThatCannotBeMade_LeavesThePreviousOneInPlace) {
+TEST_F(BrokenView, ViewThatCannotBeMade_LeavesThePreviousOneInPlaceAndNothingOverIt) {
     ASSERT_TRUE(m_host.browse(m_temp.path()));
     IShellView* const view = m_host.browser.GetCurrentShellView();
     IShellFolder* const folder = m_host.browser.GetCurrentFolder();
+    const int windows = m_host.children();
+    const auto expectPrevious = [&] {
+        EXPECT_FALSE(browseStore());
+        EXPECT_EQ(m_host.browser.GetCurrentShellView(), view);
+        EXPECT_EQ(m_host.browser.GetCurrentFolder(), folder);
+        EXPECT_EQ(m_host.shownPath().CompareNoCase(m_temp.path()), 0);
+        EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
+        EXPECT_EQ(m_host.children(), windows);
+        EXPECT_FALSE(m_host.browseOwner.browsing);
+        EXPECT_EQ(m_script.liveObjects, 1) << "the folder alone";
+    };
     for (const bool view2 : {true, false}) {
         m_script.offersView2 = view2;
         const auto creating = view2 ? ViewCall::CreateViewWindow2 : ViewCall::CreateViewWindow;
-        for (const ViewCall call : {ViewCall::CreateViewObject, creating}) {
-            for (const Conduct conduct : kBad) {
-                m_script.conduct = {{call, conduct}};
-                EXPECT_FALSE(browseStore());
-                EXPECT_EQ(m_host.browser.GetCurrentShellView(), view);
-                EXPECT_EQ(m_host.browser.GetCurrentFolder(), folder);
-                EXPECT_EQ(m_host.shownPath().CompareNoCase(m_temp.path()), 0);
-                EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
-                EXPECT_FALSE(m_host.browseOwner.browsing);
-            }
-        }
-    }
-    EXPECT_EQ(m_script.liveObjects, 1) << "the folder alone";
-}
-
-TEST_F(BrokenView, ViewThatBreaksWhenItsWindowIsThere_LeavesNoWindowOverThePreviousOne) {
-    ASSERT_TRUE(m_host.browse(m_temp.path()));
-    const int before = m_host.children();
-    for (const bool view2 : {true, false}) {
-        m_script.offersView2 = view2;
         for (const Conduct conduct : kBad) {
-            for (const Conduct destroying : {Conduct::Works, Conduct::Faults}) {
-                m_script.breaksAfterwards = true;
-                m_script.conduct = {{view2 ? ViewCall::CreateViewWindow2 : ViewCall::CreateViewWindow, conduct},
-                                    {ViewCall::DestroyViewWindow, destroying}};
-                EXPECT_FALSE(browseStore());
-                EXPECT_EQ(m_host.children(), before);
-                EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
+            m_script.conduct = {{ViewCall::CreateViewObject, conduct}};
+            expectPrevious();
+            for (const bool afterwards : {false, true}) {
+                m_script.breaksAfterwards = afterwards;
+                for (const Conduct destroying : {Conduct::Works, Conduct::Faults}) {
+                    m_script.conduct = {{creating, conduct}, {ViewCall::DestroyViewWindow, destroying}};
+                    expectPrevious();
+                }
             }
+            m_script.breaksAfterwards = false;
         }
         m_script.conduct.clear();
-        m_script.breaksAfterwards = false;
-        m_script.makesWindow = false;
-        EXPECT_FALSE(browseStore()) << "there would be nothing to see";
-        EXPECT_EQ(m_host.children(), before);
+        m_script.makesWindow = false;  // there would be nothing to see
+        expectPrevious();
         m_script.makesWindow = true;
     }
 }
@@ -131,24 +122,6 @@ TEST_F(BrokenView, QueryInterfaceThatMisbehaves_MeansThatThereIsNoSuchInterface)
         m_script.calls.clear();
         EXPECT_TRUE(browseStore());
         EXPECT_EQ(m_script.calls[ViewCall::CreateViewWindow], 1);
-    }
-}
-
-TEST_F(BrokenView, ViewThatMisbehavesLater_CanBeLeft) {
-    for (const ViewCall call : {ViewCall::GetWindow, ViewCall::GetCurrentInfo, ViewCall::SaveViewState,
-                                ViewCall::DestroyViewWindow, ViewCall::QueryInterface, ViewCall::SelectItem}) {
-        for (const Conduct conduct : kBad) {
-            m_script.conduct.clear();
-            ASSERT_TRUE(browseStore());
-            m_script.conduct = {{call, conduct}};
-            m_data.RemoveAllData();
-            m_data.AddData()->SetID(ItemList::copyOf(m_store.root()).release());
-            m_host.browser.SyncToData(m_data);
-            ASSERT_TRUE(m_host.browse(m_temp.path()));
-            EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
-            EXPECT_EQ(m_script.liveObjects, 1) << "the view is gone, the folder stays";
-            EXPECT_EQ(m_host.children(), 2) << "placeholder and view";
-        }
     }
 }
 

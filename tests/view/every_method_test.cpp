@@ -71,10 +71,16 @@ protected:
 
 TEST_P(EveryMethod, OfTheViewShown_TheNextFolderIsShownAllTheSame) {
     forEachMethod([&](const Misconduct& bad) {
+        const int before = m_store.script.liveObjects;
         ASSERT_TRUE(browseStore());
         m_store.script.conduct = bad;
         useView();
         expectOrdinaryFolder();
+        const bool isRelease = bad.contains(ViewCall::Release) || bad.contains(ViewCall::DataRelease) ||
+                               bad.contains(ViewCall::FolderRelease);
+        if (!isRelease) {
+            EXPECT_EQ(m_store.script.liveObjects, before) << "the view is gone";
+        }
     });
 }
 
