@@ -6,6 +6,7 @@
 #include <set>
 
 #include "dialog/CNavDialogImp.h"
+#include "dialog/FolderQuestions.h"
 #include "dialog/Messages.h"
 #include "resources/ids.h"
 #include "shell/FolderCalls.h"
@@ -35,10 +36,6 @@ bool fillMenu(IContextMenu* menu) {
     entries.CreatePopupMenu();
     const HMENU filled = entries.m_hMenu;
     return SUCCEEDED(knav::guarded([=] { return menu->QueryContextMenu(filled, 0, 1, 0x7FFF, CMF_NORMAL); }));
-}
-
-bool isRemote(const CNavNode& node) {
-    return node.IsFTP() || node.IsWebFoldersType() || node.IsInternetType();
 }
 
 }  // namespace
@@ -71,7 +68,7 @@ void CNavDialogImp::CmdNewFolder() {
     if (name.IsEmpty()) {
         return;
     }
-    if (isRemote(*node)) {
+    if (knav::isSite(node)) {
         CreateNewWebFolder(name);
     } else {
         createFolderOnDisk(name);
@@ -81,11 +78,9 @@ void CNavDialogImp::CmdNewFolder() {
 void CNavDialogImp::createFolderOnDisk(const CString& name) {
     CNavPathname folder;
     CString path;
-    if (!selectedFolderPathname(folder) || !folder.GetFullPath(path)) {
-        return;
-    }
-    const CString full = CString(path).TrimRight(L'\\') + L"\\" + name;
-    if (!CreateDirectoryW(full, nullptr)) {
+    const bool hasPath = selectedFolderPathname(folder) && folder.GetFullPath(path) && withinReach(path);
+    const CString full = path.TrimRight(L'\\') + L"\\" + name;
+    if (!hasPath || !CreateDirectoryW(full, nullptr)) {
         knav::showMessage(m_facade, IDS_KNAV_NEW_FOLDER_FAILED, name);
         return;
     }

@@ -96,8 +96,7 @@ void CNavDialogImp::OnFileNameChange() {
 }
 
 void CNavDialogImp::OnFileNameSelectionChange() {
-    m_fileNameEditDirty = true;
-    m_nameCameFromSelection = false;
+    OnFileNameChange();
 }
 
 /// Whoever goes on to the view after typing the name of an item in it finds that item there. What the user picks in the

@@ -1,5 +1,6 @@
 #include "dialog/FolderQuestions.h"
 
+#include <knav/CNavNode.h>
 #include <knav/NavFolders.h>
 #include <knav/NavNames.h>
 #include <platform/CWaitCursor.h>
@@ -30,6 +31,10 @@ bool isThere(ITEMIDLIST* list) {
 bool sameFolder(ITEMIDLIST* a, ITEMIDLIST* b) {
     const auto desktop = ComPtr<IShellFolder>::adopt(NavGetDesktopFolder());
     return desktop && NavCompareFolderItems(desktop.get(), a, b) == 0;
+}
+
+bool isSite(const CNavNode* node) {
+    return node && (node->IsExtensionType() || node->IsInternetType() || node->IsWebFoldersType());
 }
 
 bool canBeShown(ITEMIDLIST* list) {

@@ -6,6 +6,7 @@
 #include <knav/NavNames.h>
 
 #include "dialog/CNavDialogImp.h"
+#include "dialog/FolderQuestions.h"
 #include "dialog/NameRules.h"
 #include "shell/TextRules.h"
 
@@ -13,10 +14,6 @@ namespace {
 
 bool isRoot(const CNavNode* node) {
     return node && (node->GetType() == NavNodeExtensionRoot || node->GetType() == NavNodeWebFoldersRoot);
-}
-
-bool isUrlLike(const CNavNode* node) {
-    return node && (node->IsExtensionType() || node->IsInternetType() || node->IsWebFoldersType());
 }
 
 }  // namespace
@@ -156,7 +153,7 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
         text.Replace(L'\\', L'/');
         return OkErrNone;
     }
-    if (isUrlLike(node)) {
+    if (knav::isSite(node)) {
         text = knav::joinUrl(folder.value_or(CString()).view(), text.view());
         return OkErrNone;
     }
@@ -196,7 +193,7 @@ int CNavDialogImp::IsExistingFolder(const CString& name) {
     CNavPathname folder;
     selectedFolderPathname(folder);
     CNavNode* node = lookInNode();
-    if (isUrlLike(node)) {
+    if (knav::isSite(node)) {
         return parsed.ParseRelative(name, &folder, node, 0) == PathErr::None &&
                parsed.GetType() == CZoUiPathname::Directory;
     }

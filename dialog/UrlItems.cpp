@@ -6,7 +6,7 @@
 #include "dialog/Messages.h"
 #include "dialog/NameRules.h"
 #include "resources/ids.h"
-#include "shell/Guard.h"
+#include "shell/FolderCalls.h"
 #include "shell/SiteLocation.h"
 
 namespace {
@@ -33,15 +33,7 @@ int CNavDialogImp::VerifyURLSave() {
         knav::showMessage(m_facade, IDS_KNAV_NO_SAVE_AT_ROOT);
         return 0;
     }
-    std::wstring name = nameAtSite(*node, item->GetText());
-    IShellFolder* folder = node->GetFolder();
-    if (name.empty() || !folder) {
-        return 1;
-    }
-    ITEMIDLIST* found = nullptr;
-    const HRESULT result = knav::guarded(
-        [&] { return folder->ParseDisplayName(nullptr, nullptr, name.data(), nullptr, &found, nullptr); });
-    const auto existing = knav::ItemList::adopt(SUCCEEDED(result) ? found : nullptr);
+    const auto existing = knav::parseName(node->GetFolder(), nameAtSite(*node, item->GetText()).c_str());
     return !existing ||
            knav::showMessage(m_facade, IDS_KNAV_REPLACE_REMOTE, item->GetText(), MB_YESNO | MB_ICONQUESTION) == IDYES;
 }

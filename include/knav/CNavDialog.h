@@ -90,8 +90,8 @@ public:
 
     // --- names and file types ------------------------------------------------------------------------------------
 
-    /// Extension without a dot that is added to typed names: that of the given file name, or the text itself, of which
-    /// the part behind its last comma counts. Default empty.
+    /// Extension without a dot that an initial file name without one gets: that of the given file name, or the text
+    /// itself, of which the part behind its last comma counts. A typed name gets that of the file type. Default empty.
     void GetDefaultFileExtension(CString& extension) const;
     void SetDefaultFileExtension(const wchar_t* extension);
     /// Text of the file name field at start. Set takes a name, a full path (its folder becomes the start folder when

@@ -3,6 +3,7 @@
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/DialogUser.h"
+#include "dialog/Messages.h"
 #include "view/ViewStore.h"
 
 namespace knav::test {
@@ -16,8 +17,8 @@ protected:
         m_store.script.attributes = SFGAO_FOLDER | SFGAO_FILESYSTEM;
     }
 
-    /// What a user may do while the folder is shown.
-    static void useFolder(CNavDialogImp& dialog) {
+    /// What a user may do while the folder is shown. Returns the name that a new folder would get.
+    static CString useFolder(CNavDialogImp& dialog) {
         const HWND list = dialog.folderListCtrl()->GetSafeHwnd();
         LVITEMW row{};
         ListView_InsertItem(list, &row);
@@ -30,8 +31,8 @@ protected:
         dialog.Refresh();
         dialog.setFileNameText(L"item");
         dialog.SyncBrowserToEditField();
-        dialog.GetNewFolderNameToAdd();
         dialog.browser().SetViewMode(dialog.browser().GetViewMode() == NavViewList ? NavViewDetails : NavViewList);
+        return dialog.GetNewFolderNameToAdd();
     }
 
     ViewStore m_store;
@@ -44,7 +45,8 @@ TEST_P(DialogBrokenView, InWhicheverMethod_TheDialogStaysOpenAndUsable) {
     const auto goThereAndBack = [&](const Misconduct& bad) {
         EXPECT_TRUE(implementation.NavigateToItemList(m_store.root()));
         m_store.script.conduct = bad;
-        useFolder(implementation);
+        const CString newFolder = useFolder(implementation);
+        EXPECT_TRUE(!bad.empty() || newFolder == messageText(IDS_KNAV_NEW_FOLDER_NAME)) << "an empty folder has room";
         EXPECT_TRUE(implementation.NavigateToFolder(folder.path()));
         EXPECT_EQ(shownNames(), std::vector<std::wstring>{L"a.dwg"});
         if (!implementation.NavigateToItemList(m_store.root())) {

@@ -255,7 +255,11 @@ public:
     HRESULT WINAPI ParseDisplayName(HWND, IBindCtx*, LPWSTR, ULONG*, PIDLIST_RELATIVE*, ULONG*) override {
         return answer(ViewCall::FolderParseDisplayName);
     }
-    HRESULT WINAPI EnumObjects(HWND, SHCONTF, IEnumIDList**) override { return answer(ViewCall::FolderEnumObjects); }
+    /// It has nothing to list, which is no failure.
+    HRESULT WINAPI EnumObjects(HWND, SHCONTF, IEnumIDList** items) override {
+        *items = nullptr;
+        return answer(ViewCall::FolderEnumObjects, S_FALSE);
+    }
     HRESULT WINAPI BindToObject(PCUIDLIST_RELATIVE, IBindCtx*, REFIID iid, void** object) override {
         *object = nullptr;
         const HRESULT entered = answer(ViewCall::FolderBindToObject, S_OK);
