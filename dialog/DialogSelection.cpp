@@ -9,6 +9,16 @@
 #include "dialog/ScopedFlag.h"
 #include "resources/ids.h"
 
+namespace {
+
+/// One shortcut is not named in the field, which is left as it is.
+bool isShortcut(const CNavDataArray& data) {
+    const CNavPathname* path = data.GetCount() == 1 ? data.GetData(0)->GetPathname() : nullptr;
+    return path && path->isShortCut();
+}
+
+}  // namespace
+
 CNavFilter* CNavDialogImp::GetCurrentFileExtension(CString& extension) {
     extension = m_currentFilter->GetCount() > 0 ? m_currentFilter->GetAt(0) : CString();
     return m_currentFilter;
@@ -57,7 +67,8 @@ void CNavDialogImp::SyncEditFieldToBrowser() {
     const knav::ScopedFlag writing(m_writingFileName);
     const CString before = fileNameText();
     m_fileName.SyncToData(m_data);
-    m_fileName.SetFileNameComboBoxDirty(0);
+    // The name that is to be saved under stands: nobody means to save over what a shortcut leads to.
+    m_fileName.SetFileNameComboBoxDirty(m_options.creatingFile && !fileNameText().IsEmpty() && isShortcut(m_data));
     m_fileNameEditDirty = false;
     m_nameCameFromSelection = m_nameCameFromSelection || before != fileNameText();
 }

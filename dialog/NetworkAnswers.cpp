@@ -42,45 +42,40 @@ void NetworkAnswers::forget() {
     m_waited = 0;
 }
 
-NetworkAnswer& NetworkAnswers::about(const CString& name) {
-    const NetworkName location = splitNetworkName(name.view());
-    const auto known =
-        std::ranges::find_if(m_known, [&](const auto& entry) { return sameLocation(entry.first, location); });
-    if (known != m_known.end()) {
-        return known->second;
-    }
-    const CWaitCursor wait;
-    const ULONGLONG start = GetTickCount64();
-    const unsigned long long left = networkPatience() - std::min<unsigned long long>(m_waited, networkPatience());
-    const NetworkAnswer answer = checkNetworkLocation(networkProbe(), name, static_cast<unsigned>(left));
-    m_waited += GetTickCount64() - start;
-    return m_known.emplace_back(location, answer).second;
-}
-
-const NetworkAnswer* NetworkAnswers::refusal(const CString& text) {
+/// What is known about the location of a text, asked now if it was not; null for a text that is no path on a network.
+NetworkAnswers::Known* NetworkAnswers::about(const CString& text) {
     const CString path(plainPath(text.view()));
     if (!NavIsUNCPath(path)) {
         return nullptr;
     }
     const Scope alone(*this);
-    const NetworkAnswer& answer = about(path);
-    return answer.reachable ? nullptr : &answer;
+    const NetworkName location = splitNetworkName(path.view());
+    const auto known =
+        std::ranges::find_if(m_known, [&](const Known& entry) { return sameLocation(entry.location, location); });
+    if (known != m_known.end()) {
+        return &*known;
+    }
+    const CWaitCursor wait;
+    const ULONGLONG start = GetTickCount64();
+    const unsigned long long left = networkPatience() - std::min<unsigned long long>(m_waited, networkPatience());
+    const NetworkAnswer answer = checkNetworkLocation(networkProbe(), path, static_cast<unsigned>(left));
+    m_waited += GetTickCount64() - start;
+    return &m_known.emplace_back(location, answer);
+}
+
+const NetworkAnswer* NetworkAnswers::refusal(const CString& text) {
+    const Known* known = about(text);
+    return known ? known->refusal() : nullptr;
 }
 
 const NetworkAnswer* NetworkAnswers::refusalAfterLogin(HWND owner, const CString& text) {
     const Scope asked(*this);
-    if (const NetworkAnswer* refused = refusal(text)) {
-        return refused;
+    Known* known = about(text);
+    // A server itself has nothing that one could log in to.
+    if (known && known->answer.wantsLogin && !known->location.share.empty()) {
+        known->answer = networkLogin(networkProbe(), owner, known->location);
     }
-    const NetworkName location = splitNetworkName(plainPath(text.view()));
-    if (location.share.empty()) {
-        return nullptr;
-    }
-    NetworkAnswer& answer = about(CString(plainPath(text.view())));
-    if (answer.wantsLogin) {
-        answer = networkLogin(networkProbe(), owner, location);
-    }
-    return answer.reachable ? nullptr : &answer;
+    return known ? known->refusal() : nullptr;
 }
 
 }  // namespace knav

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <deque>
-#include <utility>
 
 #include "dialog/NetworkCheck.h"
 
@@ -34,10 +33,15 @@ public:
     const NetworkAnswer* refusalAfterLogin(HWND owner, const CString& text);
 
 private:
-    NetworkAnswer& about(const CString& name);
+    struct Known {
+        NetworkName location;
+        NetworkAnswer answer;
+        const NetworkAnswer* refusal() const { return answer.reachable ? nullptr : &answer; }
+    };
+    Known* about(const CString& text);
     void forget();
 
-    std::deque<std::pair<NetworkName, NetworkAnswer>> m_known;
+    std::deque<Known> m_known;
     unsigned long long m_waited = 0;
     int m_scopes = 0;
 };

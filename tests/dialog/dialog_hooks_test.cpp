@@ -367,12 +367,15 @@ TEST_F(DialogHooks, HostCanActFromInsideAHook) {
         void OnFolderChange() override {
             RecordingDialog::OnFolderChange();
             NavigateToFolder(target);  // inside a browse: refused without harm
+            SendMessage(WM_COMMAND, IDM_KNAV_BACK);
         }
         CString target;
     };
     Navigating moving(folder.path());
     moving.target = folder.path(L"sub");
-    EXPECT_EQ(DialogUser(moving).settle().cancel().run(), IDCANCEL);
+    DialogUser user(moving);
+    user.type(L"sub").ok().untilFolder(moving.target).type(L"..").ok().untilFolder(folder.path()).settle();
+    EXPECT_EQ(user.command(IDM_KNAV_BACK).untilFolder(moving.target).cancel().run(), IDCANCEL);
 }
 
 }  // namespace

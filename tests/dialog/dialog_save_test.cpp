@@ -5,6 +5,7 @@
 #include "dialog/DialogUser.h"
 #include "dialog/Messages.h"
 #include "shell/ScopedHandle.h"
+#include "support/RealNamespace.h"
 
 namespace knav::test {
 namespace {
@@ -127,6 +128,17 @@ TEST_F(DialogSave, PickedFile_KeepsItsNameWhenTheFolderChanges) {
     user.check([] { EXPECT_EQ(fileNameText(), L"plan.dwg"); }).ok();
     EXPECT_EQ(user.run(), IDOK);
     EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(L"sub\\plan.dwg"))));
+}
+
+TEST_F(DialogSave, ShortcutClickedBesideATypedName_IsOpenedButNotSavedOver) {
+    addShortcut(folder, L"away.lnk", folder.addFile(L"target.dwg"));
+    addShortcut(folder, L"there.lnk", folder.addFolder(L"sub"));
+    SaveDialog dialog(folder.path());
+    dialog.SetForceFilterIndex(kAllFiles);
+    DialogUser user(dialog);
+    user.type(L"plan.dwg").pick({L"away"}).pick({L"there"}).doubleClick(L"there").untilFolder(folder.path(L"sub"));
+    EXPECT_EQ(user.command(IDM_KNAV_BACK).untilFolder(folder.path()).pick({L"away"}).ok().run(), IDOK);
+    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(L"plan.dwg"))));
 }
 
 TEST_F(DialogSave, OtherFileType_ChangesTheExtensionInTheField) {
