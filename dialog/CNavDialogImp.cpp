@@ -282,6 +282,7 @@ void CNavDialogImp::OnOwnMessage(OwnMessage message) {
 void CNavDialogImp::openFromView() {
     if (m_fileName.IsFileNameComboBoxDirty() && selectedCount() > 0) {
         m_facade.OnFolderItemChange();
+        m_fileName.SetFileNameComboBoxDirty(0);
     }
     m_facade.OnOK();
 }
