@@ -41,11 +41,6 @@ void ButtonTip::pointerOver(HWND control) {
         create(control);
 }
 
-void ButtonTip::hide() const {
-    if (m_window)
-        SendMessageW(m_window, TTM_POP, 0, 0);
-}
-
 void ButtonTip::close() {
     if (m_window)
         DestroyWindow(m_window);

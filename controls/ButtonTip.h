@@ -20,9 +20,7 @@ public:
     /// The pointer moved over the control.
     void pointerOver(HWND control);
 
-    /// Takes the tip down, as when the control's menu drops.
-    void hide() const;
-
+    /// Takes the tip down, and keeps one from coming that waits for its time, as when the control's menu drops.
     void close();
 
 private:

@@ -101,7 +101,7 @@ void CNavBitmapButton::SetChecked(int checked) {
 }
 
 void CNavBitmapButton::HideTip() {
-    m_face->tip.hide();
+    m_face->tip.close();
 }
 
 int CNavBitmapButton::WantsKey(WPARAM key, int alt) const {

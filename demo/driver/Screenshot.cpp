@@ -99,7 +99,8 @@ RECT visiblePlaceOf(HWND window) {
     const Capture capture(place);
     const auto isBlack = [&](LONG x, LONG y) { return (capture.pixel(x, y) & 0xFFFFFF) == 0; };
     const LONG acrossAt[] = {(3 * place.left + place.right) / 4, (place.left + place.right) / 2};
-    const LONG downAt[] = {(3 * place.top + place.bottom) / 4, (place.top + place.bottom) / 2};
+    const LONG downAt[] = {(place.top + place.bottom) / 2,
+                           (place.top + 3 * place.bottom) / 4};  // below what drops down
     const auto blackColumn = [&](LONG x) { return isBlack(x, downAt[0]) && isBlack(x, downAt[1]); };
     const auto blackRow = [&](LONG y) { return isBlack(acrossAt[0], y) && isBlack(acrossAt[1], y); };
     while (place.left < acrossAt[0] && blackColumn(place.left)) {

@@ -73,6 +73,8 @@ private:
         takeMenu(dialog, menuPartOf(control(dialog, IDOK)), L"menu-ok");
         takeList(dialog, IDC_KNAV_LOOK_IN, L"list-look-in");
         takeList(dialog, IDC_KNAV_FILE_TYPE, L"list-file-type");
+        dialog.select({L"plan.dwg"});
+        takeFavorites(dialog);
         close(dialog);
     }
 
@@ -107,8 +109,9 @@ private:
         waitUntil([&] { return !IsWindow(options); });
     }
 
-    // Away from the host's window, which would show at its edges.
+    // Away from the host's window, which would show at its edges, and from the pointer, which would light up a button.
     void moveAside(HWND window) const {
+        SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
         RECT host{};
         GetWindowRect(m_host.window(), &host);
         SetWindowPos(window, nullptr, host.right + 20, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -158,6 +161,32 @@ private:
     void takeDropped(const NavDialogWindow& dialog, const wchar_t* className, POINT at, const wchar_t* what) const {
         const HWND popup = knav::input::dropDown(m_host.process(), className, [at] { click(at); });
         knav::input::saveScreenshot({dialog.window(), popup}, fileOf(what));
+        giveUp(popup);
+    }
+
+    // The last entry of the Tools menu has a menu of its own.
+    void takeFavorites(const NavDialogWindow& dialog) const {
+        const POINT at = middleOf(control(dialog, IDC_KNAV_TOOLS));
+        const HWND tools = knav::input::dropDown(m_host.process(), kMenuClass, [at] { click(at); });
+        pressKey(VK_UP);
+        pressKey(VK_RETURN);
+        HWND favorites = nullptr;
+        const auto dropped = [&] {
+            favorites = knav::input::findTopLevel([&](HWND window) {
+                return window != tools && knav::input::isShownBy(window, m_host.process()) &&
+                       knav::input::isClass(window, kMenuClass);
+            });
+            return favorites != nullptr;
+        };
+        if (!waitUntil(dropped)) {
+            throw std::runtime_error("the Favorites menu does not drop down");
+        }
+        knav::input::saveScreenshot({dialog.window(), tools, favorites}, fileOf(L"menu-favorites"));
+        giveUp(favorites);
+        giveUp(tools);
+    }
+
+    static void giveUp(HWND popup) {
         pressKey(VK_ESCAPE);
         waitUntil([&] { return !IsWindow(popup) || !IsWindowVisible(popup); });
     }

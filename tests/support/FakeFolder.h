@@ -121,16 +121,24 @@ private:
 
 class FakeItems final : public FakeObject<IEnumIDList> {
 public:
-    FakeItems(Conducts& conducts, std::vector<std::wstring> names)
-        : FakeObject(conducts, {&IID_IEnumIDList}), m_names(std::move(names)) {}
+    FakeItems(Conducts& conducts, std::vector<ItemList> items)
+        : FakeObject(conducts, {&IID_IEnumIDList}), m_items(std::move(items)) {}
 
-    HRESULT WINAPI Next(ULONG count, ITEMIDLIST** lists, ULONG* fetched) override;
+    HRESULT WINAPI Next(ULONG, ITEMIDLIST** lists, ULONG* fetched) override {
+        const HRESULT entered = conducts().enter(FolderCall::Next);
+        const bool given = SUCCEEDED(entered) && m_next < m_items.size();
+        *lists = given ? m_items[m_next++].release() : nullptr;
+        if (fetched != nullptr) {
+            *fetched = given;
+        }
+        return FAILED(entered) ? entered : given ? S_OK : S_FALSE;
+    }
     HRESULT WINAPI Skip(ULONG) override { return E_NOTIMPL; }
     HRESULT WINAPI Reset() override { return E_NOTIMPL; }
     HRESULT WINAPI Clone(IEnumIDList**) override { return E_NOTIMPL; }
 
 private:
-    std::vector<std::wstring> m_names;
+    std::vector<ItemList> m_items;
     std::size_t m_next = 0;
 };
 
@@ -176,7 +184,15 @@ public:
     }
 
     /// A new list for a path of names below a folder, as for example L"site/folder".
-    static ItemList item(std::wstring_view path);
+    static ItemList item(std::wstring_view path) {
+        std::vector<std::string_view> payloads;
+        while (!path.empty()) {
+            const std::wstring_view name = path.substr(0, path.find(L'/'));
+            payloads.emplace_back(reinterpret_cast<const char*>(name.data()), name.size() * sizeof(wchar_t));
+            path.remove_prefix(std::min(path.size(), name.size() + 1));
+        }
+        return makeList(payloads);
+    }
 
     /// Adds an item; `folder`, when given, is what binding to it gives. Of two with one name the later one counts.
     FakeFolder& add(std::wstring name, DWORD attributes, ComPtr<FakeFolder> folder = {}) {
@@ -198,15 +214,87 @@ public:
     bool askedForItself() const { return m_askedForItself; }
 
     HRESULT WINAPI ParseDisplayName(HWND, IBindCtx*, wchar_t* name, ULONG*, ITEMIDLIST** list,
-                                    ULONG* attributes) override;
-    HRESULT WINAPI EnumObjects(HWND, SHCONTF flags, IEnumIDList** items) override;
-    HRESULT WINAPI BindToObject(const ITEMIDLIST* list, IBindCtx*, REFIID iid, void** object) override;
+                                    ULONG* attributes) override {
+        *list = nullptr;
+        m_lastParsed = name;
+        if (FAILED(enter(FolderCall::ParseDisplayName))) {
+            return E_FAIL;
+        }
+        ItemList parsed = item(name);
+        const Item* const found = find(parsed.get());
+        if (found == nullptr) {
+            return HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
+        }
+        if (attributes != nullptr) {
+            *attributes &= found->attributes;
+        }
+        *list = parsed.release();
+        return S_OK;
+    }
+    HRESULT WINAPI EnumObjects(HWND, SHCONTF, IEnumIDList** items) override {
+        *items = nullptr;
+        if (FAILED(enter(FolderCall::EnumObjects))) {
+            return E_FAIL;
+        }
+        std::vector<ItemList> lists;
+        for (const Item& each : m_items) {
+            lists.push_back(item(each.name));
+        }
+        *items = new FakeItems(*this, std::move(lists));
+        return S_OK;
+    }
+    HRESULT WINAPI BindToObject(const ITEMIDLIST* list, IBindCtx*, REFIID iid, void** object) override {
+        *object = nullptr;
+        const bool works = SUCCEEDED(enter(FolderCall::BindToObject)) && !m_bindThroughUiObject;
+        return works ? folderOf(list, iid, object) : E_FAIL;
+    }
     HRESULT WINAPI BindToStorage(const ITEMIDLIST*, IBindCtx*, REFIID, void**) override { return E_NOTIMPL; }
-    HRESULT WINAPI CompareIDs(LPARAM, const ITEMIDLIST* a, const ITEMIDLIST* b) override;
+    HRESULT WINAPI CompareIDs(LPARAM, const ITEMIDLIST* a, const ITEMIDLIST* b) override {
+        if (FAILED(enter(FolderCall::CompareIDs))) {
+            return E_FAIL;
+        }
+        const auto order = namesOf(a) <=> namesOf(b);
+        return MAKE_HRESULT(SEVERITY_SUCCESS, 0, static_cast<USHORT>(order < 0 ? -1 : order > 0 ? 1 : 0));
+    }
     HRESULT WINAPI CreateViewObject(HWND, REFIID, void**) override { return E_NOTIMPL; }
-    HRESULT WINAPI GetAttributesOf(UINT count, const ITEMIDLIST** lists, SFGAOF* attributes) override;
-    HRESULT WINAPI GetUIObjectOf(HWND, UINT, const ITEMIDLIST** lists, REFIID iid, UINT*, void** object) override;
-    HRESULT WINAPI GetDisplayNameOf(const ITEMIDLIST* list, SHGDNF flags, STRRET* name) override;
+    HRESULT WINAPI GetAttributesOf(UINT count, const ITEMIDLIST** lists, SFGAOF* attributes) override {
+        if (FAILED(enter(FolderCall::GetAttributesOf))) {
+            return E_FAIL;
+        }
+        // Bits that nobody asked for are left in the answer, as the system's own folders do.
+        for (UINT index = 0; index < count; ++index) {
+            const Item* const found = find(lists[index]);
+            *attributes = found != nullptr ? found->attributes : SFGAO_FOLDER;
+        }
+        return S_OK;
+    }
+    HRESULT WINAPI GetUIObjectOf(HWND, UINT, const ITEMIDLIST** lists, REFIID iid, UINT*, void** object) override {
+        *object = nullptr;
+        m_askedForItself = lists[0] == nullptr;
+        if (FAILED(enter(FolderCall::GetUIObjectOf))) {
+            return E_FAIL;
+        }
+        if (iid == IID_IExtractIconW) {
+            *object = static_cast<IExtractIconW*>(new FakeExtractor(*this, m_icon));
+            return S_OK;
+        }
+        return m_bindThroughUiObject ? folderOf(lists[0], iid, object) : E_NOINTERFACE;
+    }
+    HRESULT WINAPI GetDisplayNameOf(const ITEMIDLIST* list, SHGDNF flags, STRRET* name) override {
+        if (FAILED(enter(FolderCall::GetDisplayNameOf))) {
+            return E_FAIL;
+        }
+        std::wstring text = (flags & SHGDN_FORPARSING) != 0 && (flags & SHGDN_INFOLDER) == 0 ? m_name : L"";
+        const std::vector<std::wstring> names = namesOf(list);
+        if (names.empty()) {
+            text = m_name;
+        }
+        for (const std::wstring& each : names) {
+            text += (text.empty() ? L"" : L"/") + each;
+        }
+        name->uType = STRRET_WSTR;
+        return SHStrDupW(text.c_str(), &name->pOleStr);
+    }
     HRESULT WINAPI SetNameOf(HWND, const ITEMIDLIST*, const wchar_t*, SHGDNF, ITEMIDLIST**) override {
         return E_NOTIMPL;
     }
@@ -221,9 +309,37 @@ private:
     explicit FakeFolder(std::wstring name)
         : FakeObject(static_cast<Conducts&>(*this), {&IID_IShellFolder}), m_name(std::move(name)) {}
 
-    static std::vector<std::wstring> namesOf(const ITEMIDLIST* list);
-    const Item* find(const ITEMIDLIST* list) const;
-    HRESULT folderOf(const ITEMIDLIST* list, REFIID iid, void** object) const;
+    static std::vector<std::wstring> namesOf(const ITEMIDLIST* list) {
+        std::vector<std::wstring> names;
+        for (const ITEMIDLIST* element = list; element != nullptr && elementSize(element) > 0;
+             element = nextElement(element)) {
+            std::wstring name((static_cast<std::size_t>(elementSize(element)) - sizeof(USHORT)) / sizeof(wchar_t), 0);
+            std::memcpy(name.data(), element->mkid.abID, name.size() * sizeof(wchar_t));
+            names.push_back(std::move(name));
+        }
+        return names;
+    }
+    const Item* find(const ITEMIDLIST* list) const {
+        const Item* found = nullptr;
+        const FakeFolder* folder = this;
+        for (const std::wstring& name : namesOf(list)) {
+            if (folder == nullptr) {
+                return nullptr;
+            }
+            const auto newestFirst = folder->m_items | std::views::reverse;
+            const auto at = std::ranges::find(newestFirst, name, &Item::name);
+            if (at == newestFirst.end()) {
+                return nullptr;
+            }
+            found = &*at;
+            folder = at->folder.get();
+        }
+        return found;
+    }
+    HRESULT folderOf(const ITEMIDLIST* list, REFIID iid, void** object) const {
+        const Item* const found = find(list);
+        return found != nullptr && found->folder ? found->folder->QueryInterface(iid, object) : E_INVALIDARG;
+    }
 
     std::wstring m_name;
     std::vector<Item> m_items;
@@ -232,146 +348,5 @@ private:
     bool m_askedForItself = false;
     FakeIcon m_icon;
 };
-
-inline HRESULT FakeItems::Next(ULONG, ITEMIDLIST** lists, ULONG* fetched) {
-    const HRESULT entered = conducts().enter(FolderCall::Next);
-    const bool given = SUCCEEDED(entered) && m_next < m_names.size();
-    *lists = given ? FakeFolder::item(m_names[m_next++]).release() : nullptr;
-    if (fetched != nullptr) {
-        *fetched = given;
-    }
-    return FAILED(entered) ? entered : given ? S_OK : S_FALSE;
-}
-
-inline ItemList FakeFolder::item(std::wstring_view path) {
-    std::vector<std::string_view> payloads;
-    while (!path.empty()) {
-        const std::wstring_view name = path.substr(0, path.find(L'/'));
-        payloads.emplace_back(reinterpret_cast<const char*>(name.data()), name.size() * sizeof(wchar_t));
-        path.remove_prefix(std::min(path.size(), name.size() + 1));
-    }
-    return makeList(payloads);
-}
-
-inline std::vector<std::wstring> FakeFolder::namesOf(const ITEMIDLIST* list) {
-    std::vector<std::wstring> names;
-    for (const ITEMIDLIST* element = list; element != nullptr && elementSize(element) > 0;
-         element = nextElement(element)) {
-        std::wstring name((static_cast<std::size_t>(elementSize(element)) - sizeof(USHORT)) / sizeof(wchar_t), 0);
-        std::memcpy(name.data(), element->mkid.abID, name.size() * sizeof(wchar_t));
-        names.push_back(std::move(name));
-    }
-    return names;
-}
-
-inline const FakeFolder::Item* FakeFolder::find(const ITEMIDLIST* list) const {
-    const Item* found = nullptr;
-    const FakeFolder* folder = this;
-    for (const std::wstring& name : namesOf(list)) {
-        if (folder == nullptr) {
-            return nullptr;
-        }
-        const auto newestFirst = folder->m_items | std::views::reverse;
-        const auto at = std::ranges::find(newestFirst, name, &Item::name);
-        if (at == newestFirst.end()) {
-            return nullptr;
-        }
-        found = &*at;
-        folder = at->folder.get();
-    }
-    return found;
-}
-
-inline HRESULT FakeFolder::folderOf(const ITEMIDLIST* list, REFIID iid, void** object) const {
-    const Item* const found = find(list);
-    return found != nullptr && found->folder ? found->folder->QueryInterface(iid, object) : E_INVALIDARG;
-}
-
-inline HRESULT FakeFolder::ParseDisplayName(HWND, IBindCtx*, wchar_t* name, ULONG*, ITEMIDLIST** list,
-                                            ULONG* attributes) {
-    *list = nullptr;
-    m_lastParsed = name;
-    if (FAILED(enter(FolderCall::ParseDisplayName))) {
-        return E_FAIL;
-    }
-    ItemList parsed = item(name);
-    const Item* const found = find(parsed.get());
-    if (found == nullptr) {
-        return HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
-    }
-    if (attributes != nullptr) {
-        *attributes &= found->attributes;
-    }
-    *list = parsed.release();
-    return S_OK;
-}
-
-inline HRESULT FakeFolder::EnumObjects(HWND, SHCONTF, IEnumIDList** items) {
-    *items = nullptr;
-    if (FAILED(enter(FolderCall::EnumObjects))) {
-        return E_FAIL;
-    }
-    std::vector<std::wstring> names;
-    for (const Item& each : m_items) {
-        names.push_back(each.name);
-    }
-    *items = new FakeItems(*this, std::move(names));
-    return S_OK;
-}
-
-inline HRESULT FakeFolder::BindToObject(const ITEMIDLIST* list, IBindCtx*, REFIID iid, void** object) {
-    *object = nullptr;
-    const bool works = SUCCEEDED(enter(FolderCall::BindToObject)) && !m_bindThroughUiObject;
-    return works ? folderOf(list, iid, object) : E_FAIL;
-}
-
-inline HRESULT FakeFolder::CompareIDs(LPARAM, const ITEMIDLIST* a, const ITEMIDLIST* b) {
-    if (FAILED(enter(FolderCall::CompareIDs))) {
-        return E_FAIL;
-    }
-    const auto order = namesOf(a) <=> namesOf(b);
-    return MAKE_HRESULT(SEVERITY_SUCCESS, 0, static_cast<USHORT>(order < 0 ? -1 : order > 0 ? 1 : 0));
-}
-
-inline HRESULT FakeFolder::GetAttributesOf(UINT count, const ITEMIDLIST** lists, SFGAOF* attributes) {
-    if (FAILED(enter(FolderCall::GetAttributesOf))) {
-        return E_FAIL;
-    }
-    // Bits that nobody asked for are left in the answer, as the system's own folders do.
-    for (UINT index = 0; index < count; ++index) {
-        const Item* const found = find(lists[index]);
-        *attributes = found != nullptr ? found->attributes : SFGAO_FOLDER;
-    }
-    return S_OK;
-}
-
-inline HRESULT FakeFolder::GetUIObjectOf(HWND, UINT, const ITEMIDLIST** lists, REFIID iid, UINT*, void** object) {
-    *object = nullptr;
-    m_askedForItself = lists[0] == nullptr;
-    if (FAILED(enter(FolderCall::GetUIObjectOf))) {
-        return E_FAIL;
-    }
-    if (iid == IID_IExtractIconW) {
-        *object = static_cast<IExtractIconW*>(new FakeExtractor(*this, m_icon));
-        return S_OK;
-    }
-    return m_bindThroughUiObject ? folderOf(lists[0], iid, object) : E_NOINTERFACE;
-}
-
-inline HRESULT FakeFolder::GetDisplayNameOf(const ITEMIDLIST* list, SHGDNF flags, STRRET* name) {
-    if (FAILED(enter(FolderCall::GetDisplayNameOf))) {
-        return E_FAIL;
-    }
-    std::wstring text = (flags & SHGDN_FORPARSING) != 0 && (flags & SHGDN_INFOLDER) == 0 ? m_name : L"";
-    const std::vector<std::wstring> names = namesOf(list);
-    if (names.empty()) {
-        text = m_name;
-    }
-    for (const std::wstring& each : names) {
-        text += (text.empty() ? L"" : L"/") + each;
-    }
-    name->uType = STRRET_WSTR;
-    return SHStrDupW(text.c_str(), &name->pOleStr);
-}
 
 }  // namespace knav::test
