@@ -34,7 +34,9 @@ int showMessage(CWnd& owner, UINT id, const CString& argument, UINT flags) {
 }
 
 int showText(CWnd& owner, const CString& text, UINT flags) {
-    return ZoMessageBox(owner.GetSafeHwnd(), text, nullptr, flags);
+    CString title;
+    owner.GetWindowText(title);
+    return showText(owner, text, title, flags);
 }
 
 int showText(CWnd& owner, const CString& text, const CString& caption, UINT flags) {

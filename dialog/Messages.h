@@ -14,7 +14,7 @@ CString messageText(UINT id);
 CString messageText(UINT id, const CString& argument);
 
 /// Shows a message over the owner and returns the button that was chosen. `flags` are those of MessageBox. Without a
-/// caption it has the program's name.
+/// caption it has the owner's.
 int showMessage(CWnd& owner, UINT id, UINT flags = MB_OK);
 int showMessage(CWnd& owner, UINT id, const CString& argument, UINT flags = MB_OK);
 int showText(CWnd& owner, const CString& text, UINT flags = MB_OK);
