@@ -126,13 +126,8 @@ LRESULT CNavComboButton::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
     }
     if (const auto painted = answerPaintMessage(m_hWnd, message, wParam, [this](HDC dc) { Paint(dc); }))
         return *painted;
-    switch (message) {
-        case WM_LBUTTONDBLCLK:  // every click of a quick series counts
-            message = WM_LBUTTONDOWN;
-            break;
-        default:
-            break;
-    }
+    if (message == WM_LBUTTONDBLCLK)  // every click of a quick series counts
+        message = WM_LBUTTONDOWN;
     Track(message, lParam);
     return paintsAtOnce(message) ? WithoutPainting(message, wParam, lParam)
                                  : CButton::WindowProc(message, wParam, lParam);

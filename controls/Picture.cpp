@@ -161,29 +161,11 @@ Picture loadBitmapPicture(const wchar_t* name, HINSTANCE module) {
     return pictureOf(bitmap.get());
 }
 
-Picture pictureOf(HICON icon) {
-    return fromPixels(pixelsOf(icon), PixelFormat32bppARGB);
-}
-
 Picture pictureOf(HBITMAP bitmap) {
     Pixels pixels;
     if (!readPixels(bitmap, pixels))
         return nullptr;
     return fromPixels(pixels, anyAlpha(pixels) ? PixelFormat32bppARGB : PixelFormat32bppRGB);
-}
-
-Picture copyOf(const Picture& picture) {
-    if (!picture)
-        return nullptr;
-    return Picture(picture->Clone(0, 0, static_cast<INT>(picture->GetWidth()), static_cast<INT>(picture->GetHeight()),
-                                  picture->GetPixelFormat()));
-}
-
-HBITMAP bitmapOf(const Picture& picture) {
-    HBITMAP bitmap = nullptr;
-    if (!picture || picture->GetHBITMAP(Gdiplus::Color(0, 0, 0, 0), &bitmap) != Gdiplus::Ok)
-        return nullptr;
-    return bitmap;
 }
 
 PictureTone toneOn(COLORREF background, PictureTone tone) {

@@ -16,16 +16,9 @@ Picture loadPicture(const wchar_t* name, int size, HINSTANCE module = nullptr);
 /// The same for a bitmap resource, which has one size.
 Picture loadBitmapPicture(const wchar_t* name, HINSTANCE module = nullptr);
 
-/// Copies of what a handle shows; the handle stays the caller's. A bitmap handle without alpha gives a picture without
+/// A copy of what a handle shows; the handle stays the caller's. A bitmap handle without alpha gives a picture without
 /// it, which drawPicture() takes for one of the old kind.
-Picture pictureOf(HICON icon);
 Picture pictureOf(HBITMAP bitmap);
-
-/// A copy of a picture.
-Picture copyOf(const Picture& picture);
-
-/// A new 32-bit bitmap handle, which the caller deletes; null on failure.
-HBITMAP bitmapOf(const Picture& picture);
 
 /// How a picture is drawn.
 enum class PictureTone {
