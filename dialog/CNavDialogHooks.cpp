@@ -7,23 +7,50 @@
 #include "dialog/CNavDialogImp.h"
 #include "resources/ids.h"
 
+namespace {
+
+/// Gives the dialog the name under which all dialogs share values, for as long as it lives.
+class SharedName {
+public:
+    explicit SharedName(CZoUiDialog& dialog) : m_dialog(dialog), m_own(dialog.GetDialogName()) {
+        m_dialog.SetDialogName(knav::kAllDialogsName);
+    }
+    ~SharedName() { m_dialog.SetDialogName(m_own); }
+    SharedName(const SharedName&) = delete;
+    SharedName& operator=(const SharedName&) = delete;
+
+private:
+    CZoUiDialog& m_dialog;
+    const CString m_own;
+};
+
+template <class Body>
+int underSharedName(CZoUiDialog& dialog, Body&& body) {
+    return knav::atApiEdge(0, [&] {
+        const SharedName shared(dialog);
+        return body();
+    });
+}
+
+}  // namespace
+
 void CNavDialog::OnDialogHelp() {
 }
 
 int CNavDialog::SetAllDialogsData(const CString& name, unsigned long value) {
-    return knav::atApiEdge(0, [&] { return m_imp->setAllDialogsData(name, value); });
+    return underSharedName(*this, [&] { return SetDialogData(name, value); });
 }
 
 int CNavDialog::SetAllDialogsData(const CString& name, const CString& value) {
-    return knav::atApiEdge(0, [&] { return m_imp->setAllDialogsData(name, value); });
+    return underSharedName(*this, [&] { return SetDialogData(name, value); });
 }
 
 int CNavDialog::GetAllDialogsData(const CString& name, unsigned long& value) {
-    return knav::atApiEdge(0, [&] { return m_imp->getAllDialogsData(name, value); });
+    return underSharedName(*this, [&] { return GetDialogData(name, value); });
 }
 
 int CNavDialog::GetAllDialogsData(const CString& name, CString& value) {
-    return knav::atApiEdge(0, [&] { return m_imp->getAllDialogsData(name, value); });
+    return underSharedName(*this, [&] { return GetDialogData(name, value); });
 }
 
 void CNavDialog::LocateFile() {

@@ -8,7 +8,7 @@
 #include <platform/Resources.h>
 #include <platform/ScopedErrorMode.h>
 
-#include "dialog/ResourceModule.h"
+#include "dialog/DialogLook.h"
 #include "resources/ids.h"
 #include "shell/Guard.h"
 
@@ -116,7 +116,6 @@ void CNavDialogImp::resetRun() {
     m_fileTypeInUse = -1;
     m_browser.SetCurrentFilter(nullptr);
     m_browser.SetCurrentObjectID(nullptr);
-    m_enterHeldSinceStart = true;
     m_started = false;
     m_ok.closing = false;
     m_fileNameEditDirty = false;
@@ -161,73 +160,13 @@ void CNavDialogImp::DoDataExchange(CDataExchange* exchange) {
     }
     if (first) {
         captureLayout();
-        startPictures();
-        keepNamesLeftToRight();
+        knav::givePictures(*this);
+        knav::keepNamesLeftToRight(m_fileName.GetSafeHwnd());
     }
 }
 
 BOOL CNavDialogImp::PreTranslateMessage(MSG* message) {
-    if (message->message < WM_KEYFIRST || message->message > WM_KEYLAST) {
-        return FALSE;
-    }
-    return swallowHeldEnter(*message) || keepForLabelEdit(*message) || goUpFromView(*message) ||
-           translateForView(*message) || translateAccelerator(*message);
-}
-
-/// The Enter that opened this dialog may still be held down, and repeats; it was not meant for this dialog.
-bool CNavDialogImp::swallowHeldEnter(const MSG& message) {
-    const bool keyDown = message.message == WM_KEYDOWN && message.wParam == VK_RETURN;
-    const bool repeated = (message.lParam & (1 << 30)) != 0;
-    if (m_enterHeldSinceStart && keyDown && repeated) {
-        return true;
-    }
-    m_enterHeldSinceStart = m_enterHeldSinceStart && !keyDown && message.message != WM_KEYUP;
-    return false;
-}
-
-/// Enter and Escape end the renaming of an item; they are not for the dialog then.
-bool CNavDialogImp::keepForLabelEdit(MSG& message) {
-    const HWND list = m_listInUse->GetSafeHwnd();
-    const HWND edit = list ? ListView_GetEditControl(list) : nullptr;
-    if (!edit || message.hwnd != edit) {
-        return false;
-    }
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-    return true;
-}
-
-bool CNavDialogImp::goUpFromView(const MSG& message) {
-    const bool isBackspace = message.message == WM_KEYDOWN && message.wParam == VK_BACK;
-    if (!isBackspace || message.hwnd != m_listInUse->GetSafeHwnd()) {
-        return false;
-    }
-    CmdUpOneDir();
-    return true;
-}
-
-bool CNavDialogImp::translateForView(MSG& message) {
-    IShellView* view = m_browser.GetCurrentShellView();
-    if (!view || !m_viewWindow.GetSafeHwnd() || !m_viewWindow.IsChild(message.hwnd)) {
-        return false;
-    }
-    return knav::guarded([&] { return view->TranslateAccelerator(&message); }) == S_OK;
-}
-
-/// While a list is dropped down, the keys are for it: Alt+Up closes it, F4 too. F4 on a button with a menu opens that.
-bool CNavDialogImp::translateAccelerator(MSG& message) {
-    const HWND at = message.message == WM_KEYDOWN && message.wParam == VK_F4 ? message.hwnd : nullptr;
-    if (at && (at == m_viewsButton.m_hWnd || at == m_toolsButton.m_hWnd ||
-               (at == m_okButton.m_hWnd && m_okButton.GetMenuExists()))) {
-        return false;
-    }
-    for (const CComboBox* combo : {static_cast<CComboBox*>(&m_lookIn), static_cast<CComboBox*>(&m_fileName),
-                                   static_cast<CComboBox*>(&m_fileType)}) {
-        if (combo->m_hWnd && combo->GetDroppedState()) {
-            return false;
-        }
-    }
-    return m_accelerators && TranslateAcceleratorW(m_facade.GetSafeHwnd(), m_accelerators, &message);
+    return m_keys.translate(*message, m_facade.GetSafeHwnd());
 }
 
 ZOUI_REPLY CNavDialogImp::OnNotifyControlChange(unsigned int id, __int64 code) {

@@ -16,6 +16,7 @@
 #include "controls/FileNameContext.h"
 #include "dialog/BackHistory.h"
 #include "dialog/DialogControls.h"
+#include "dialog/DialogKeys.h"
 #include "dialog/DialogLayout.h"
 #include "dialog/DialogOptions.h"
 #include "dialog/FileNameCompletion.h"
@@ -75,10 +76,6 @@ public:
     void FindInitialFileName(CString& name);
 
     // --- settings (DialogSettings.cpp) ---------------------------------------------------------------------------
-    int setAllDialogsData(const CString& name, unsigned long value);
-    int setAllDialogsData(const CString& name, const CString& value);
-    int getAllDialogsData(const CString& name, unsigned long& value);
-    int getAllDialogsData(const CString& name, CString& value);
     void SaveCurrentStates();
     void GetCurrentFolderForPersistence(CString& folder);
 
@@ -206,7 +203,6 @@ private:
     // start-up
     void startName();
     void startFoldersOnly();
-    void startAccelerators();
     void startViewMode();
     void startBrowserHost();
     void startExtensions();
@@ -221,15 +217,9 @@ private:
     void startFileName();
     void loadFileNameHistory();
     void startPlaces();
-    void startPictures();
-    void keepNamesLeftToRight();
     void captureLayout();
     void startFocus();
     void finishStart();
-
-    // assistive tools (DialogAccess.cpp)
-    void startAccessibility();
-    void nameView();
 
     // folders
     bool selectedFolderPathname(CNavPathname& folder);
@@ -279,11 +269,6 @@ private:
     void UpdateAutoCompletion();
 
     // messages
-    bool swallowHeldEnter(const MSG& message);
-    bool keepForLabelEdit(MSG& message);
-    bool goUpFromView(const MSG& message);
-    bool translateForView(MSG& message);
-    bool translateAccelerator(MSG& message);
     void postToSelf(OwnMessage message);
     void closeView();
     void openFromView();
@@ -307,9 +292,6 @@ private:
     void renameNewFolder();
     bool beginRename(const CString& name);
     knav::ItemList FindIdInCurrentFolder(const CString& name);
-    void preparePlaces(CMenu* menu);
-    void prepareFavorites(CMenu* menu);
-    void fillFavorites(CMenu& favorites);
     void OnAddFavorite(UINT command);
     int selectedCount() const;
 
@@ -328,7 +310,7 @@ private:
     int m_fileTypeInUse = -1;  // while the list is dropped down it may show another
     knav::BackHistory m_previous;
     knav::DialogLayout m_layout;
-    HACCEL m_accelerators = nullptr;
+    knav::DialogKeys m_keys{*this};
 
     knav::FileNameCompletion m_completion;
 
@@ -341,7 +323,6 @@ private:
     bool m_nameCameFromSelection = false;
     bool m_placesListDirty = false;
     bool m_placesListCustomized = false;
-    bool m_enterHeldSinceStart = true;
     CString m_currentPlace;
     struct NewFolder {
         CString name;

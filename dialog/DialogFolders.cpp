@@ -6,6 +6,7 @@
 #include <knav/NavNames.h>
 
 #include "dialog/CNavDialogImp.h"
+#include "dialog/DialogAccess.h"
 #include "dialog/FolderQuestions.h"
 #include "dialog/FolderTexts.h"
 #include "dialog/Messages.h"
@@ -130,7 +131,7 @@ void CNavDialogImp::browsed(ITEMIDLIST* folder, UINT) {
     } else {
         m_data.RemoveAllData();
     }
-    nameView();
+    knav::nameView(m_listInUse->GetSafeHwnd(), m_facade.GetSafeHwnd());
     showInLookIn(folder);
     AddItemToPrevious(folder);
     UpdateAutoCompletion();

@@ -11,6 +11,49 @@
 #include "shell/TextRules.h"
 
 namespace knav {
+namespace {
+
+/// A folder that is a place already cannot be added once more.
+void preparePlaces(CMenu& menu, const ToolsMenuFacts& facts) {
+    if (!(facts.present & NavToolsAddToPlaces) || !facts.hasPlaces) {
+        menu.DeleteMenu(IDM_KNAV_ADD_TO_PLACES, MF_BYCOMMAND);
+    } else if (facts.isPlace) {
+        menu.EnableMenuItem(IDM_KNAV_ADD_TO_PLACES, MF_BYCOMMAND | MF_GRAYED);
+    }
+}
+
+void fillFavorites(CMenu& favorites, const ToolsMenuFacts& facts) {
+    while (favorites.GetMenuItemCount() > 0 && favorites.DeleteMenu(0, MF_BYPOSITION)) {
+    }
+    CString folder = facts.folder;
+    folder.Replace(L"&", L"&&");
+    favorites.AppendMenu(MF_STRING, IDM_KNAV_FAVORITE_FOLDER, messageText(IDS_KNAV_FAVORITE_FOLDER, folder));
+    if (facts.selected == 1) {
+        favorites.AppendMenu(MF_STRING, IDM_KNAV_FAVORITE_ITEM, messageText(IDS_KNAV_FAVORITE_ITEM));
+    } else if (facts.selected > 1) {
+        favorites.AppendMenu(MF_STRING, IDM_KNAV_FAVORITE_ITEMS, messageText(IDS_KNAV_FAVORITE_ITEMS));
+    }
+}
+
+/// The Favorites submenu is the first entry that is a submenu.
+void prepareFavorites(CMenu& menu, const ToolsMenuFacts& facts) {
+    int position = 0;
+    while (position < menu.GetMenuItemCount() && menu.GetMenuItemID(position) != static_cast<UINT>(-1)) {
+        ++position;
+    }
+    if (position == menu.GetMenuItemCount()) {
+        return;
+    }
+    if (!(facts.present & NavToolsAddToFavorites)) {
+        menu.DeleteMenu(position, MF_BYPOSITION);
+    } else if (facts.isRemote) {
+        menu.EnableMenuItem(position, MF_BYPOSITION | MF_GRAYED);
+    } else {
+        fillFavorites(*menu.GetSubMenu(position), facts);
+    }
+}
+
+}  // namespace
 
 int toolsMenuItemPosition(unsigned int item) {
     constexpr unsigned int kItems[] = {NavToolsFind,  NavToolsLocate,      NavToolsItem3,
@@ -47,6 +90,20 @@ void dropIdleSeparators(CMenu& menu) {
     }
 }
 
+void prepareToolsMenu(CMenu& menu, const ToolsMenuFacts& facts) {
+    // Commands of parts that the dialog does not have yet are not offered.
+    for (const UINT absent : {IDM_KNAV_FIND, IDM_KNAV_FTP_LOCATIONS}) {
+        menu.DeleteMenu(absent, MF_BYCOMMAND);
+    }
+    if (!(facts.present & NavToolsLocate)) {
+        menu.DeleteMenu(IDM_KNAV_LOCATE, MF_BYCOMMAND);
+    } else if (!facts.hasName) {
+        menu.EnableMenuItem(IDM_KNAV_LOCATE, MF_BYCOMMAND | MF_GRAYED);
+    }
+    preparePlaces(menu, facts);
+    prepareFavorites(menu, facts);
+}
+
 }  // namespace knav
 
 int CNavDialogImp::PrepareButtonMenu(UINT buttonId, CMenu& menu) {
@@ -79,62 +136,14 @@ void CNavDialogImp::PrepareViewsMenu(CMenu* menu) {
 }
 
 void CNavDialogImp::PrepareToolsMenu(CMenu* menu) {
-    const unsigned present = m_options.toolsMenuItemsPresent;
-    // Commands of parts that the dialog does not have yet are not offered.
-    for (const UINT absent : {IDM_KNAV_FIND, IDM_KNAV_FTP_LOCATIONS}) {
-        menu->DeleteMenu(absent, MF_BYCOMMAND);
-    }
-    if (!(present & NavToolsLocate)) {
-        menu->DeleteMenu(IDM_KNAV_LOCATE, MF_BYCOMMAND);
-    } else if (knav::trimmed(fileNameText().view()).empty()) {
-        menu->EnableMenuItem(IDM_KNAV_LOCATE, MF_BYCOMMAND | MF_GRAYED);
-    }
-    preparePlaces(menu);
-    prepareFavorites(menu);
-}
-
-/// A folder that is a place already cannot be added once more.
-void CNavDialogImp::preparePlaces(CMenu* menu) {
-    const bool hasList = m_places.GetSafeHwnd() && !m_policies.noPlacesList;
-    if (!(m_options.toolsMenuItemsPresent & NavToolsAddToPlaces) || !hasList) {
-        menu->DeleteMenu(IDM_KNAV_ADD_TO_PLACES, MF_BYCOMMAND);
-    } else if (m_places.GetCurSel() >= 0) {
-        menu->EnableMenuItem(IDM_KNAV_ADD_TO_PLACES, MF_BYCOMMAND | MF_GRAYED);
-    }
-}
-
-/// The Favorites submenu is the first entry that is a submenu.
-void CNavDialogImp::prepareFavorites(CMenu* menu) {
-    int position = 0;
-    while (position < menu->GetMenuItemCount() && menu->GetMenuItemID(position) != static_cast<UINT>(-1)) {
-        ++position;
-    }
-    if (position == menu->GetMenuItemCount()) {
-        return;
-    }
-    if (!(m_options.toolsMenuItemsPresent & NavToolsAddToFavorites)) {
-        menu->DeleteMenu(position, MF_BYPOSITION);
-        return;
-    }
+    knav::ToolsMenuFacts facts;
+    facts.present = m_options.toolsMenuItemsPresent;
+    facts.hasName = !knav::trimmed(fileNameText().view()).empty();
+    facts.hasPlaces = m_places.GetSafeHwnd() && !m_policies.noPlacesList;
+    facts.isPlace = facts.hasPlaces && m_places.GetCurSel() >= 0;
     CNavPathname folder;
-    if (selectedFolderPathname(folder) && folder.GetIsURL()) {
-        menu->EnableMenuItem(position, MF_BYPOSITION | MF_GRAYED);
-        return;
-    }
-    fillFavorites(*menu->GetSubMenu(position));
-}
-
-void CNavDialogImp::fillFavorites(CMenu& favorites) {
-    while (favorites.GetMenuItemCount() > 0 && favorites.DeleteMenu(0, MF_BYPOSITION)) {
-    }
-    CString folder;
-    GetCurrentFolder(folder);
-    folder.Replace(L"&", L"&&");
-    favorites.AppendMenu(MF_STRING, IDM_KNAV_FAVORITE_FOLDER, knav::messageText(IDS_KNAV_FAVORITE_FOLDER, folder));
-    const int selected = selectedCount();
-    if (selected == 1) {
-        favorites.AppendMenu(MF_STRING, IDM_KNAV_FAVORITE_ITEM, knav::messageText(IDS_KNAV_FAVORITE_ITEM));
-    } else if (selected > 1) {
-        favorites.AppendMenu(MF_STRING, IDM_KNAV_FAVORITE_ITEMS, knav::messageText(IDS_KNAV_FAVORITE_ITEMS));
-    }
+    facts.isRemote = selectedFolderPathname(folder) && folder.GetIsURL();
+    GetCurrentFolder(facts.folder);
+    facts.selected = selectedCount();
+    knav::prepareToolsMenu(*menu, facts);
 }

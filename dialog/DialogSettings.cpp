@@ -6,21 +6,6 @@
 
 namespace {
 
-/// Gives the dialog the name under which all dialogs share values, for as long as it lives.
-class SharedName {
-public:
-    explicit SharedName(CZoUiDialog& dialog) : m_dialog(dialog), m_own(dialog.GetDialogName()) {
-        m_dialog.SetDialogName(knav::kAllDialogsName);
-    }
-    ~SharedName() { m_dialog.SetDialogName(m_own); }
-    SharedName(const SharedName&) = delete;
-    SharedName& operator=(const SharedName&) = delete;
-
-private:
-    CZoUiDialog& m_dialog;
-    const CString m_own;
-};
-
 void readFlag(HKEY key, const wchar_t* name, int& flag) {
     DWORD value = 0;
     if (ryRegGetValue(key, name, value) == ERROR_SUCCESS && value != 0) {
@@ -40,26 +25,6 @@ void knav::applyPolicies(DialogPolicies& policies) {
     if (key.open(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer")) {
         readFlag(key.get(), L"NoRecentDocsHistory", policies.noRecentDocsHistory);
     }
-}
-
-int CNavDialogImp::setAllDialogsData(const CString& name, unsigned long value) {
-    const SharedName shared(m_facade);
-    return m_facade.SetDialogData(name, value);
-}
-
-int CNavDialogImp::setAllDialogsData(const CString& name, const CString& value) {
-    const SharedName shared(m_facade);
-    return m_facade.SetDialogData(name, value);
-}
-
-int CNavDialogImp::getAllDialogsData(const CString& name, unsigned long& value) {
-    const SharedName shared(m_facade);
-    return m_facade.GetDialogData(name, value);
-}
-
-int CNavDialogImp::getAllDialogsData(const CString& name, CString& value) {
-    const SharedName shared(m_facade);
-    return m_facade.GetDialogData(name, value);
 }
 
 void CNavDialogImp::SaveCurrentStates() {

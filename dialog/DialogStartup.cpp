@@ -9,8 +9,8 @@
 
 #include <array>
 
-#include "controls/Dpi.h"
 #include "dialog/CNavDialogImp.h"
+#include "dialog/DialogAccess.h"
 #include "dialog/FolderQuestions.h"
 #include "dialog/FolderTexts.h"
 #include "dialog/Messages.h"
@@ -22,12 +22,6 @@
 namespace {
 
 constexpr DWORD kStartFolderRoom = 259;
-
-struct ButtonLook {
-    CNavBitmapButton* button;
-    UINT picture;
-    UINT tip;
-};
 
 void hide(CWnd& control) {
     if (control.GetSafeHwnd()) {
@@ -47,7 +41,7 @@ void CNavDialogImp::InitializeDialogData() {
     if (!m_options.caption.IsEmpty()) {
         m_facade.SetWindowText(m_options.caption);
     }
-    startAccelerators();
+    m_keys.begin();
     startViewMode();
     knav::applyPolicies(m_policies);
     startBrowserHost();
@@ -88,12 +82,6 @@ void CNavDialogImp::startFoldersOnly() {
     m_options.toolsMenuItemsPresent &= ~static_cast<unsigned>(NavToolsFind | NavToolsLocate);
     m_policies.noFileMru = 1;
     m_policies.noRecentDocsHistory = 1;
-}
-
-void CNavDialogImp::startAccelerators() {
-    if (!m_accelerators) {
-        m_accelerators = LoadAcceleratorsW(knav::ownResources(), MAKEINTRESOURCEW(IDR_KNAV_KEYS));
-    }
 }
 
 void CNavDialogImp::startViewMode() {
@@ -275,42 +263,6 @@ void CNavDialogImp::startPlaces() {
     UpdatePlacesListBox();
 }
 
-void CNavDialogImp::startPictures() {
-    const ButtonLook looks[] = {
-        {&m_backButton, IDB_KNAV_BACK, IDS_KNAV_TIP_BACK},
-        {&m_upButton, IDB_KNAV_UP, IDS_KNAV_TIP_UP},
-        {&m_webButton, IDB_KNAV_WEB, IDS_KNAV_TIP_WEB},
-        {&m_refreshButton, IDB_KNAV_REFRESH, IDS_KNAV_TIP_REFRESH},
-        {&m_deleteButton, IDB_KNAV_DELETE, IDS_KNAV_TIP_DELETE},
-        {&m_newFolderButton, IDB_KNAV_NEW_FOLDER, IDS_KNAV_TIP_NEW_FOLDER},
-        {&m_toolsButton, IDB_KNAV_TOOLS, IDS_KNAV_TIP_TOOLS},
-        {&m_viewsButton, IDB_KNAV_VIEWS, IDS_KNAV_TIP_VIEWS},
-    };
-    m_backButton.SetPictureDirectional(1);
-    for (const ButtonLook& look : looks) {
-        look.button->SetPictureId(look.picture, knav::ownResources());
-        look.button->SetTipText(knav::messageText(look.tip));
-    }
-}
-
-/// Names and paths are read from the left in every language.
-void CNavDialogImp::keepNamesLeftToRight() {
-    COMBOBOXINFO info{};
-    info.cbSize = sizeof info;
-    if (!m_fileName.GetSafeHwnd() || !GetComboBoxInfo(m_fileName.GetSafeHwnd(), &info)) {
-        return;
-    }
-    // The text of the list of file types below begins this far from the field's edge.
-    const int margin = knav::scaled(1, GetDpiForWindow(info.hwndItem));
-    ::SendMessageW(info.hwndItem, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
-    constexpr LONG_PTR fromTheRight = WS_EX_LAYOUTRTL | WS_EX_RTLREADING | WS_EX_RIGHT;
-    const LONG_PTR style = GetWindowLongPtrW(info.hwndItem, GWL_EXSTYLE);
-    if ((style & fromTheRight) != 0) {
-        SetWindowLongPtrW(info.hwndItem, GWL_EXSTYLE, style & ~fromTheRight);
-        ::InvalidateRect(info.hwndItem, nullptr, TRUE);
-    }
-}
-
 void CNavDialogImp::captureLayout() {
     m_layout.capture(m_facade.GetSafeHwnd(), knav::navLayoutRows(), IDC_KNAV_VIEW);
     m_layout.fitScreen();
@@ -327,7 +279,7 @@ void CNavDialogImp::startFocus() {
 /// What nobody can need before the dialog is there to be seen.
 void CNavDialogImp::finishStart() {
     m_started = true;
-    startAccessibility();
+    knav::nameControls(*this, m_facade.GetSafeHwnd());
     UpdateAutoCompletion();
     if (m_places.GetSafeHwnd() && !m_policies.noPlacesList) {
         m_places.RegisterDropTarget();
