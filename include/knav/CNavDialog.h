@@ -165,7 +165,7 @@ public:
     int GetNoPlacesList() const;
     /// Nonzero when the user has changed the Places list.
     int GetIsPlacesListCustomized() const;
-    /// Hide entries of the Places list. Default 0.
+    /// Hide FTP locations, the favourites, or all other navigation extensions, in the Places list. Default 0.
     int GetNoFTPInPlaces() const;
     void SetNoFTPInPlaces(int hide);
     int GetNoFavoritesInPlaces() const;
@@ -181,9 +181,10 @@ public:
     /// URLs are refused. Default 0.
     int GetNoURLsAllowed() const;
     void SetNoURLsAllowed(int noUrls);
-    /// Hide FTP locations, or all other navigation extensions, in the Look-in list. Default 0.
+    /// Hide FTP locations, in the Look-in list and in the Places list. Default 0.
     int GetNoFTP() const;
     void SetNoFTP(int hide);
+    /// Hide all other navigation extensions in the Look-in list. Default 0.
     int GetNoExtraExtensions() const;
     void SetNoExtraExtensions(int hide);
 
@@ -202,13 +203,13 @@ protected:
 
     /// The user asked for help, and the dialog has no help tag (SetHelpTag).
     virtual void OnDialogHelp();
+
+public:
     /// Write and read a value that all dialogs share. Nonzero on success.
     virtual int SetAllDialogsData(const CString& name, unsigned long value);
     virtual int SetAllDialogsData(const CString& name, const CString& value);
     virtual int GetAllDialogsData(const CString& name, unsigned long& value);
     virtual int GetAllDialogsData(const CString& name, CString& value);
-
-public:
     /// Looks the typed name up along the search path and puts what was found into the file name field.
     virtual void LocateFile();
 
@@ -259,8 +260,12 @@ protected:
     virtual void OnDoLocate();
     virtual void OnDoFind();
     virtual void OnDoAddToFavorites(int command);
+
+public:
     /// Makes the view read its folder again.
     virtual void Refresh();
+
+protected:
     /// The user edited the file name, chose one from its list, or chose a file type.
     virtual void OnFileNameChange();
     virtual void OnFileNameSelectionChange();

@@ -23,10 +23,12 @@
 #include <knav/CNavListCtrl.h>
 #include <knav/CNavNode.h>
 #include <knav/CNavPathname.h>
+#include <knav/CNavPlace.h>
 #include <knav/CNavShell.h>
 #include <knav/CNavToolsButton.h>
 #include <knav/CNavTree.h>
 #include <knav/FileDialogAllowReturnFolderEnabler.h>
+#include <knav/IKNavUI.h>
 #include <knav/NavExtensions.h>
 #include <knav/NavFind.h>
 #include <knav/NavFolders.h>
