@@ -24,7 +24,7 @@ protected:
     void OnOK() override {}
     void OnCancel() override {}
 
-    void OnClose() { CZoUiDialog::OnCancel(); }
+    void OnClose() { EndDialog(IDOK); }  // and not cancelled: the window's place is remembered
     void OnSize(UINT type, int width, int height);
     void OnGetMinMaxInfo(MINMAXINFO* limits);
     HBRUSH OnCtlColor(HDC dc, CWnd* child, UINT type);

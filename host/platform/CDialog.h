@@ -37,11 +37,6 @@ public:
 
     BOOL IsDialogMessage(MSG* message) { return ::IsDialogMessageW(m_hWnd, message); }
     void NextDlgCtrl() const { SendMessage(WM_NEXTDLGCTL, FALSE, FALSE); }
-    void GotoDlgCtrl(CWnd* control) const {
-        SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(SafeHwnd(control)), TRUE);
-    }
-    void SetDefID(UINT id) const { SendMessage(DM_SETDEFID, id); }
-    UINT GetDefID() const { return LOWORD(SendMessage(DM_GETDEFID)); }
 
     BOOL PreTranslateMessage(MSG* message) override;
 
@@ -51,6 +46,9 @@ protected:
     virtual BOOL OnInitDialog();
     virtual void OnOK();      // reads the controls by UpdateData, then ends with IDOK
     virtual void OnCancel();  // ends with IDCANCEL
+
+    // What EndDialog was given last; kDialogFailed before.
+    INT_PTR GetResult() const noexcept { return m_result; }
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 

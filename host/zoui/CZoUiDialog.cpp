@@ -72,21 +72,13 @@ void CZoUiDialog::SetDefaultRootKey(const wchar_t* key) {
 
 // --- place -------------------------------------------------------------------------------------------------------
 
-void CZoUiDialog::OnOK() {
-    savePlacement();
-    CZoUiBaseDialog::OnOK();
-}
-
-void CZoUiDialog::OnCancel() {
-    savePlacement();
-    CZoUiBaseDialog::OnCancel();
-}
-
 LRESULT CZoUiDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const LRESULT result = CZoUiBaseDialog::WindowProc(message, wParam, lParam);
     // Only now: the derived class may name the dialog as late as in its OnInitDialog.
     if (message == WM_INITDIALOG) {
         restorePlacement();
+    } else if (message == WM_DESTROY && GetResult() != IDCANCEL && GetResult() != kDialogFailed) {
+        savePlacement();
     }
     return result;
 }

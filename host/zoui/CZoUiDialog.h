@@ -4,9 +4,9 @@
 #include <zoui/CZoUiBaseDialog.h>
 
 /// Values are kept for the current user under root key + "\" + the dialog's name. A dialog without a name reads
-/// nothing and writes nothing. The position, and for a dialog with a sizing border the size, are written when it closes
-/// with OK or Cancel, and restored as soon as OnInitDialog has returned: fitted to the work area of the monitor and to
-/// its dots per inch.
+/// nothing and writes nothing. The position, and for a dialog with a sizing border the size, are written when it was
+/// ended (EndDialog) with anything but IDCANCEL, and restored as soon as OnInitDialog has returned: fitted to the work
+/// area of the monitor and to its dots per inch.
 class ZOUI_API CZoUiDialog : public CZoUiBaseDialog {
     DECLARE_DYNAMIC(CZoUiDialog)
 public:
@@ -36,8 +36,6 @@ public:
     static void SetDefaultRootKey(const wchar_t* key);
 
 protected:
-    void OnOK() override;
-    void OnCancel() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:

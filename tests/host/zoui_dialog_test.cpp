@@ -29,14 +29,10 @@ RECT rectOf(HWND window) {
     return rect;
 }
 
-RECT workArea() {
-    RECT area{};
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
-    return area;
-}
-
-void place(HWND window, const RECT& rect) {
-    SetWindowPos(window, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, SWP_NOZORDER);
+bool isInside(const RECT& inner, const RECT& outer) {
+    RECT common{};
+    IntersectRect(&common, &inner, &outer);
+    return common == inner;
 }
 
 // --- place ---------------------------------------------------------------------------------------------------------
@@ -54,169 +50,131 @@ public:
         return CZoUiDialog::OnInitDialog();
     }
 
-    // Runs the dialog, reports where it is, and closes it with `button` after moving it.
-    RECT run(UINT button, std::optional<RECT> moveTo = std::nullopt) {
+    // Runs the dialog, reports where it is, and ends it with `button` after moving it.
+    RECT run(UINT button = IDCANCEL, const RECT* moveTo = nullptr) {
         RECT opened{};
         DialogDriver driver;
         driver.then("look", [&] {
             opened = rectOf(m_hWnd);
-            if (moveTo) {
-                place(m_hWnd, *moveTo);
+            if (moveTo != nullptr) {
+                MoveWindow(*moveTo);
             }
         });
-        driver.click(button);
+        driver.command(button);
         driver.run([this] { return DoModal(); });
         return opened;
     }
 
     RECT m_atInit{};
 
+protected:
+    void onEnd(UINT result) { EndDialog(static_cast<INT_PTR>(result)); }
+    DECLARE_MESSAGE_MAP()
+
 private:
     DialogTemplate m_template;
 };
+BEGIN_MESSAGE_MAP(PlacedDialog, CZoUiDialog)
+ON_COMMAND_RANGE(100, 200, &PlacedDialog::onEnd)
+END_MESSAGE_MAP()
 
 class DialogPlaceTest : public testing::Test {
-protected:
-    static void store(const wchar_t* text) {
-        CZoUiDialog dialog(0);
-        dialog.SetDialogName(L"Placed");
-        dialog.SetDialogData(L"WindowPlacement", CString(text));
-    }
-    static UINT dpi() { return GetDpiForSystem(); }
-
     knav::test::RegistryRedirect m_redirect;
 };
 
-TEST_F(DialogPlaceTest, PlaceAndSizeAreRememberedHoweverTheDialogIsClosed) {
+TEST_F(DialogPlaceTest, PlaceAndSizeAreRememberedUnlessTheDialogIsCancelled) {
     const RECT first{40, 50, 440, 350};
     const RECT second{60, 30, 560, 330};
+    const RECT third{80, 70, 480, 370};
     PlacedDialog dialog;
-    EXPECT_EQ(dialog.run(IDOK, first), dialog.m_atInit) << "nothing remembered yet";
-    EXPECT_EQ(dialog.run(IDCANCEL, second), first);
-    EXPECT_EQ(dialog.run(IDCANCEL), second);
-}
+    EXPECT_EQ(dialog.run(IDCANCEL, &first), dialog.m_atInit) << "nothing remembered yet";
+    EXPECT_EQ(dialog.run(IDOK, &first), dialog.m_atInit) << "nor after Cancel";
+    EXPECT_EQ(dialog.run(IDCANCEL, &second), first);
+    EXPECT_EQ(dialog.run(150, &third), first);
+    EXPECT_EQ(dialog.run(), third) << "ended with a result of its own";
 
-TEST_F(DialogPlaceTest, DialogOfFixedSizeKeepsItsSize) {
-    const RECT moved{40, 50, 440, 350};
-    PlacedDialog resizable;
-    resizable.run(IDOK, moved);
     PlacedDialog fixed(0);
-    const RECT opened = fixed.run(IDCANCEL);
-    EXPECT_EQ(opened.left, moved.left);
-    EXPECT_EQ(opened.top, moved.top);
-    EXPECT_EQ(opened.right - opened.left, fixed.m_atInit.right - fixed.m_atInit.left);
-    EXPECT_EQ(opened.bottom - opened.top, fixed.m_atInit.bottom - fixed.m_atInit.top);
+    const RECT opened = fixed.run();
+    EXPECT_EQ(opened.left, third.left);
+    EXPECT_EQ(opened.top, third.top);
+    EXPECT_EQ(opened.right - opened.left, fixed.m_atInit.right - fixed.m_atInit.left) << "a fixed size stays";
 }
 
-TEST_F(DialogPlaceTest, PlaceOutsideEveryMonitorComesBackIntoTheWorkArea) {
-    const RECT room = workArea();
-    for (const wchar_t* text : {L"-5000 -5000 400 300 96", L"20000 20000 400 300 96", L"0 0 30000 30000 96"}) {
-        store(text);
+TEST_F(DialogPlaceTest, StoredPlaceIsFittedAndASenselessOneIgnored) {
+    RECT room{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &room, 0);
+    CString halfTheDots;
+    halfTheDots.Format(L"10 10 200 150 %u", GetDpiForSystem() / 2);
+    struct Row {
+        const wchar_t* text;
+        std::optional<RECT> opened;  // none: where it is by itself, or moved as far as it must be
+        bool ignored = false;
+    };
+    const Row rows[] = {
+        {halfTheDots, RECT{10, 10, 410, 310}},
+        {L"-5000 -5000 400 300 96", {}},
+        {L"20000 20000 400 300 96", {}},
+        {L"0 0 30000 30000 96", {}},
+        {L"", {}, true},
+        {L"10 10 200 150", {}, true},
+        {L"10 10 200 150 96 1", {}, true},
+        {L"10 10 0 150 96", {}, true},
+        {L"10 10 -5 150 96", {}, true},
+        {L"10 10 200 150 0", {}, true},
+        {L"99999999999 10 200 150 96", {}, true},
+        {L"a b c d e", {}, true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(knav::test::utf8(row.text));
         PlacedDialog dialog;
-        const RECT opened = dialog.run(IDCANCEL);
-        RECT inside{};
-        IntersectRect(&inside, &opened, &room);
-        EXPECT_EQ(opened, inside) << knav::test::utf8(text);
+        dialog.SetDialogName(L"Placed");
+        dialog.SetDialogData(L"WindowPlacement", CString(row.text));
+        const RECT opened = dialog.run();
+        EXPECT_TRUE(isInside(opened, room)) << opened;
+        EXPECT_EQ(opened == dialog.m_atInit, row.ignored) << opened;
+        EXPECT_EQ(opened, row.opened.value_or(opened));
     }
 }
 
-TEST_F(DialogPlaceTest, SizeFollowsTheDotsPerInch) {
-    CString text;
-    text.Format(L"10 10 200 150 %u", dpi() / 2);
-    store(text);
-    PlacedDialog dialog;
-    EXPECT_EQ(dialog.run(IDCANCEL), (RECT{10, 10, 410, 310}));
-}
-
-TEST_F(DialogPlaceTest, SenselessPlaceIsIgnored) {
-    for (const wchar_t* text : {L"", L"10 10 200 150", L"10 10 200 150 96 1", L"10 10 0 150 96", L"10 10 -5 150 96",
-                                L"10 10 200 150 0", L"99999999999 10 200 150 96", L"a b c d e"}) {
-        store(text);
-        PlacedDialog dialog;
-        EXPECT_EQ(dialog.run(IDCANCEL), dialog.m_atInit) << knav::test::utf8(text);
-    }
-}
-
-// --- notifications and controls --------------------------------------------------------------------------------------
-
-constexpr UINT kCombo = 100;
-
-class LoadingCombo : public CZoUiComboBox {
-public:
-    int OnAutoLoad() override {
-        AddString(L"one");
-        AddString(L"two");
-        return 1;
-    }
-};
+// --- notifications ---------------------------------------------------------------------------------------------------
 
 class NotifiedDialog : public CZoUiDialog {
 public:
-    NotifiedDialog() : CZoUiDialog(0), m_template(L"Notified") {
-        m_template.control(WC_COMBOBOXW, L"", kCombo, CBS_DROPDOWNLIST | WS_TABSTOP, 5, 60).okAndCancel();
-        InitModalIndirect(m_template.get());
-    }
-    void DoDataExchange(CDataExchange* exchange) override { DDX_Control(exchange, kCombo, m_combo); }
-    BOOL OnInitDialog() override {
-        EXPECT_EQ(AutoLoadControl(m_combo), 0) << "without a window there is nothing to load";
-        const BOOL result = CZoUiDialog::OnInitDialog();
-        EXPECT_EQ(AutoLoadControl(m_combo), 1);
-        EXPECT_EQ(m_combo.GetZoUiParent(), this);
-        CWnd plain;
-        EXPECT_EQ(AutoLoadControl(plain), 0);
-        return result;
-    }
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-        m_plainNotices += wParam == MAKEWPARAM(kCombo, CBN_SELCHANGE);
-        return CZoUiDialog::OnCommand(wParam, lParam);
-    }
-    ZOUI_REPLY OnNotifyControlChange(unsigned int id, __int64 code) override {
-        m_changes.emplace_back(id, code);
-        return m_reply;
-    }
-    ZOUI_REPLY OnNotifyGeneric(unsigned int code, __int64 parameter) override {
-        m_changes.emplace_back(code, parameter);
-        return ZOUI_REPLY_HANDLED;
-    }
+    NotifiedDialog() : CZoUiDialog(0) { CreateIndirect(m_template.get()); }
+    ZOUI_REPLY OnNotifyControlChange(unsigned int id, __int64 code) override { return note(id, code); }
+    ZOUI_REPLY OnNotifyGeneric(unsigned int code, __int64 parameter) override { return note(code, parameter); }
 
-    std::vector<std::pair<unsigned int, __int64>> m_changes;
-    int m_plainNotices = 0;
+    std::vector<std::pair<unsigned int, __int64>> m_notes;
     ZOUI_REPLY m_reply = ZOUI_REPLY_NOT_HANDLED;
-    LoadingCombo m_combo;
 
 private:
-    DialogTemplate m_template;
+    ZOUI_REPLY note(unsigned int code, __int64 parameter) {
+        m_notes.emplace_back(code, parameter);
+        return m_reply;
+    }
+
+    const DialogTemplate m_template{L"Notified"};
 };
 
-TEST(DialogNotify, NewSelectionReachesTheDialogOnceAndEndsThereWhenHandled) {
+TEST(DialogNotify, EachReachesTheDialogOnceAndEndsThereWhenHandled) {
     NotifiedDialog dialog;
-    DialogDriver driver;
-    driver.select(kCombo, 1);
-    driver.then("handle the next", [&] {
-        EXPECT_EQ(dialog.m_plainNotices, 1);
-        dialog.m_reply = ZOUI_REPLY_HANDLED;
-    });
-    driver.select(kCombo, 0).click(IDCANCEL);
-    driver.run([&] { return dialog.DoModal(); });
-    using Change = std::pair<unsigned int, __int64>;
-    EXPECT_EQ(dialog.m_changes, (std::vector<Change>{{kCombo, CBN_SELCHANGE}, {kCombo, CBN_SELCHANGE}}));
-    EXPECT_EQ(dialog.m_combo.GetCurSel(), 0);
-}
-
-TEST(DialogNotify, GenericNotificationKeepsItsWholeParameter) {
-    NotifiedDialog dialog;
-    EXPECT_EQ(ZoUiNotify(&dialog, 16), ZOUI_REPLY_NOT_HANDLED) << "no window yet";
+    CZoUiComboBox combo;
+    combo.Create(CBS_DROPDOWN, RECT{0, 0, 50, 50}, &dialog, 100);
+    EXPECT_EQ(dialog.AutoLoadControl(combo), 0) << "has nothing to load";
+    EXPECT_EQ(combo.GetZoUiParent(), &dialog);
+    const WPARAM change = MAKEWPARAM(100, CBN_SELCHANGE);
+    for (const ZOUI_REPLY reply : {ZOUI_REPLY_NOT_HANDLED, ZOUI_REPLY_HANDLED}) {
+        dialog.m_reply = reply;
+        LRESULT result = 0;
+        EXPECT_EQ(CWnd::ReflectMessage(combo, WM_COMMAND, change, 0, &result) != FALSE, reply == ZOUI_REPLY_HANDLED);
+        EXPECT_EQ(ZoUiNotify(&dialog, 0xFFFFFFF0u, 0x123456789ABCDEF0), reply);
+    }
+    using Note = std::pair<unsigned int, __int64>;
+    const Note selection{100, CBN_SELCHANGE};
+    const Note other{0xFFFFFFF0u, 0x123456789ABCDEF0};
+    EXPECT_EQ(dialog.m_notes, (std::vector<Note>{selection, other, selection, other}));
+    EXPECT_EQ(ZoUiNotify(&combo, 16), ZOUI_REPLY_NOT_HANDLED) << "any other window";
     EXPECT_EQ(ZoUiNotify(nullptr, 16), ZOUI_REPLY_NOT_HANDLED);
-    DialogDriver driver;
-    driver.then("notify", [&] {
-        EXPECT_EQ(ZoUiNotify(&dialog, 0xFFFFFFF0u, 0x123456789ABCDEF0), ZOUI_REPLY_HANDLED);
-        EXPECT_EQ(ZoUiNotify(dialog.GetDlgItem(IDOK), 16), ZOUI_REPLY_NOT_HANDLED) << "any other window";
-    });
-    driver.click(IDCANCEL);
-    driver.run([&] { return dialog.DoModal(); });
-    ASSERT_EQ(dialog.m_changes.size(), 1u);
-    EXPECT_EQ(dialog.m_changes[0].first, 0xFFFFFFF0u);
-    EXPECT_EQ(dialog.m_changes[0].second, 0x123456789ABCDEF0);
 }
 
 // --- tabs ------------------------------------------------------------------------------------------------------------
@@ -228,13 +186,9 @@ public:
     explicit Page(WORD editId) : CZoUiTabPage(0), m_template(L"", WS_CHILD | DS_CONTROL, 100, 30) {
         m_template.control(WC_EDITW, L"", editId, WS_BORDER | WS_TABSTOP, 2);
     }
-    BOOL OnLeave() override {
-        ++m_leaves;
-        return m_mayLeave && CZoUiTabPage::OnLeave();
-    }
+    BOOL OnLeave() override { return m_mayLeave && CZoUiTabPage::OnLeave(); }
     DialogTemplate m_template;
     bool m_mayLeave = true;
-    int m_leaves = 0;
 };
 
 class TabbedDialog : public CZoUiTabMainDialog {
@@ -252,6 +206,11 @@ public:
     }
     // What is in front, by what the user sees.
     int visiblePage() { return m_first.IsWindowVisible() ? (m_second.IsWindowVisible() ? -2 : 0) : 1; }
+    void chooseTab(int index) {
+        SendDlgItemMessage(kTabs, TCM_SETCURSEL, static_cast<WPARAM>(index));
+        NMHDR header{GetDlgItem(kTabs)->m_hWnd, kTabs, static_cast<UINT>(TCN_SELCHANGE)};
+        SendMessage(WM_NOTIFY, kTabs, reinterpret_cast<LPARAM>(&header));
+    }
 
     Page m_first{301};
     Page m_second{302};
@@ -260,57 +219,33 @@ private:
     DialogTemplate m_template;
 };
 
-void chooseTab(HWND dialog, int index) {
-    SendDlgItemMessageW(dialog, kTabs, TCM_SETCURSEL, static_cast<WPARAM>(index), 0);
-    NMHDR header{GetDlgItem(dialog, kTabs), kTabs, static_cast<UINT>(TCN_SELCHANGE)};
-    SendMessageW(dialog, WM_NOTIFY, kTabs, reinterpret_cast<LPARAM>(&header));
-}
-
-TEST(TabDialog, PagesChangeUnlessTheOneInFrontRefuses) {
+TEST(TabDialog, PagesChangeAndOkEndsUnlessAPageRefuses) {
     TabbedDialog dialog;
-    DialogDriver driver;
-    driver.then("tabs", [&] {
-        EXPECT_EQ(dialog.visiblePage(), 0);
-        chooseTab(dialog.m_hWnd, 1);
-        EXPECT_EQ(dialog.visiblePage(), 1);
-        dialog.m_second.m_mayLeave = false;
-        chooseTab(dialog.m_hWnd, 0);
-        EXPECT_EQ(dialog.visiblePage(), 1);
-        EXPECT_EQ(SendDlgItemMessageW(dialog.m_hWnd, kTabs, TCM_GETCURSEL, 0, 0), 1) << "the tab goes back";
-        EXPECT_FALSE(dialog.SetActivePage(2));
-        EXPECT_EQ(dialog.GetActivePage(), 1);
-        RECT tabs = rectOf(GetDlgItem(dialog.m_hWnd, kTabs));
-        const RECT page = rectOf(dialog.m_second.m_hWnd);
-        RECT common{};
-        IntersectRect(&common, &tabs, &page);
-        EXPECT_EQ(common, page) << "a page lies in its tab control";
-    });
-    driver.click(IDCANCEL);
-    EXPECT_EQ(driver.run([&] { return dialog.DoModal(); }), IDCANCEL);
-}
-
-TEST(TabDialog, OkAsksEveryPageAndShowsTheOneThatRefuses) {
-    TabbedDialog dialog;
-    dialog.m_second.m_mayLeave = false;
-    DialogDriver driver;
-    driver.click(IDOK);
-    driver.wait("the page that refuses", [&] { return dialog.visiblePage() == 1; });
-    driver.then("let it", [&] { dialog.m_second.m_mayLeave = true; });
-    // Enter in a field of a page is the main dialog's.
-    driver.then("enter", [&] {
-        const HWND edit = GetDlgItem(dialog.m_second.m_hWnd, 302);
-        SetFocus(edit);
-        PostMessageW(edit, WM_KEYDOWN, VK_RETURN, 1);
-    });
-    EXPECT_EQ(driver.run([&] { return dialog.DoModal(); }), IDOK);
-    EXPECT_EQ(dialog.m_first.m_leaves, 2);
-}
-
-TEST(TabDialog, DialogCanBeRunAgainWithTheSamePages) {
-    TabbedDialog dialog;
-    for (int i = 0; i < 2; ++i) {
+    for (int round = 0; round < 2; ++round) {  // it can be run again with the same pages
         DialogDriver driver;
-        driver.then("look", [&] { EXPECT_EQ(dialog.visiblePage(), 0); }).click(IDOK);
+        driver.then("tabs", [&] {
+            EXPECT_EQ(dialog.visiblePage(), 0);
+            dialog.chooseTab(1);
+            EXPECT_EQ(dialog.visiblePage(), 1);
+            EXPECT_TRUE(isInside(rectOf(dialog.m_second), rectOf(*dialog.GetDlgItem(kTabs))));
+            dialog.m_second.m_mayLeave = false;
+            dialog.chooseTab(0);
+            EXPECT_EQ(dialog.visiblePage(), 1);
+            EXPECT_EQ(dialog.SendDlgItemMessage(kTabs, TCM_GETCURSEL), 1) << "the tab goes back";
+            dialog.m_second.m_mayLeave = true;
+            EXPECT_FALSE(dialog.SetActivePage(2));
+            EXPECT_TRUE(dialog.SetActivePage(0));
+            dialog.m_second.m_mayLeave = false;
+        });
+        driver.click(IDOK);
+        driver.wait("the page that refuses", [&] { return dialog.visiblePage() == 1; });
+        // Enter in a field of a page is the main dialog's.
+        driver.then("enter", [&] {
+            dialog.m_second.m_mayLeave = true;
+            const HWND edit = *dialog.m_second.GetDlgItem(302);
+            SetFocus(edit);
+            PostMessageW(edit, WM_KEYDOWN, VK_RETURN, 1);
+        });
         EXPECT_EQ(driver.run([&] { return dialog.DoModal(); }), IDOK);
     }
 }
