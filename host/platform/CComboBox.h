@@ -19,16 +19,9 @@ public:
     }
     int DeleteString(int index) { return number(CB_DELETESTRING, index); }
     void ResetContent() { SendMessage(CB_RESETCONTENT); }
-    int FindString(int after, const wchar_t* start) const {
-        return number(CB_FINDSTRING, after, reinterpret_cast<LPARAM>(start));
-    }
     int FindStringExact(int after, const wchar_t* text) const {
         return number(CB_FINDSTRINGEXACT, after, reinterpret_cast<LPARAM>(text));
     }
-    int SelectString(int after, const wchar_t* start) {
-        return number(CB_SELECTSTRING, after, reinterpret_cast<LPARAM>(start));
-    }
-    int GetLBTextLen(int index) const { return number(CB_GETLBTEXTLEN, index); }
     void GetLBText(int index, CString& text) const;  // empty when there is no such item
     DWORD_PTR GetItemData(int index) const { return static_cast<DWORD_PTR>(SendMessage(CB_GETITEMDATA, at(index))); }
     int SetItemData(int index, DWORD_PTR data) { return number(CB_SETITEMDATA, index, static_cast<LPARAM>(data)); }

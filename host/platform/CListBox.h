@@ -13,22 +13,12 @@ public:
     int GetCount() const { return number(LB_GETCOUNT); }
     int GetCurSel() const { return number(LB_GETCURSEL); }
     int SetCurSel(int index) { return number(LB_SETCURSEL, index); }
-    int GetSel(int index) const { return number(LB_GETSEL, index); }
-    int SetSel(int index, BOOL select = TRUE) { return number(LB_SETSEL, select, index); }
-    int GetSelCount() const { return number(LB_GETSELCOUNT); }
     int AddString(const wchar_t* text) { return number(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)); }
     int InsertString(int index, const wchar_t* text) {
         return number(LB_INSERTSTRING, index, reinterpret_cast<LPARAM>(text));
     }
     int DeleteString(int index) { return number(LB_DELETESTRING, index); }
     void ResetContent() { SendMessage(LB_RESETCONTENT); }
-    int FindString(int after, const wchar_t* start) const {
-        return number(LB_FINDSTRING, after, reinterpret_cast<LPARAM>(start));
-    }
-    int FindStringExact(int after, const wchar_t* text) const {
-        return number(LB_FINDSTRINGEXACT, after, reinterpret_cast<LPARAM>(text));
-    }
-    int GetTextLen(int index) const { return number(LB_GETTEXTLEN, index); }
     void GetText(int index, CString& text) const;  // empty when there is no such item
     DWORD_PTR GetItemData(int index) const { return static_cast<DWORD_PTR>(SendMessage(LB_GETITEMDATA, at(index))); }
     int SetItemData(int index, DWORD_PTR data) { return number(LB_SETITEMDATA, index, static_cast<LPARAM>(data)); }

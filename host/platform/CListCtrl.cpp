@@ -2,26 +2,17 @@
 
 IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
 
-namespace {
-
-LVITEMW itemAt(int index, UINT mask) noexcept {
+int CListCtrl::InsertItem(int index, const wchar_t* text, int image) {
     LVITEMW item{};
     item.iItem = index;
-    item.mask = mask;
-    return item;
-}
-
-}  // namespace
-
-int CListCtrl::InsertItem(int index, const wchar_t* text, int image) {
-    LVITEMW item = itemAt(index, LVIF_TEXT | LVIF_IMAGE);
+    item.mask = LVIF_TEXT | LVIF_IMAGE;
     item.pszText = const_cast<wchar_t*>(text);
     item.iImage = image;
-    return InsertItem(&item);
+    return static_cast<int>(SendMessage(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
 }
 
 CString CListCtrl::GetItemText(int index, int column) const {
-    LVITEMW item = itemAt(index, 0);
+    LVITEMW item{};
     item.iSubItem = column;
     CString text;
     int room = 0;
@@ -30,7 +21,8 @@ CString CListCtrl::GetItemText(int index, int column) const {
         room = room == 0 ? 128 : 2 * room;
         item.pszText = text.GetBufferSetLength(room);
         item.cchTextMax = room;
-        length = number(LVM_GETITEMTEXTW, index, reinterpret_cast<LPARAM>(&item));
+        length = static_cast<int>(
+            SendMessage(LVM_GETITEMTEXTW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item)));
         // It may also have answered with a text of its own instead of filling the buffer.
         const CString found(item.pszText, length);
         text = found;
@@ -39,33 +31,11 @@ CString CListCtrl::GetItemText(int index, int column) const {
 }
 
 BOOL CListCtrl::SetItemText(int index, int column, const wchar_t* text) {
-    LVITEMW item = itemAt(index, 0);
+    LVITEMW item{};
     item.iSubItem = column;
     item.pszText = const_cast<wchar_t*>(text);
-    return number(LVM_SETITEMTEXTW, index, reinterpret_cast<LPARAM>(&item));
-}
-
-LPARAM CListCtrl::GetItemData(int index) const {
-    LVITEMW item = itemAt(index, LVIF_PARAM);
-    return GetItem(&item) ? item.lParam : 0;
-}
-
-BOOL CListCtrl::SetItemData(int index, LPARAM data) {
-    LVITEMW item = itemAt(index, LVIF_PARAM);
-    item.lParam = data;
-    return SetItem(&item);
-}
-
-BOOL CListCtrl::SetItemState(int index, UINT state, UINT mask) {
-    LVITEMW item = itemAt(index, LVIF_STATE);
-    item.state = state;
-    item.stateMask = mask;
-    return number(LVM_SETITEMSTATE, index, reinterpret_cast<LPARAM>(&item));
-}
-
-BOOL CListCtrl::GetItemRect(int index, RECT* rectangle, int part) const {
-    rectangle->left = part;  // in: which part of the item
-    return number(LVM_GETITEMRECT, index, reinterpret_cast<LPARAM>(rectangle));
+    return static_cast<BOOL>(
+        SendMessage(LVM_SETITEMTEXTW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item)));
 }
 
 int CListCtrl::InsertColumn(int column, const wchar_t* heading, int format, int width) {
@@ -74,5 +44,10 @@ int CListCtrl::InsertColumn(int column, const wchar_t* heading, int format, int 
     data.pszText = const_cast<wchar_t*>(heading);
     data.fmt = format;
     data.cx = width;
-    return number(LVM_INSERTCOLUMNW, column, reinterpret_cast<LPARAM>(&data));
+    return static_cast<int>(
+        SendMessage(LVM_INSERTCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&data)));
+}
+
+BOOL CListCtrl::SetColumnWidth(int column, int width) {
+    return static_cast<BOOL>(SendMessage(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), MAKELPARAM(width, 0)));
 }

@@ -6,7 +6,3 @@ CWaitCursor::CWaitCursor() noexcept : m_previous(SetCursor(LoadCursorW(nullptr, 
 CWaitCursor::~CWaitCursor() {
     SetCursor(m_previous);
 }
-
-void CWaitCursor::Restore() noexcept {
-    SetCursor(LoadCursorW(nullptr, IDC_WAIT));
-}

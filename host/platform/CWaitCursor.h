@@ -12,9 +12,6 @@ public:
     CWaitCursor(const CWaitCursor&) = delete;
     CWaitCursor& operator=(const CWaitCursor&) = delete;
 
-    // Shows the hourglass again after something (a message box) changed the cursor.
-    void Restore() noexcept;
-
 private:
     HCURSOR m_previous;
 };

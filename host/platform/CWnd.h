@@ -36,8 +36,8 @@ public:
     BOOL Attach(HWND window);
     HWND Detach() noexcept;
 
-    // Route the window's messages through this object, through the system's subclass list. Fails like Attach and for a
-    // window of another thread. UnsubclassWindow gives the handle back; other subclassings stay as they are.
+    // Route the window's messages through this object first. Fails like Attach and for a window of another thread.
+    // UnsubclassWindow gives the handle back; other subclassings stay as they are, in whatever way they were made.
     BOOL SubclassWindow(HWND window);
     BOOL SubclassDlgItem(UINT id, CWnd* parent);
     HWND UnsubclassWindow() noexcept { return Detach(); }
@@ -53,7 +53,6 @@ public:
     // Related windows, as FromHandle gives them.
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetOwner() const { return FromHandle(::GetWindow(m_hWnd, GW_OWNER)); }
-    CWnd* GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOT)); }
     CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
     CWnd* GetWindow(UINT relation) const { return FromHandle(::GetWindow(m_hWnd, relation)); }
     CWnd* GetNextDlgTabItem(CWnd* from, BOOL previous = FALSE) const;
@@ -75,7 +74,7 @@ public:
     static BOOL WalkPreTranslateTree(HWND stop, MSG* message);
     virtual BOOL PreTranslateMessage(MSG* message);
 
-    // Offers a message about a child window to the child's object, as ON_..._REFLECT entries and OnChildNotify
+    // Offers a message about a child window to the child's object, as ON_CONTROL_REFLECT_EX and OnChildNotify
     // overrides see it. Nonzero when the child took it.
     static BOOL ReflectMessage(HWND child, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
@@ -154,7 +153,6 @@ private:
     BOOL bind(HWND window, bool subclass, bool created);
     void bindCreated(HWND window) { bind(window, true, true); }
     bool callHandler(UINT message, UINT id, WPARAM wParam, LPARAM lParam, LRESULT* result);
-    BOOL reflectToMap(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
 
     zoui::WindowBinding* m_binding = nullptr;
 };

@@ -127,22 +127,9 @@ BOOL CWnd::ReflectMessage(HWND child, UINT message, WPARAM wParam, LPARAM lParam
     return object != nullptr && object->OnChildNotify(message, wParam, lParam, result);
 }
 
-BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
-    return reflectToMap(message, wParam, lParam, result);
-}
-
-BOOL CWnd::reflectToMap(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
-    if (message == WM_COMMAND) {
-        return OnCmdMsg(0, MAKELONG(HIWORD(wParam), WM_COMMAND + zoui::kReflected), nullptr, nullptr);
-    }
-    if (message == WM_NOTIFY) {
-        AFX_NOTIFY notify{result, reinterpret_cast<NMHDR*>(lParam)};
-        return OnCmdMsg(0, MAKELONG(notify.pNMHDR->code, WM_NOTIFY + zoui::kReflected), &notify, nullptr);
-    }
-    if (isColourRequest(message)) {
-        return callHandler(WM_CTLCOLOR + zoui::kReflected, message - WM_CTLCOLORMSGBOX, wParam, lParam, result);
-    }
-    return callHandler(message + zoui::kReflected, 0, wParam, lParam, result);
+BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM, LRESULT*) {
+    return message == WM_COMMAND &&
+           OnCmdMsg(0, MAKELONG(HIWORD(wParam), WM_COMMAND + zoui::kReflected), nullptr, nullptr);
 }
 
 HBRUSH CWnd::OnCtlColor(HDC, CWnd* child, UINT) {

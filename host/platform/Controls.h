@@ -7,4 +7,3 @@
 #include <platform/CListBox.h>
 #include <platform/CListCtrl.h>
 #include <platform/CStatic.h>
-#include <platform/CToolTipCtrl.h>

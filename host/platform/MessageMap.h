@@ -104,18 +104,11 @@ bool callCommand(CCmdTarget& target, const MessageCall& call) {
     });
 }
 
-// void or BOOL Handler(NMHDR*, LRESULT*), or with the control's id before them.
-template <auto Handler, bool Declines = false>
+// void Handler(NMHDR*, LRESULT*)
+template <auto Handler>
 bool callNotify(CCmdTarget& target, const MessageCall& call) {
-    auto& object = targetOf<Handler>(target);
-    auto* const header = reinterpret_cast<NMHDR*>(call.lParam);
-    return taken<Declines>([&] {
-        if constexpr (std::is_invocable_v<decltype(Handler), decltype(object), UINT, NMHDR*, LRESULT*>) {
-            return (object.*Handler)(call.id, header, call.result);
-        } else {
-            return (object.*Handler)(header, call.result);
-        }
-    });
+    (targetOf<Handler>(target).*Handler)(reinterpret_cast<NMHDR*>(call.lParam), call.result);
+    return true;
 }
 
 // LRESULT Handler(WPARAM, LPARAM)
@@ -153,30 +146,20 @@ protected:                                        \
     return &map;                                   \
     }
 
-// Commands of menus, accelerators and buttons. The _EX handlers return BOOL: 0 passes the command on.
+// Commands of menus, accelerators and buttons.
 #define ON_COMMAND(id, handler) {WM_COMMAND, CN_COMMAND, (id), (id), &zoui::callCommand<handler>},
-#define ON_COMMAND_EX(id, handler) {WM_COMMAND, CN_COMMAND, (id), (id), &zoui::callCommand<handler, true>},
 #define ON_COMMAND_RANGE(first, last, handler) {WM_COMMAND, CN_COMMAND, (first), (last), &zoui::callCommand<handler>},
 
 // Notifications of child controls, by code.
 #define ON_CONTROL(code, id, handler) {WM_COMMAND, (code), (id), (id), &zoui::callCommand<handler>},
 #define ON_BN_CLICKED(id, handler) ON_CONTROL(BN_CLICKED, id, handler)
-#define ON_EN_CHANGE(id, handler) ON_CONTROL(EN_CHANGE, id, handler)
 #define ON_CBN_SELCHANGE(id, handler) ON_CONTROL(CBN_SELCHANGE, id, handler)
-#define ON_CBN_EDITCHANGE(id, handler) ON_CONTROL(CBN_EDITCHANGE, id, handler)
-#define ON_LBN_SELCHANGE(id, handler) ON_CONTROL(LBN_SELCHANGE, id, handler)
-#define ON_LBN_DBLCLK(id, handler) ON_CONTROL(LBN_DBLCLK, id, handler)
 #define ON_NOTIFY(code, id, handler) {WM_NOTIFY, LOWORD(code), (id), (id), &zoui::callNotify<handler>},
-#define ON_NOTIFY_EX(code, id, handler) {WM_NOTIFY, LOWORD(code), (id), (id), &zoui::callNotify<handler, true>},
 
-// The same notifications, handled by the control's own class before its parent sees them. The parent does not see them
-// at all, except that an _EX handler that returns 0 lets it.
-#define ON_CONTROL_REFLECT(code, handler) {WM_COMMAND + zoui::kReflected, (code), 0, 0, &zoui::callCommand<handler>},
+// The same notifications, handled by the control's own class before its parent sees them: it does when the handler,
+// which returns BOOL, returns 0.
 #define ON_CONTROL_REFLECT_EX(code, handler) \
     {WM_COMMAND + zoui::kReflected, (code), 0, 0, &zoui::callCommand<handler, true>},
-#define ON_NOTIFY_REFLECT(code, handler) {WM_NOTIFY + zoui::kReflected, LOWORD(code), 0, 0, &zoui::callNotify<handler>},
-#define ON_NOTIFY_REFLECT_EX(code, handler) \
-    {WM_NOTIFY + zoui::kReflected, LOWORD(code), 0, 0, &zoui::callNotify<handler, true>},
 
 // Any message. `variable` is a static UINT that holds a registered message's number.
 #define ON_MESSAGE(message, handler) {(message), 0, 0, 0, &zoui::callRaw<handler>},

@@ -62,12 +62,6 @@ const CString* argumentAt(std::wstring_view rest, const std::vector<CString>& ar
     return index < arguments.size() ? &arguments[index] : nullptr;
 }
 
-CString formatOf(UINT id) {
-    CString format;
-    AfxLoadString(id, format);
-    return format;
-}
-
 }  // namespace
 
 ZoPromptHandler ZoSetPromptHandler(ZoPromptHandler handler) {
@@ -95,7 +89,9 @@ int AfxMessageBox(const wchar_t* text, UINT flags) {
 }
 
 int AfxMessageBox(UINT textId, UINT flags) {
-    return AfxMessageBox(formatOf(textId), flags);
+    CString text;
+    AfxLoadString(textId, text);
+    return AfxMessageBox(text, flags);
 }
 
 CString ZoProgramName() {
@@ -118,12 +114,4 @@ CString ZoFormatText(const wchar_t* format, const std::vector<CString>& argument
         }
     }
     return result;
-}
-
-void AfxFormatString1(CString& result, UINT formatId, const wchar_t* first) {
-    result = ZoFormatText(formatOf(formatId), {first});
-}
-
-void AfxFormatString2(CString& result, UINT formatId, const wchar_t* first, const wchar_t* second) {
-    result = ZoFormatText(formatOf(formatId), {first, second});
 }

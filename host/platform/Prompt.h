@@ -50,8 +50,5 @@ ZOUI_API int ZoMessageBox(HWND owner, const wchar_t* text, const wchar_t* captio
 // The name shown as caption when nobody gives another: the program file's name without extension.
 ZOUI_API CString ZoProgramName();
 
-// A text of the string table with "%1" and "%2" replaced, in one pass. "%2" stays where only one text is given.
-ZOUI_API void AfxFormatString1(CString& result, UINT formatId, const wchar_t* first);
-ZOUI_API void AfxFormatString2(CString& result, UINT formatId, const wchar_t* first, const wchar_t* second);
-// The same for a text at hand: "%1" to "%9" are replaced by the texts given, any other "%" stays.
+// "%1" to "%9" are replaced by the texts given, in one pass; any other "%" stays.
 ZOUI_API CString ZoFormatText(const wchar_t* format, const std::vector<CString>& arguments);

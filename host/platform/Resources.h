@@ -29,8 +29,6 @@ public:
     CDynLinkLibrary(const CDynLinkLibrary&) = delete;
     CDynLinkLibrary& operator=(const CDynLinkLibrary&) = delete;
 
-    HINSTANCE GetModule() const noexcept { return m_module; }
-
 private:
     HINSTANCE m_module;
 };

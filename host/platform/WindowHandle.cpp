@@ -52,11 +52,6 @@ void WindowHandle::GetDlgItemText(int id, CString& text) const {
     item.GetWindowText(text);
 }
 
-CString WindowHandle::GetClassName() const {
-    wchar_t name[257] = L"";
-    return CString(name, ::GetClassNameW(m_hWnd, name, ARRAYSIZE(name)));
-}
-
 BOOL WindowHandle::ModifyStyle(DWORD remove, DWORD add, UINT positionFlags) const {
     return modifyStyle(m_hWnd, GWL_STYLE, remove, add, positionFlags);
 }

@@ -34,11 +34,7 @@ public:
     void GetWindowText(CString& text) const;
     BOOL SetDlgItemText(int id, const wchar_t* text) const { return ::SetDlgItemTextW(m_hWnd, id, text); }
     void GetDlgItemText(int id, CString& text) const;
-    CString GetClassName() const;
     HFONT GetFont() const { return reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)); }
-    void SetFont(HFONT font, BOOL redraw = TRUE) const {
-        SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font), redraw);
-    }
 
     // State.
     BOOL ShowWindow(int show) const { return ::ShowWindow(m_hWnd, show); }
@@ -54,8 +50,6 @@ public:
     // With `positionFlags` (SWP_...) the window is told to redraw its frame. Nonzero when the style changed.
     BOOL ModifyStyle(DWORD remove, DWORD add, UINT positionFlags = 0) const;
     BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT positionFlags = 0) const;
-    LONG_PTR GetWindowLongPtr(int index) const { return ::GetWindowLongPtrW(m_hWnd, index); }
-    LONG_PTR SetWindowLongPtr(int index, LONG_PTR value) const { return ::SetWindowLongPtrW(m_hWnd, index, value); }
     BOOL SetWindowContextHelpId(DWORD id) const { return ::SetWindowContextHelpId(m_hWnd, id); }
     UINT GetDpi() const { return ::GetDpiForWindow(m_hWnd); }
 
@@ -80,10 +74,6 @@ public:
     void Invalidate(BOOL erase = TRUE) const { ::InvalidateRect(m_hWnd, nullptr, erase); }
     void InvalidateRect(const RECT* rectangle, BOOL erase = TRUE) const { ::InvalidateRect(m_hWnd, rectangle, erase); }
     void UpdateWindow() const { ::UpdateWindow(m_hWnd); }
-    BOOL RedrawWindow(const RECT* rectangle = nullptr, HRGN region = nullptr,
-                      UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE) const {
-        return ::RedrawWindow(m_hWnd, rectangle, region, flags);
-    }
     void SetRedraw(BOOL redraw = TRUE) const { SendMessage(WM_SETREDRAW, redraw); }
 
     // Timers without callback, and check boxes.

@@ -32,11 +32,9 @@ ZOUI_UNPACK(WM_CLOSE)
 ZOUI_UNPACK(WM_CONTEXTMENU, windowOf(static_cast<LPARAM>(c.wParam)), point)
 ZOUI_UNPACK(WM_CREATE, reinterpret_cast<CREATESTRUCTW*>(c.lParam))
 ZOUI_UNPACK(WM_CTLCOLOR, reinterpret_cast<HDC>(c.wParam), windowOf(c.lParam), c.id)
-ZOUI_UNPACK(WM_CTLCOLOR + kReflected, reinterpret_cast<HDC>(c.wParam), c.id)
 ZOUI_UNPACK(WM_DELETEITEM, int(c.wParam), reinterpret_cast<DELETEITEMSTRUCT*>(c.lParam))
 ZOUI_UNPACK(WM_DESTROY)
 ZOUI_UNPACK(WM_DRAWITEM, int(c.wParam), reinterpret_cast<DRAWITEMSTRUCT*>(c.lParam))
-ZOUI_UNPACK(WM_DRAWITEM + kReflected, reinterpret_cast<DRAWITEMSTRUCT*>(c.lParam))
 ZOUI_UNPACK(WM_ENABLE, BOOL(c.wParam))
 ZOUI_UNPACK(WM_ERASEBKGND, reinterpret_cast<HDC>(c.wParam))
 ZOUI_UNPACK(WM_GETDLGCODE)
@@ -51,7 +49,6 @@ ZOUI_UNPACK(WM_LBUTTONDBLCLK, UINT(c.wParam), point)
 ZOUI_UNPACK(WM_LBUTTONDOWN, UINT(c.wParam), point)
 ZOUI_UNPACK(WM_LBUTTONUP, UINT(c.wParam), point)
 ZOUI_UNPACK(WM_MEASUREITEM, int(c.wParam), reinterpret_cast<MEASUREITEMSTRUCT*>(c.lParam))
-ZOUI_UNPACK(WM_MEASUREITEM + kReflected, reinterpret_cast<MEASUREITEMSTRUCT*>(c.lParam))
 ZOUI_UNPACK(WM_MOUSELEAVE)
 ZOUI_UNPACK(WM_MOUSEMOVE, UINT(c.wParam), point)
 ZOUI_UNPACK(WM_MOUSEWHEEL, UINT(LOWORD(c.wParam)), short(HIWORD(c.wParam)), point)
@@ -75,7 +72,6 @@ ZOUI_UNPACK(WM_WINDOWPOSCHANGING, reinterpret_cast<WINDOWPOS*>(c.lParam))
 
 #undef ZOUI_UNPACK
 
-// A reflected colour request whose handler gives no brush is left to the parent.
 template <UINT Message, auto Handler>
 bool callMessage(CCmdTarget& target, const MessageCall& call) {
     auto& object = targetOf<Handler>(target);
@@ -87,7 +83,6 @@ bool callMessage(CCmdTarget& target, const MessageCall& call) {
         *call.result = 0;
     } else if constexpr (std::is_pointer_v<Result>) {
         *call.result = reinterpret_cast<LRESULT>(std::apply(handle, arguments));
-        return Message < kReflected || *call.result != 0;
     } else {
         *call.result = static_cast<LRESULT>(std::apply(handle, arguments));
     }
@@ -106,11 +101,9 @@ bool callMessage(CCmdTarget& target, const MessageCall& call) {
 #define ON_WM_CONTEXTMENU() ZOUI_ON_WM(WM_CONTEXTMENU, OnContextMenu)
 #define ON_WM_CREATE() ZOUI_ON_WM(WM_CREATE, OnCreate)
 #define ON_WM_CTLCOLOR() ZOUI_ON_WM(WM_CTLCOLOR, OnCtlColor)
-#define ON_WM_CTLCOLOR_REFLECT() ZOUI_ON_WM(WM_CTLCOLOR + zoui::kReflected, CtlColor)
 #define ON_WM_DELETEITEM() ZOUI_ON_WM(WM_DELETEITEM, OnDeleteItem)
 #define ON_WM_DESTROY() ZOUI_ON_WM(WM_DESTROY, OnDestroy)
 #define ON_WM_DRAWITEM() ZOUI_ON_WM(WM_DRAWITEM, OnDrawItem)
-#define ON_WM_DRAWITEM_REFLECT() ZOUI_ON_WM(WM_DRAWITEM + zoui::kReflected, DrawItem)
 #define ON_WM_ENABLE() ZOUI_ON_WM(WM_ENABLE, OnEnable)
 #define ON_WM_ERASEBKGND() ZOUI_ON_WM(WM_ERASEBKGND, OnEraseBkgnd)
 #define ON_WM_GETDLGCODE() ZOUI_ON_WM(WM_GETDLGCODE, OnGetDlgCode)
@@ -125,7 +118,6 @@ bool callMessage(CCmdTarget& target, const MessageCall& call) {
 #define ON_WM_LBUTTONDOWN() ZOUI_ON_WM(WM_LBUTTONDOWN, OnLButtonDown)
 #define ON_WM_LBUTTONUP() ZOUI_ON_WM(WM_LBUTTONUP, OnLButtonUp)
 #define ON_WM_MEASUREITEM() ZOUI_ON_WM(WM_MEASUREITEM, OnMeasureItem)
-#define ON_WM_MEASUREITEM_REFLECT() ZOUI_ON_WM(WM_MEASUREITEM + zoui::kReflected, MeasureItem)
 #define ON_WM_MOUSELEAVE() ZOUI_ON_WM(WM_MOUSELEAVE, OnMouseLeave)
 #define ON_WM_MOUSEMOVE() ZOUI_ON_WM(WM_MOUSEMOVE, OnMouseMove)
 #define ON_WM_MOUSEWHEEL() ZOUI_ON_WM(WM_MOUSEWHEEL, OnMouseWheel)

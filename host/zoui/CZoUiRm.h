@@ -23,12 +23,7 @@ class ZOUI_API CZoUiRm {
 public:
     CZoUiRm() = delete;
 
-    /// The icon of that name in the resource modules or, failing that, the bitmap as an icon: a 32-bit bitmap keeps its
-    /// transparency, any other one shows the colour of its upper left corner as transparent. `size` is the width and
-    /// height in pixels; 0 takes the system's small icon size for an icon and a bitmap as it is. Null when there is
-    /// neither.
+    /// The icon of that name in the resource modules, or null. `size` is the width and height in pixels; 0 takes the
+    /// system's small icon size.
     static zoui::UniqueIcon Icon(const CZoUiRmId& id, int size = 0);
-
-    /// The bitmap of that name with its alpha values, or null.
-    static zoui::UniqueBitmap Bitmap(const CZoUiRmId& id);
 };
