@@ -65,16 +65,15 @@ TEST(CNavPathnameRelative, TakesAbsolutePathsInOrdinaryFolders) {
     EXPECT_EQ(CNavPathname().ParseRelative(nullptr, nullptr, nullptr, 1), PathErr::NotFileSystem);
 }
 
-struct SiteRow {
-    const char* why;
-    const wchar_t* site;
-    std::wstring text;
-    PathErr result;
-    std::wstring location;
-    const wchar_t* asked;  // what the site's folder is asked for
-};
-
 TEST(CNavPathnameRelative, ResolvesTextsInsideASite) {
+    struct SiteRow {
+        const char* why;
+        const wchar_t* site;
+        std::wstring text;
+        PathErr result;
+        std::wstring location;
+        const wchar_t* asked;  // what the site's folder is asked for
+    };
     const std::wstring long240(240, L'a');
     const SiteRow rows[] = {
         {"a name", L"ftp://host", L"f.dwg", PathErr::None, L"ftp://host/f.dwg", L"f.dwg"},

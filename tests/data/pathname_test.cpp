@@ -7,15 +7,16 @@
 #include "shell/SiteLocation.h"
 #include "support/AllocationSpy.h"
 #include "support/FakeFolder.h"
-#include "support/Printers.h"
-#include "support/ScopedTempFolder.h"
+#include "support/RealNamespace.h"
 
 namespace {
 
 using knav::ItemList;
 using knav::test::AllocationSpy;
 using knav::test::FakeFolder;
+using knav::test::parsed;
 using knav::test::ScopedTempFolder;
+using knav::test::special;
 
 CString fullPath(const CNavPathname& pathname) {
     CString path;
@@ -23,7 +24,7 @@ CString fullPath(const CNavPathname& pathname) {
     return path;
 }
 
-CNavPathname parsed(const wchar_t* text) {
+CNavPathname pathnameOf(const wchar_t* text) {
     CNavPathname pathname;
     pathname.Parse(text, true);
     return pathname;
@@ -76,7 +77,7 @@ TEST(CNavPathname, SaysWhetherThereIsNoTrailingSlash) {
         {L"sub", true},     {L"sub\\", false}, {L"missing\\a.txt", false},
     };
     for (const auto& [name, noSlash] : rows) {
-        EXPECT_EQ(parsed(folder.path(name)).hasTrailingSlash(), noSlash) << knav::test::utf8(name);
+        EXPECT_EQ(pathnameOf(folder.path(name)).hasTrailingSlash(), noSlash) << knav::test::utf8(name);
     }
     EXPECT_FALSE(CNavPathname().hasTrailingSlash());
     CString path = L"old";
@@ -103,7 +104,7 @@ TEST(CNavPathname, TakesLocationsApart) {
     };
     for (const LocationRow& row : rows) {
         SCOPED_TRACE(knav::test::utf8(row.location));
-        const CNavPathname pathname = parsed(row.location);
+        const CNavPathname pathname = pathnameOf(row.location);
         CString prefix = L"old";
         const bool has = row.prefix[0] != L'\0';
         EXPECT_EQ(pathname.GetSitePrefix(prefix), has ? 1 : 0);
@@ -115,8 +116,8 @@ TEST(CNavPathname, TakesLocationsApart) {
         EXPECT_EQ(text, row.basename);
     }
     CString text = L"old";
-    EXPECT_EQ(parsed(L"C:\\windows").GetSitePrefix(text), 0);
-    parsed(L"C:\\windows").GetServerName(text);
+    EXPECT_EQ(pathnameOf(L"C:\\windows").GetSitePrefix(text), 0);
+    pathnameOf(L"C:\\windows").GetServerName(text);
     EXPECT_EQ(text, L"");
     EXPECT_EQ(knav::lastName(L"a/b\\c"), L"b\\c");
     EXPECT_EQ(knav::lastName(L"store\\shelf"), L"shelf") << "without a slash";
@@ -229,19 +230,6 @@ ItemList inStore(const wchar_t* name) {
     return ItemList::join(storeRoot().get(), FakeFolder::item(name).get());
 }
 
-ItemList internetRoot() {
-    ITEMIDLIST* list = nullptr;
-    SHGetSpecialFolderLocation(nullptr, CSIDL_INTERNET, &list);
-    return ItemList::adopt(list);
-}
-
-ItemList webFolders() {
-    constexpr wchar_t path[] = L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{BDEADF00-C265-11D0-BCED-00A0C90AB50F}";
-    ITEMIDLIST* list = nullptr;
-    SHParseDisplayName(path, nullptr, &list, 0, nullptr);
-    return ItemList::adopt(list);
-}
-
 TEST(CNavPathname, TakesItemsOfExtensionsAndSitesAsTheyAre) {
     struct Row {
         const char* why;
@@ -251,15 +239,18 @@ TEST(CNavPathname, TakesItemsOfExtensionsAndSitesAsTheyAre) {
         bool isUrl = false;
     };
     const ItemList drawer = FakeFolder::item(L"drawer");
+    const ItemList internet = special(CSIDL_INTERNET);
+    const ItemList webFolders =
+        parsed(L"::{20D04FE0-3AEA-1069-A2D8-08002B30309D}\\::{BDEADF00-C265-11D0-BCED-00A0C90AB50F}");
     const Row rows[] = {
         {"a child item", inStore(L"sheet"), storeRoot(), CZoUiPathname::ExistingFile},
         {"a child item that is a folder", inStore(L"drawer"), storeRoot(), CZoUiPathname::Directory},
         {"a site, known by its parent", FakeFolder::item(L"shelf"), storeRoot(), CZoUiPathname::Directory},
-        {"an internet site", ItemList::join(internetRoot().get(), drawer.get()), internetRoot(),
+        {"an internet site", ItemList::join(internet.get(), drawer.get()), ItemList::copyOf(internet.get()),
          CZoUiPathname::Directory, true},
-        {"the Web Folders", webFolders(), {}, CZoUiPathname::Directory, true},
-        {"an item below the Web Folders", ItemList::join(webFolders().get(), drawer.get()), webFolders(),
-         CZoUiPathname::Directory, true},
+        {"the Web Folders", ItemList::copyOf(webFolders.get()), {}, CZoUiPathname::Directory, true},
+        {"an item below the Web Folders", ItemList::join(webFolders.get(), drawer.get()),
+         ItemList::copyOf(webFolders.get()), CZoUiPathname::Directory, true},
     };
     const auto folder = FakeFolder::make(L"");
     folder->add(L"drawer", SFGAO_FOLDER).add(L"sheet", 0);

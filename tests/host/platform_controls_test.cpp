@@ -1,6 +1,5 @@
 // The wrappers that do more than send one message, on real controls.
 #include <platform/Controls.h>
-#include <platform/GdiOwners.h>
 
 #include <gtest/gtest.h>
 
@@ -59,21 +58,6 @@ TEST_F(ControlsTest, ListsAnswerMissingItemsWithNothing) {
         EXPECT_EQ(list.ItemFromPoint({5, isThere ? 2 : 90}, outside), 0u);
         EXPECT_EQ(outside != FALSE, !isThere);
     }
-}
-
-TEST(GdiOwners, PutBackWhatWasThere) {
-    const zoui::UniqueMemoryDC dc(CreateCompatibleDC(nullptr));
-    const zoui::UniqueFont font(CreateFontW(20, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma"));
-    const HGDIOBJ before = GetCurrentObject(dc.get(), OBJ_FONT);
-    {
-        const zoui::SelectedObject selected(dc.get(), font.get());
-        EXPECT_EQ(GetCurrentObject(dc.get(), OBJ_FONT), font.get());
-        const zoui::SelectedObject nothing(dc.get(), nullptr);
-        const zoui::SavedDC saved(dc.get());
-        SetBkMode(dc.get(), TRANSPARENT);
-    }
-    EXPECT_EQ(GetCurrentObject(dc.get(), OBJ_FONT), before);
-    EXPECT_EQ(GetBkMode(dc.get()), OPAQUE);
 }
 
 }  // namespace

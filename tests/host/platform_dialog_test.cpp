@@ -173,17 +173,6 @@ TEST(ModalDialog, KicksIdleUntilThereIsNothingToDo) {
     EXPECT_TRUE(alwaysVisible);
 }
 
-TEST(ModalDialog, TranslatesKeys) {
-    for (const auto& [key, result] : {std::pair{VK_ESCAPE, IDCANCEL}, {VK_RETURN, IDOK}}) {
-        SampleDialog dialog;
-        EXPECT_EQ(dialog.runWith([&] {
-            ::PostMessageW(::GetFocus(), WM_KEYDOWN, VK_TAB, 1);
-            ::PostMessageW(::GetFocus(), WM_KEYDOWN, static_cast<WPARAM>(key), 1);
-        }),
-                  result);
-    }
-}
-
 TEST(ModalDialog, OwnsTheDialogRunFromIt) {
     OwnerWindow owner;
     SampleDialog outer(&owner);
@@ -217,17 +206,6 @@ TEST(DialogData, MovesBetweenControlsAndMembersUnlessItIsRefused) {
         dialog.PostMessage(WM_COMMAND, IDOK);
     });
     EXPECT_STREQ(dialog.m_text, L"after");
-}
-
-TEST(ModelessDialog, LivesUntilItIsDestroyed) {
-    OwnerWindow owner;
-    SampleDialog dialog;
-    ASSERT_TRUE(dialog.CreateIndirect(sampleTemplate().get(), &owner));
-    EXPECT_TRUE(owner.IsWindowEnabled());
-    EXPECT_FALSE(dialog.CreateIndirect(sampleTemplate().get(), &owner));
-    EXPECT_TRUE(dialog.DestroyWindow());
-    EXPECT_EQ(dialog.m_edit.m_hWnd, nullptr);
-    EXPECT_FALSE(dialog.Create(4711, &owner));
 }
 
 }  // namespace

@@ -12,8 +12,6 @@ using knav::test::growthOver;
 using knav::test::ObjectCounts;
 using knav::test::RegistryRedirect;
 using knav::test::ScopedTempFolder;
-using testing::AllOf;
-using testing::HasSubstr;
 
 TEST(ObjectCounts, EachKindOfLeakIsSeenAndEndsWhenFreed) {
     const ObjectCounts before = ObjectCounts::now();
@@ -95,6 +93,7 @@ TEST(FaultReport, FaultEndsTheProgramWithItsCodeAndAStack) {
     // Not null, which a checked build would report before the processor does.
     int* volatile nowhere = reinterpret_cast<int*>(std::uintptr_t{16});
     EXPECT_EXIT(*nowhere = 1, testing::ExitedWithCode(knav::test::kFaultExit),
-                AllOf(HasSubstr("unhandled fault 0xc0000005"), HasSubstr("#0  test_selftest")));
+                testing::AllOf(testing::HasSubstr("unhandled fault 0xc0000005"),
+                               testing::HasSubstr("#0  test_selftest")));
     EXPECT_EXIT(std::terminate(), testing::ExitedWithCode(knav::test::kFaultExit), "uncaught exception");
 }
