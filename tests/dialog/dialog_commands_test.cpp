@@ -377,6 +377,10 @@ TEST_F(DialogCommands, NameTypedBeforeGoingToTheView_IsFoundThere) {
     user.untilShown({L"1", L"plan.dwg", L"site.dwg"}).check([] {
         SetFocus(DialogDriver::control(IDC_KNAV_FILE_NAME));
     });
+    user.type(L"*.dwg").settle().check([] { SetFocus(viewList()); }).settle().check([] {
+        EXPECT_EQ(fileNameText(), L"*.dwg") << "a pattern is not the first item that it fits";
+        SetFocus(DialogDriver::control(IDC_KNAV_FILE_NAME));
+    });
     user.type(L"site.dwg").settle().check([] { SetFocus(viewList()); });
     user.until("selected", [] { return ListView_GetSelectedCount(viewList()) == 1; }).check([] {
         EXPECT_EQ(fileNameText(), L"site.dwg");
