@@ -6,6 +6,7 @@
 
 #include "demo/driver/Input.h"
 #include "demo/driver/RemoteList.h"
+#include "demo/driver/Screenshot.h"
 #include "demo/driver/WindowSearch.h"
 #include "resources/ids.h"
 
@@ -63,6 +64,7 @@ knav::input::NavDialogWindow knav::input::NavDialogWindow::waitFor(DWORD process
     }
     const NavDialogWindow dialog(found);
     waitUntil([&] { return GetForegroundWindow() == found; }, 3000);
+    waitUntilSettled(found);  // the window manager gives it the focus late, which ends a click that is under way
     dialog.waitUntilHandled();
     return dialog;
 }

@@ -29,6 +29,13 @@ void select(const std::vector<std::wstring>& names) {
     }
 }
 
+/// The Look-in list tells the name of the folder; that of a place without a path, or of a drive, is the system's.
+bool lookInIsAt(const CString& path) {
+    const std::wstring name(PathFindFileNameW(path));
+    const bool isPlace = path.Find(L'\\') < 0 || name.empty() || name.back() == L'\\';
+    return isPlace ? !lookInText().empty() : lstrcmpiW(lookInText().c_str(), name.c_str()) == 0;
+}
+
 void postDoubleClick(HWND list, int row) {
     RECT label{};
     ListView_EnsureVisible(list, row, FALSE);
@@ -66,19 +73,17 @@ DialogUser& DialogUser::press(WORD virtualKey) {
 }
 
 DialogUser& DialogUser::pick(std::vector<std::wstring> names) {
-    m_driver.step(
-        "pick", [names] { return allShown(names); }, [names] { select(names); });
-    return settle();
+    return until("items to pick", [names] { return allShown(names); }).check([names] { select(names); }).settle();
 }
 
 DialogUser& DialogUser::doubleClick(std::wstring name) {
-    m_driver.step(
-        "double-click", [name] { return allShown({name}); }, [name] { postDoubleClick(viewList(), rowOf(name)); });
-    return *this;
+    return until("an item", [name] { return allShown({name}); }).check([name] {
+        postDoubleClick(viewList(), rowOf(name));
+    });
 }
 
-DialogUser& DialogUser::chooseType(int index) {
-    m_driver.select(IDC_KNAV_FILE_TYPE, index);
+DialogUser& DialogUser::choose(UINT id, int index) {
+    m_driver.select(id, index);
     return *this;
 }
 
@@ -103,7 +108,7 @@ DialogUser& DialogUser::untilShown(std::vector<std::wstring> names) {
 
 DialogUser& DialogUser::untilFolder(const CString& path) {
     return until("folder " + utf8(path.view()),
-                 [this, path] { return m_dialog.shownFolder().CompareNoCase(path) == 0; });
+                 [this, path] { return m_dialog.shownFolder().CompareNoCase(path) == 0 && lookInIsAt(path); });
 }
 
 DialogUser& DialogUser::untilName(std::wstring text) {
@@ -116,10 +121,7 @@ DialogUser& DialogUser::untilAsked(const ScriptedPrompts& prompts, std::size_t c
 
 DialogUser& DialogUser::settle() {
     // Timers come only when no other message waits.
-    for (int i = 0; i < 2; ++i) {
-        m_driver.then("settle", [] {});
-    }
-    return *this;
+    return check([] {}).check([] {});
 }
 
 DialogUser& DialogUser::check(std::function<void()> look) {
@@ -148,8 +150,20 @@ std::vector<std::wstring> shownNames() {
     return names;
 }
 
+std::wstring lookInText() {
+    wchar_t text[MAX_PATH] = L"";
+    const HWND combo = DialogDriver::control(IDC_KNAV_LOOK_IN);
+    SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(SendMessageW(combo, CB_GETCURSEL, 0, 0)),
+                 reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
 std::wstring fileNameText() {
     return DialogDriver::text(IDC_KNAV_FILE_NAME);
+}
+
+bool isEnabled(UINT id) {
+    return IsWindowEnabled(DialogDriver::control(id)) != FALSE;
 }
 
 void expectTextSelected() {
@@ -162,6 +176,7 @@ void expectNameReadyToRetype(const std::wstring& text) {
     EXPECT_EQ(utf8(fileNameText()), utf8(text));
     expectTextSelected();
     EXPECT_EQ(GetFocus(), fileNameEdit());
+    EXPECT_EQ(LOWORD(SendMessageW(DialogDriver::dialog(), DM_GETDEFID, 0, 0)), IDOK);
 }
 
 DialogTest::DialogTest() {
@@ -170,6 +185,12 @@ DialogTest::DialogTest() {
 
 DialogTest::~DialogTest() {
     SetCurrentDirectoryW(m_directory);
+}
+
+std::vector<std::wstring> DialogTest::paths(std::initializer_list<const wchar_t*> names) const {
+    std::vector<std::wstring> all;
+    std::ranges::transform(names, std::back_inserter(all), [this](auto name) { return wide(folder.path(name)); });
+    return all;
 }
 
 std::wstring wide(const CString& text) {

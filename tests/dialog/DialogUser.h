@@ -57,7 +57,9 @@ public:
     /// Selects these items of the view, and waits until the file name field knows.
     DialogUser& pick(std::vector<std::wstring> names);
     DialogUser& doubleClick(std::wstring name);
-    DialogUser& chooseType(int index);
+    /// Chooses an entry of a list or combo box.
+    DialogUser& choose(UINT id, int index);
+    DialogUser& chooseType(int index) { return choose(IDC_KNAV_FILE_TYPE, index); }
     DialogUser& click(UINT id);
     DialogUser& command(UINT id);
     DialogUser& ok() { return click(IDOK); }
@@ -66,6 +68,7 @@ public:
     DialogUser& until(std::string what, std::function<bool()> condition);
     /// Until the view shows exactly these names, given in order of their characters.
     DialogUser& untilShown(std::vector<std::wstring> names);
+    /// Until the folder is shown and the Look-in list says so.
     DialogUser& untilFolder(const CString& path);
     DialogUser& untilName(std::wstring text);
     DialogUser& untilAsked(const ScriptedPrompts& prompts, std::size_t count = 1);
@@ -81,14 +84,15 @@ private:
     DialogDriver m_driver;
 };
 
-// --- what the user sees; while the dialog runs
-// ------------------------------------------------------------------------
+// --- what the user sees; while the dialog runs ------------------------------------------------------------------
 
 HWND viewList();
 /// Names in the view, sorted.
 std::vector<std::wstring> shownNames();
 std::wstring fileNameText();
-/// The file name field holds `text`, all of it is selected, and it has the focus.
+std::wstring lookInText();
+bool isEnabled(UINT id);
+/// The file name field holds `text`, all of it is selected, it has the focus, and Enter is for OK.
 void expectNameReadyToRetype(const std::wstring& text);
 void expectTextSelected();
 
@@ -97,6 +101,9 @@ class DialogTest : public testing::Test {
 protected:
     DialogTest();
     ~DialogTest() override;
+
+    /// Full paths of names in the folder.
+    std::vector<std::wstring> paths(std::initializer_list<const wchar_t*> names) const;
 
     RegistryRedirect registry;
     ScopedTempFolder folder;

@@ -10,6 +10,25 @@
 namespace knav::test {
 
 class RecordingDialog : public TestDialog {
+private:
+    /// The command of a menu's first entry, as a text.
+    static CString firstOf(CMenu* menu) {
+        CString id;
+        id.Format(L"%u", menu->GetMenuItemID(0));
+        return id;
+    }
+    /// Notes a call, with its argument.
+    RecordingDialog& noted(const char* hook, const wchar_t* argument = nullptr) {
+        log.push_back(argument ? std::string(hook) + " " + utf8(argument) : hook);
+        return *this;
+    }
+    /// Notes a call and does as usual unless an answer is given.
+    template <class Usual>
+    auto answer(const char* hook, Usual usual, const wchar_t* argument = nullptr) {
+        noted(hook, argument);
+        return answers.contains(hook) ? static_cast<decltype(usual())>(answers[hook]) : usual();
+    }
+
 public:
     using TestDialog::TestDialog;
 
@@ -28,153 +47,93 @@ public:
         return found;
     }
 
-    void OnDialogHelp() override { note("OnDialogHelp"); }
-    void OnDialogHelp(const wchar_t* topic) override { note("OnDialogHelp", topic); }
+    void OnDialogHelp() override { noted("OnDialogHelp"); }
+    void OnDialogHelp(const wchar_t* topic) override { noted("OnDialogHelp", topic); }
     int SetAllDialogsData(const CString& name, unsigned long value) override {
-        note("SetAllDialogsData", name);
-        return TestDialog::SetAllDialogsData(name, value);
+        return noted("SetAllDialogsData", name).TestDialog::SetAllDialogsData(name, value);
     }
     int SetAllDialogsData(const CString& name, const CString& value) override {
-        note("SetAllDialogsData", name);
-        return TestDialog::SetAllDialogsData(name, value);
+        return noted("SetAllDialogsData", name).TestDialog::SetAllDialogsData(name, value);
     }
     int GetAllDialogsData(const CString& name, unsigned long& value) override {
-        note("GetAllDialogsData", name);
-        return TestDialog::GetAllDialogsData(name, value);
+        return noted("GetAllDialogsData", name).TestDialog::GetAllDialogsData(name, value);
     }
     int GetAllDialogsData(const CString& name, CString& value) override {
-        note("GetAllDialogsData", name);
-        return TestDialog::GetAllDialogsData(name, value);
+        return noted("GetAllDialogsData", name).TestDialog::GetAllDialogsData(name, value);
     }
-    void LocateFile() override {
-        note("LocateFile");
-        TestDialog::LocateFile();
-    }
-    int GetProductName(CString& name) override { return answer("GetProductName", TestDialog::GetProductName(name)); }
+    void LocateFile() override { noted("LocateFile").TestDialog::LocateFile(); }
+    int GetProductName(CString& name) override { return noted("GetProductName").TestDialog::GetProductName(name); }
     int BeginDownloadFiles(CStringArray& urls, CDWordArray& codes) override {
-        return answer("BeginDownloadFiles", TestDialog::BeginDownloadFiles(urls, codes));
+        return noted("BeginDownloadFiles").TestDialog::BeginDownloadFiles(urls, codes);
     }
     unsigned long GetDownloadActionCodes(CString& url) override {
-        note("GetDownloadActionCodes", url);
-        return TestDialog::GetDownloadActionCodes(url);
+        return noted("GetDownloadActionCodes", url).TestDialog::GetDownloadActionCodes(url);
     }
-    void PrepareOkMenu(CMenu* menu) override {
-        note("PrepareOkMenu", firstOf(menu));
-        TestDialog::PrepareOkMenu(menu);
-    }
+    void PrepareOkMenu(CMenu* menu) override { noted("PrepareOkMenu", firstOf(menu)).TestDialog::PrepareOkMenu(menu); }
     void PrepareToolsMenu(CMenu* menu) override {
-        note("PrepareToolsMenu", firstOf(menu));
-        TestDialog::PrepareToolsMenu(menu);
+        noted("PrepareToolsMenu", firstOf(menu)).TestDialog::PrepareToolsMenu(menu);
     }
     void PrepareViewsMenu(CMenu* menu) override {
-        note("PrepareViewsMenu", firstOf(menu));
-        TestDialog::PrepareViewsMenu(menu);
+        noted("PrepareViewsMenu", firstOf(menu)).TestDialog::PrepareViewsMenu(menu);
     }
     OkHandlerErr PreprocessData(CNavDataArray& items) override {
-        note("PreprocessData");
-        return instead("PreprocessData") ? static_cast<OkHandlerErr>(answers["PreprocessData"])
-                                         : TestDialog::PreprocessData(items);
+        return answer("PreprocessData", [&] { return TestDialog::PreprocessData(items); });
     }
     OkHandlerErr CombineDataTextWithFolderName(CNavData* item, CString& text) override {
-        note("CombineDataTextWithFolderName", item->GetText());
-        return instead("CombineDataTextWithFolderName")
-                   ? static_cast<OkHandlerErr>(answers["CombineDataTextWithFolderName"])
-                   : TestDialog::CombineDataTextWithFolderName(item, text);
+        return answer(
+            "CombineDataTextWithFolderName", [&] { return TestDialog::CombineDataTextWithFolderName(item, text); },
+            item->GetText());
     }
     int UpdateFileExtension(CString& name, int replace) override {
-        note("UpdateFileExtension", name + (replace ? L" replace" : L""));
-        return TestDialog::UpdateFileExtension(name, replace);
+        return noted("UpdateFileExtension", name + (replace ? L" replace" : L""))
+            .TestDialog::UpdateFileExtension(name, replace);
     }
     int OnFileNameOK() override {
-        note("OnFileNameOK");
-        return instead("OnFileNameOK") ? answers["OnFileNameOK"] : TestDialog::OnFileNameOK();
+        return answer("OnFileNameOK", [&] { return TestDialog::OnFileNameOK(); });
     }
-    int VerifyURLSave() override { return answer("VerifyURLSave", TestDialog::VerifyURLSave()); }
+    int VerifyURLSave() override {
+        return answer("VerifyURLSave", [&] { return TestDialog::VerifyURLSave(); });
+    }
     int OnUrlOK() override {
-        note("OnUrlOK");
-        return instead("OnUrlOK") ? answers["OnUrlOK"] : TestDialog::OnUrlOK();
+        return answer("OnUrlOK", [&] { return TestDialog::OnUrlOK(); });
     }
     int ReportURLTransferStatus(CDWordArray& codes, CStringArray& urls, CStringArray& files) override {
-        return answer("ReportURLTransferStatus", TestDialog::ReportURLTransferStatus(codes, urls, files));
+        return noted("ReportURLTransferStatus").TestDialog::ReportURLTransferStatus(codes, urls, files);
     }
     int GetRecentDirectory(CString& path) override {
-        return answer("GetRecentDirectory", TestDialog::GetRecentDirectory(path));
+        return noted("GetRecentDirectory").TestDialog::GetRecentDirectory(path);
     }
     int FindInSearchPath(const wchar_t* name, CString* found) override {
-        note("FindInSearchPath", name);
-        return TestDialog::FindInSearchPath(name, found);
+        return noted("FindInSearchPath", name).TestDialog::FindInSearchPath(name, found);
     }
     void DisplaySearchError(const wchar_t* name) override {
-        note("DisplaySearchError", name);
-        TestDialog::DisplaySearchError(name);
+        noted("DisplaySearchError", name).TestDialog::DisplaySearchError(name);
     }
     void GetDefaultBrowserStartURL(CString& url) override {
-        note("GetDefaultBrowserStartURL");
-        TestDialog::GetDefaultBrowserStartURL(url);
+        noted("GetDefaultBrowserStartURL").TestDialog::GetDefaultBrowserStartURL(url);
     }
     int LaunchBrowserDialog(CString& result, const wchar_t* title, const wchar_t* ok, const wchar_t* url) override {
-        note("LaunchBrowserDialog", ok);
         result = title;
         startUrl = url;
-        return instead("LaunchBrowserDialog") ? answers["LaunchBrowserDialog"] : 0;
+        return answer(
+            "LaunchBrowserDialog", [] { return 0; }, ok);
     }
-    void OnURLDownloadSuccess(CString& file) override { note("OnURLDownloadSuccess", file); }
-    void OnDoLocate() override {
-        note("OnDoLocate");
-        TestDialog::OnDoLocate();
-    }
-    void OnDoFind() override { note("OnDoFind"); }
-    void OnDoAddToFavorites(int command) override { note("OnDoAddToFavorites", std::to_wstring(command).c_str()); }
-    void Refresh() override {
-        note("Refresh");
-        TestDialog::Refresh();
-    }
-    void OnFileNameChange() override {
-        note("OnFileNameChange");
-        TestDialog::OnFileNameChange();
-    }
+    void OnURLDownloadSuccess(CString& file) override { noted("OnURLDownloadSuccess", file); }
+    void OnDoLocate() override { noted("OnDoLocate").TestDialog::OnDoLocate(); }
+    void OnDoFind() override { noted("OnDoFind"); }
+    void OnDoAddToFavorites(int command) override { noted("OnDoAddToFavorites", std::to_wstring(command).c_str()); }
+    void Refresh() override { noted("Refresh").TestDialog::Refresh(); }
+    void OnFileNameChange() override { noted("OnFileNameChange").TestDialog::OnFileNameChange(); }
     void OnFileNameSelectionChange() override {
-        note("OnFileNameSelectionChange");
-        TestDialog::OnFileNameSelectionChange();
+        noted("OnFileNameSelectionChange").TestDialog::OnFileNameSelectionChange();
     }
-    void OnFilterChange() override {
-        note("OnFilterChange");
-        TestDialog::OnFilterChange();
-    }
-    void OnFolderItemChange() override {
-        note("OnFolderItemChange");
-        TestDialog::OnFolderItemChange();
-    }
-    void OnFolderChange() override {
-        note("OnFolderChange");
-        TestDialog::OnFolderChange();
-    }
-    void UpdateUIState() override {
-        note("UpdateUIState");
-        TestDialog::UpdateUIState();
-    }
-    void OnPlacesChanged() override {
-        note("OnPlacesChanged");
-        TestDialog::OnPlacesChanged();
-    }
+    void OnFilterChange() override { noted("OnFilterChange").TestDialog::OnFilterChange(); }
+    void OnFolderItemChange() override { noted("OnFolderItemChange").TestDialog::OnFolderItemChange(); }
+    void OnFolderChange() override { noted("OnFolderChange").TestDialog::OnFolderChange(); }
+    void UpdateUIState() override { noted("UpdateUIState").TestDialog::UpdateUIState(); }
+    void OnPlacesChanged() override { noted("OnPlacesChanged").TestDialog::OnPlacesChanged(); }
 
     CString startUrl;
-
-private:
-    /// The command of a menu's first entry, as a text.
-    static CString firstOf(CMenu* menu) {
-        CString id;
-        id.Format(L"%u", menu->GetMenuItemID(0));
-        return id;
-    }
-    void note(const char* hook, const wchar_t* argument = nullptr) {
-        log.push_back(argument ? std::string(hook) + " " + utf8(argument) : hook);
-    }
-    bool instead(const char* hook) const { return answers.contains(hook); }
-    int answer(const char* hook, int usual) {
-        note(hook);
-        return instead(hook) ? answers[hook] : usual;
-    }
 };
 
 }  // namespace knav::test

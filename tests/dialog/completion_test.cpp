@@ -47,26 +47,20 @@ TEST_F(DialogCompletion, FirstLetter_IsCompletedFromTheFolderAndTypeShown) {
     EXPECT_EQ(user.run(), IDCANCEL);
 }
 
-TEST_F(DialogCompletion, InADialogThatSaves_TheNameStaysAsTyped) {
-    TestDialog dialog(folder.path());
-    dialog.SetCreatingFile(1);
-    DialogUser user(dialog);
-    user.untilShown({L"plan.dwg", L"sub"});
-    typeLetter(user, L'p', L"p");
-    user.check([] { EXPECT_EQ(fileNameText(), L"p"); }).cancel();
-    EXPECT_EQ(user.run(), IDCANCEL);
-}
-
-TEST_F(DialogCompletion, SwitchedOffByTheUser_DoesNothing) {
-    for (const auto& [value, completed] : {std::pair{L"No", L"p"}, {L"no", L"p"}, {L"yes", L"plan.dwg"}}) {
+TEST_F(DialogCompletion, WhenSavingOrSwitchedOffByTheUser_TheNameStaysAsTyped) {
+    constexpr std::tuple<int, const wchar_t*, const wchar_t*> rows[] = {
+        {1, L"yes", L"p"}, {0, L"No", L"p"}, {0, L"no", L"p"}, {0, L"yes", L"plan.dwg"}};
+    for (const auto& [creating, value, shown] : rows) {
+        SCOPED_TRACE(utf8(value));
         RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoComplete",
                         L"Append Completion", REG_SZ, value, static_cast<DWORD>((wcslen(value) + 1) * sizeof(wchar_t)));
         TestDialog dialog(folder.path());
+        dialog.SetCreatingFile(creating);
         DialogUser user(dialog);
         user.untilShown({L"plan.dwg", L"sub"});
-        typeLetter(user, L'p', completed);
-        user.cancel();
-        EXPECT_EQ(user.run(), IDCANCEL);
+        typeLetter(user, L'p', shown);
+        user.check([text = shown] { EXPECT_EQ(fileNameText(), text); });
+        EXPECT_EQ(user.cancel().run(), IDCANCEL);
     }
 }
 

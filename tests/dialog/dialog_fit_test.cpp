@@ -165,51 +165,55 @@ TEST_F(DialogFit, LanguageReadFromTheRight_MirrorsTheDialog) {
 
 // --- assistive tools -------------------------------------------------------------------------------------------
 
-struct Told {
-    std::wstring name;
-    long role = 0;
-    std::wstring shortcut;
-    std::wstring description;
-    long state = 0;
+/// What the window's accessible object says, as an assistive tool reads it.
+class Told {
+public:
+    explicit Told(HWND window) {
+        AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                                   reinterpret_cast<void**>(m_object.put()));
+        m_self.vt = VT_I4;
+    }
+    std::string name() const { return text(&IAccessible::get_accName); }
+    std::string shortcut() const { return text(&IAccessible::get_accKeyboardShortcut); }
+    std::string description() const { return text(&IAccessible::get_accDescription); }
+    long role() const { return number(&IAccessible::get_accRole); }
+    long state() const { return number(&IAccessible::get_accState); }
+
+private:
+    std::string text(HRESULT (STDMETHODCALLTYPE IAccessible::*get)(VARIANT, BSTR*)) const {
+        BSTR answer = nullptr;
+        const bool told = m_object && (m_object.get()->*get)(m_self, &answer) == S_OK && answer;
+        const std::string taken = told ? utf8(answer) : "";
+        SysFreeString(answer);
+        return taken;
+    }
+    long number(HRESULT (STDMETHODCALLTYPE IAccessible::*get)(VARIANT, VARIANT*)) const {
+        VARIANT answer{};
+        return m_object && (m_object.get()->*get)(m_self, &answer) == S_OK ? answer.lVal : 0;
+    }
+    ComPtr<IAccessible> m_object;
+    VARIANT m_self{};
 };
 
-std::wstring take(BSTR text) {
-    const std::wstring taken(text ? text : L"");
-    SysFreeString(text);
-    return taken;
+/// From each control that can have the focus Tab goes to the next one of these; the view lies between two of them.
+void expectTabOrder(const std::vector<UINT>& order) {
+    const HWND dialog = DialogDriver::dialog();
+    const HWND view = GetParent(viewList());
+    HWND next = DialogDriver::control(order.front());
+    for (const UINT id : order) {
+        if (isEnabled(id)) {
+            EXPECT_EQ(GetDlgCtrlID(next), static_cast<int>(id));
+            next = GetNextDlgTabItem(dialog, DialogDriver::control(id), FALSE);
+        }
+        if (next == view || IsChild(view, next)) {
+            EXPECT_EQ(id, IDC_KNAV_PLACES) << "the view comes after the places";
+            next = GetNextDlgTabItem(dialog, next, FALSE);
+        }
+    }
+    EXPECT_EQ(next, DialogDriver::control(order.front())) << "and round again";
 }
 
-/// What the window's accessible object says, as an assistive tool reads it.
-Told toldBy(HWND window) {
-    ComPtr<IAccessible> object;
-    Told told;
-    if (FAILED(AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
-                                          reinterpret_cast<void**>(object.put())))) {
-        return told;
-    }
-    VARIANT self{};
-    self.vt = VT_I4;
-    VARIANT value{};
-    BSTR text = nullptr;
-    if (object->get_accName(self, &text) == S_OK) {
-        told.name = take(text);
-    }
-    if (object->get_accRole(self, &value) == S_OK) {
-        told.role = value.lVal;
-    }
-    if (object->get_accKeyboardShortcut(self, &(text = nullptr)) == S_OK) {
-        told.shortcut = take(text);
-    }
-    if (object->get_accDescription(self, &(text = nullptr)) == S_OK) {
-        told.description = take(text);
-    }
-    if (object->get_accState(self, &value) == S_OK) {
-        told.state = value.lVal;
-    }
-    return told;
-}
-
-TEST_F(DialogFit, EveryControl_TellsItsNameAndRole) {
+TEST_F(DialogFit, EveryControl_TellsItsNameAndRole_AndTabGoesThroughThem) {
     if (std::getenv("KNAV_TEST_LANGUAGE")) {
         GTEST_SKIP() << "in English only";
     }
@@ -239,34 +243,32 @@ TEST_F(DialogFit, EveryControl_TellsItsNameAndRole) {
     DialogUser user(dialog);
     user.untilShown({L"plan.dwg"}).check([&rows] {
         for (const Row& row : rows) {
-            const Told told = toldBy(DialogDriver::control(row.id));
-            EXPECT_EQ(utf8(told.name), utf8(row.name));
-            EXPECT_EQ(told.role, row.role) << utf8(row.name);
-            EXPECT_EQ(utf8(told.shortcut), utf8(row.shortcut)) << utf8(row.name);
+            const Told told(DialogDriver::control(row.id));
+            EXPECT_EQ(told.name(), utf8(row.name));
+            EXPECT_EQ(told.role(), row.role) << utf8(row.name);
+            EXPECT_EQ(told.shortcut(), utf8(row.shortcut)) << utf8(row.name);
         }
-        EXPECT_EQ(utf8(toldBy(viewList()).name), "Contents");
-        EXPECT_EQ(utf8(toldBy(DialogDriver::control(IDC_KNAV_REFRESH)).description), "Refresh (F5)");
-        EXPECT_TRUE(toldBy(DialogDriver::control(IDC_KNAV_TOOLS)).state & STATE_SYSTEM_HASPOPUP);
-        EXPECT_TRUE(toldBy(DialogDriver::control(IDC_KNAV_BACK)).state & STATE_SYSTEM_UNAVAILABLE);
+        std::vector<UINT> order;
+        std::ranges::transform(rows, std::back_inserter(order), [](const Row& row) { return row.id; });
+        expectTabOrder(order);
+        EXPECT_EQ(Told(viewList()).name(), "Contents");
+        EXPECT_EQ(Told(DialogDriver::control(IDC_KNAV_REFRESH)).description(), "Refresh (F5)");
+        EXPECT_TRUE(Told(DialogDriver::control(IDC_KNAV_TOOLS)).state() & STATE_SYSTEM_HASPOPUP);
+        EXPECT_TRUE(Told(DialogDriver::control(IDC_KNAV_BACK)).state() & STATE_SYSTEM_UNAVAILABLE);
     });
     EXPECT_EQ(user.cancel().run(), IDCANCEL);
 }
 
 TEST(AccessibleNames, MarksAndColonsAreLeftOut) {
-    const struct {
-        const wchar_t* caption;
-        const wchar_t* name;
-        const wchar_t* shortcut;
-    } rows[] = {
+    constexpr std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> rows[] = {
         {L"File &name:", L"File name", L"Alt+N"},
         {L"Save && &close", L"Save & close", L"Alt+C"},
-        {L"Plain", L"Plain", L""},
         {L"", L"", L""},
         {L"Odd&", L"Odd&", L""},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(plainName(row.caption), row.name);
-        EXPECT_EQ(shortcutOf(row.caption), row.shortcut) << utf8(row.caption);
+    for (const auto& [caption, name, shortcut] : rows) {
+        EXPECT_EQ(plainName(caption), name);
+        EXPECT_EQ(shortcutOf(caption), shortcut) << utf8(caption);
     }
 }
 

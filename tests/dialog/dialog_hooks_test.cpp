@@ -44,58 +44,17 @@ TEST_F(DialogHooks, Ok_CallsTheStepsInTheirOrder) {
                 ElementsAre("PreprocessData", "CombineDataTextWithFolderName new", "OnFileNameOK", "VerifyURLSave",
                             "SetAllDialogsData PlacesOrder0"));
     EXPECT_THAT(dialog.log, Not(Contains(StartsWith("UpdateFileExtension"))));
-}
 
-TEST_F(DialogHooks, OkWhenOpening_AsksNothingAboutSaving) {
-    RecordingDialog dialog(folder.path());
-    EXPECT_EQ(DialogUser(dialog).type(L"plan.dwg").ok().run(), IDOK);
-    EXPECT_EQ(dialog.count("VerifyURLSave"), 0);
-    EXPECT_EQ(dialog.count("OnUrlOK"), 0);
-}
-
-TEST_F(DialogHooks, TypedUrlOfAnyScheme_ReachesTheHost) {
-    struct Row {
-        const wchar_t* typed;
-        const wchar_t* url;
-    };
-    constexpr Row rows[] = {
-        {L"http://host/a.dwg", L"http://host/a.dwg"},
-        {L"HTTP://Host/a.dwg", L"http://Host/a.dwg"},
-        {L"file:///C:/missing/a.dwg", L"file:///C:/missing/a.dwg"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(utf8(row.typed));
-        RecordingDialog dialog(folder.path());
-        dialog.answers["OnUrlOK"] = 1;
-        EXPECT_EQ(DialogUser(dialog).type(row.typed).ok().run(), IDOK);
-        ASSERT_EQ(dialog.data.GetCount(), 1);
-        const CNavData& item = *dialog.data.GetData(0);
-        EXPECT_EQ(item.GetDataType(), NAV_DATA_URL);
-        CString url;
-        EXPECT_EQ(item.GetURL(url), 1);
-        EXPECT_EQ(url, row.url);
-        EXPECT_TRUE(item.GetPathname()->GetIsURL());
-    }
-}
-
-TEST_F(DialogHooks, EachName_IsCombinedOnItsOwn) {
-    folder.addFile(L"b.dwg");
-    RecordingDialog dialog(folder.path());
-    dialog.SetMultiSelectAllowed(1);
-    EXPECT_EQ(DialogUser(dialog).type(L"\"plan\" \"b\"").ok().run(), IDOK);
-    EXPECT_THAT(dialog.only({"CombineDataTextWithFolderName plan", "CombineDataTextWithFolderName b"}),
-                ElementsAre("CombineDataTextWithFolderName plan", "CombineDataTextWithFolderName b"));
+    RecordingDialog opening(folder.path());
+    EXPECT_EQ(DialogUser(opening).type(L"plan.dwg").ok().run(), IDOK);
+    EXPECT_EQ(opening.count("VerifyURLSave") + opening.count("OnUrlOK"), 0) << "nothing is asked about saving";
 }
 
 TEST_F(DialogHooks, SelectionInTheView_IsAnItemChangeAndANewState) {
     RecordingDialog dialog(folder.path());
     DialogUser user(dialog);
     user.settle().check([&] { dialog.log.clear(); }).pick({L"plan.dwg"}).untilName(L"plan.dwg");
-    user.check([&] {
-            EXPECT_THAT(dialog.log, ElementsAre("OnFolderItemChange", "UpdateUIState"));
-            dialog.log.clear();
-        })
-        .cancel();
+    user.check([&] { EXPECT_THAT(dialog.log, ElementsAre("OnFolderItemChange", "UpdateUIState")); }).cancel();
     EXPECT_EQ(user.run(), IDCANCEL);
 }
 
@@ -110,16 +69,8 @@ TEST_F(DialogHooks, WhatTheUserDoes_ReachesItsHook) {
         });
     };
     user.settle().check([&] { dialog.log.clear(); }).type(L"x");
-    user.settle().check([&] {
-        EXPECT_GE(dialog.count("OnFileNameChange"), 1);
-        dialog.log.clear();
-    });
-    user.check([] {
-        const HWND combo = DialogDriver::control(IDC_KNAV_FILE_NAME);
-        SendMessageW(combo, CB_SETCURSEL, 0, 0);
-        SendMessageW(GetParent(combo), WM_COMMAND, MAKEWPARAM(IDC_KNAV_FILE_NAME, CBN_SELCHANGE),
-                     reinterpret_cast<LPARAM>(combo));
-    });
+    expectThenForget("OnFileNameChange");
+    user.choose(IDC_KNAV_FILE_NAME, 0);
     expectThenForget("OnFileNameSelectionChange");
     user.chooseType(kTexts);
     expectThenForget("OnFilterChange");
@@ -131,12 +82,7 @@ TEST_F(DialogHooks, WhatTheUserDoes_ReachesItsHook) {
     expectThenForget("OnFolderChange");
     user.command(IDM_KNAV_BACK).untilFolder(folder.path());
     expectThenForget("OnFolderChange");
-    user.check([] {
-        const HWND list = DialogDriver::control(IDC_KNAV_PLACES);
-        SendMessageW(list, LB_SETCURSEL, 0, 0);
-        PostMessageW(GetParent(list), WM_COMMAND, MAKEWPARAM(IDC_KNAV_PLACES, LBN_SELCHANGE),
-                     reinterpret_cast<LPARAM>(list));
-    });
+    user.choose(IDC_KNAV_PLACES, 0);
     expectThenForget("OnPlacesChanged");
     for (const char* const hook : {"OnDialogHelp", "OnDialogHelp opening.htm"}) {
         user.check([] {
@@ -153,14 +99,6 @@ TEST_F(DialogHooks, WhatTheUserDoes_ReachesItsHook) {
     EXPECT_THAT(dialog.log, Not(Contains("PreprocessData")));
 }
 
-/// Presses the right end of a button, where its menu is.
-void pressMenuPart(HWND button) {
-    RECT area{};
-    GetClientRect(button, &area);
-    PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(area.right - 5, area.bottom / 2));
-    PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(area.right - 5, area.bottom / 2));
-}
-
 TEST_F(DialogHooks, Menus_ArePreparedEachTimeTheyDrop) {
     RecordingDialog dialog(folder.path());
     const std::pair<UINT, std::string> rows[] = {
@@ -170,47 +108,54 @@ TEST_F(DialogHooks, Menus_ArePreparedEachTimeTheyDrop) {
     };
     DialogUser user(dialog);
     user.settle();
-    for (const auto& [button, note] : rows) {
+    for (const auto& [id, note] : rows) {
         for (int times = 1; times <= 2; ++times) {
-            user.check([button] { pressMenuPart(DialogDriver::control(button)); });
+            user.check([id] {
+                RECT area{};
+                GetClientRect(DialogDriver::control(id), &area);
+                const LPARAM arrow = MAKELPARAM(area.right - 5, area.bottom / 2);
+                PostMessageW(DialogDriver::control(id), WM_LBUTTONDOWN, MK_LBUTTON, arrow);
+                PostMessageW(DialogDriver::control(id), WM_LBUTTONUP, 0, arrow);
+            });
             user.until(note, [&dialog, note, times] { return dialog.count(note) == times; });
             user.settle().check([] { EndMenu(); }).settle();
         }
     }
-    user.cancel();
-    EXPECT_EQ(user.run(), IDCANCEL);
+    EXPECT_EQ(user.cancel().run(), IDCANCEL);
     EXPECT_THAT(dialog.log, Not(Contains("PreprocessData"))) << "a menu was opened, nothing was chosen";
 }
 
 TEST_F(DialogHooks, TypedUrl_IsOfferedToTheHostBeforeTheDialogCloses) {
-    constexpr wchar_t url[] = L"http://host/plans/plan.dwg";
-    RecordingDialog dialog(folder.path());
-    dialog.answers["OnUrlOK"] = 0;
-    DialogUser user(dialog);
-    user.type(url).settle().check([&] { dialog.log.clear(); }).ok();
-    user.until("the refusal", [&] { return dialog.count("OnUrlOK") == 1; }).settle().check([&] {
-        expectNameReadyToRetype(url);
-        dialog.answers["OnUrlOK"] = 1;
-    });
-    user.ok();
-    EXPECT_EQ(user.run(), IDOK);
-    const std::vector<std::string> order = {"PreprocessData", "CombineDataTextWithFolderName " + utf8(url),
-                                            "OnFileNameOK", "OnUrlOK"};
-    std::vector<std::string> twice = order;
-    twice.insert(twice.end(), order.begin(), order.end());
-    EXPECT_EQ(dialog.only(order), twice);
-    ASSERT_THAT(dialog.chosen(), ElementsAre(url));
-    EXPECT_EQ(dialog.data.GetData(0)->GetDataType(), NAV_DATA_URL);
-    EXPECT_EQ(dialog.count("BeginDownloadFiles"), 0) << "the host's answer stands for the whole transfer";
-}
-
-TEST_F(DialogHooks, OtherFileType_AsksForTheExtensionToBeReplaced) {
-    RecordingDialog dialog(folder.path());
-    dialog.SetCreatingFile(1);
-    DialogUser user(dialog);
-    user.type(L"new.dwg").chooseType(kTexts).untilName(L"new.txt").cancel();
-    EXPECT_EQ(user.run(), IDCANCEL);
-    EXPECT_EQ(dialog.count("UpdateFileExtension new.dwg replace"), 1);
+    constexpr std::pair<const wchar_t*, const wchar_t*> rows[] = {
+        {L"http://host/plans/plan.dwg", L"http://host/plans/plan.dwg"},
+        {L"HTTP://Host/a.dwg", L"http://Host/a.dwg"},
+        {L"file:///C:/missing/a.dwg", L"file:///C:/missing/a.dwg"},
+    };
+    for (const auto& [typed, expected] : rows) {
+        SCOPED_TRACE(utf8(typed));
+        RecordingDialog dialog(folder.path());
+        dialog.answers["OnUrlOK"] = 0;
+        DialogUser user(dialog);
+        user.type(typed).settle().check([&] { dialog.log.clear(); }).ok();
+        user.until("the refusal", [&] { return dialog.count("OnUrlOK") == 1; }).settle();
+        user.check([&, text = typed] {
+            expectNameReadyToRetype(text);
+            dialog.answers["OnUrlOK"] = 1;
+        });
+        EXPECT_EQ(user.ok().run(), IDOK);
+        const std::string combine = "CombineDataTextWithFolderName " + utf8(typed);
+        EXPECT_THAT(dialog.only({"PreprocessData", combine, "OnFileNameOK", "OnUrlOK"}),
+                    ElementsAre("PreprocessData", combine, "OnFileNameOK", "OnUrlOK",  //
+                                "PreprocessData", combine, "OnFileNameOK", "OnUrlOK"));
+        EXPECT_EQ(dialog.count("BeginDownloadFiles"), 0) << "the host's answer stands for the whole transfer";
+        ASSERT_EQ(dialog.data.GetCount(), 1);
+        const CNavData& item = *dialog.data.GetData(0);
+        EXPECT_EQ(item.GetDataType(), NAV_DATA_URL);
+        CString url;
+        EXPECT_EQ(item.GetURL(url), 1);
+        EXPECT_EQ(url, expected);
+        EXPECT_TRUE(item.GetPathname()->GetIsURL());
+    }
 }
 
 TEST_F(DialogHooks, HostThatThrows_EndsItsOwnCallOnly) {
@@ -247,35 +192,6 @@ TEST_F(DialogHooks, RefusingHook_KeepsTheDialogOpen) {
     }
 }
 
-TEST_F(DialogHooks, NameErrorOfAHook_IsReported) {
-    struct Row {
-        int error;
-        int creating;
-        UINT message;
-    };
-    constexpr Row rows[] = {
-        {OkErrInvalidName, 0, IDS_KNAV_INVALID_NAME},
-        {77, 0, IDS_KNAV_INVALID_NAME},
-        {OkErrNoFileSystemFolder, 0, IDS_KNAV_NO_FOLDER_TO_OPEN},
-        {OkErrNoFileSystemFolder, 1, IDS_KNAV_NO_FOLDER_TO_SAVE},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.message);
-        const std::size_t before = prompts.seen().size();
-        prompts.answer(IDOK);
-        RecordingDialog dialog(folder.path());
-        dialog.SetCreatingFile(row.creating);
-        dialog.answers["CombineDataTextWithFolderName"] = row.error;
-        DialogUser user(dialog);
-        user.type(L"plan").ok().untilAsked(prompts, before + 1).settle();
-        user.check([] { expectNameReadyToRetype(L"plan"); }).cancel();
-        EXPECT_EQ(user.run(), IDCANCEL);
-        ASSERT_EQ(prompts.seen().size(), before + 1);
-        EXPECT_EQ(prompts.seen().back().text, messageText(row.message));
-        EXPECT_EQ(dialog.count("OnFileNameOK"), 0);
-    }
-}
-
 TEST_F(DialogHooks, Locate_SearchesThroughTheHooksAndReportsThroughThem) {
     prompts.answer(IDOK);
     RecordingDialog dialog(folder.path());
@@ -295,19 +211,20 @@ TEST_F(DialogHooks, Locate_SearchesThroughTheHooksAndReportsThroughThem) {
     EXPECT_EQ(prompts.seen()[0].text, messageText(IDS_KNAV_LOCATE_FAILED, L"knav-nowhere.dwg"));
 }
 
-TEST_F(DialogHooks, Web_OpensTheBrowserWithTitleAndCaptions) {
+TEST_F(DialogHooks, Web_OpensTheBrowserWithTitleAndCaption_AndItsAnswerIsTakenLikeATypedName) {
     RecordingDialog dialog(folder.path());
     dialog.SetOkButtonText(L"&Open it");
+    dialog.answers["LaunchBrowserDialog"] = 1;
     CString start;
     dialog.GetDefaultBrowserStartURL(start);
-    DialogUser user(dialog);
-    user.command(IDM_KNAV_WEB).until("the browser", [&] { return dialog.count("LaunchBrowserDialog &Open it") == 1; });
-    user.cancel();
-    EXPECT_EQ(user.run(), IDCANCEL);
+    EXPECT_EQ(DialogUser(dialog).command(IDM_KNAV_WEB).run(), IDOK);
+    EXPECT_EQ(dialog.count("LaunchBrowserDialog &Open it"), 1);
     EXPECT_EQ(dialog.startUrl, start);
+    const CString title = messageText(IDS_KNAV_WEB_TITLE) + L"Open it";  // the browser here answers with its title
+    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(title + L".dwg"))));
 }
 
-TEST_F(DialogHooks, OpenReadOnly_IsToldToTheHost) {
+TEST_F(DialogHooks, OpenReadOnly_IsToldUntilTheNextChoice) {
     RecordingDialog dialog(folder.path());
     EXPECT_EQ(DialogUser(dialog).type(L"plan.dwg").command(IDM_KNAV_OPEN_READ_ONLY).run(), IDOK);
     EXPECT_EQ(dialog.GetReadOnlySpecified(), 1);

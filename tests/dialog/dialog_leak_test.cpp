@@ -1,18 +1,14 @@
 // Opening and closing the dialog again and again, and folders that misbehave.
-#include <knav/CNavExtensionArray.h>
 #include <knav/NavViewMode.h>
 #include <platform/WindowMessages.h>
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/DialogUser.h"
-#include "shell/RegisteredExtensions.h"
-#include "support/FakeFolder.h"
 #include "support/ObjectCounts.h"
+#include "support/TestExtension.h"
 
 namespace knav::test {
 namespace {
-
-class DialogLeak : public DialogTest {};
 
 /// Shows another folder, changes the view, and cancels itself, each as soon as there is nothing else to do.
 class RestlessDialog : public TestDialog {
@@ -71,6 +67,8 @@ TEST_P(DialogLeakInMode, FiftyOpeningsBrowsesAndChangesOfView_LeaveNothingBehind
 INSTANTIATE_TEST_SUITE_P(Modes, DialogLeakInMode,
                          testing::Values(NavViewLargeIcons, NavViewSmallIcons, NavViewList, NavViewThumbnails));
 
+class DialogLeak : public DialogTest {};
+
 TEST_F(DialogLeak, MovingAroundAndChoosing_LeavesNothingBehind) {
     // The system's own list of recent documents grows.
     constexpr DWORD on = 1;
@@ -90,38 +88,15 @@ TEST_F(DialogLeak, MovingAroundAndChoosing_LeavesNothingBehind) {
               ObjectCounts{});
 }
 
-TEST_F(DialogLeak, DialogThatIsNeverShown_LeavesNothingBehind) {
-    EXPECT_EQ(growthOver(20, [&] { TestDialog dialog(folder.path()); }), ObjectCounts{});
-}
-
-/// A registered extension whose folder does what it is told, for as long as this lives.
-class BrokenStore {
-public:
-    explicit BrokenStore(Conduct conduct) {
-        m_folder->add(L"item", SFGAO_FOLDER);
-        CNavExtension& extension = *registeredExtensions().AddData();
-        extension.SetName(L"Store");
-        extension.CreateID();
-        extension.SetRootFolder(m_folder.get());
-        m_root = ItemList::copyOf(extension.GetID());
-        m_folder->setAll(conduct);
-    }
-    BrokenStore(const BrokenStore&) = delete;
-    BrokenStore& operator=(const BrokenStore&) = delete;
-    ~BrokenStore() { registeredExtensions().RemoveAllData(); }
-
-    ITEMIDLIST* root() const { return m_root.get(); }
-
-private:
-    ComPtr<FakeFolder> m_folder = FakeFolder::make(L"store://");
-    ItemList m_root;
-};
-
 class DialogBrokenFolder : public DialogTest, public testing::WithParamInterface<Conduct> {};
 
 TEST_P(DialogBrokenFolder, WhateverItsMethodsDo_TheDialogGoesOn) {
     const CString file = folder.addFile(L"a.dwg");
-    const BrokenStore store(GetParam());
+    RegisteredForTest extensions;
+    const auto store = FakeFolder::make(L"store://");
+    store->add(L"item", SFGAO_FOLDER);
+    const auto root = ItemList::copyOf(extensions.add(L"Store", store).GetID());
+    store->setAll(GetParam());
     TestDialog dialog(folder.path());
     auto& implementation = *static_cast<CNavDialogImp*>(dialog.GetImpObject());
     DialogUser user(dialog);
@@ -129,7 +104,7 @@ TEST_P(DialogBrokenFolder, WhateverItsMethodsDo_TheDialogGoesOn) {
         const HWND lookIn = DialogDriver::control(IDC_KNAV_LOOK_IN);
         SendMessageW(lookIn, CB_SHOWDROPDOWN, TRUE, 0);
         SendMessageW(lookIn, CB_SHOWDROPDOWN, FALSE, 0);
-        EXPECT_FALSE(implementation.NavigateToItemList(store.root()));
+        EXPECT_FALSE(implementation.NavigateToItemList(root.get()));
     });
     user.settle().check([&] { EXPECT_EQ(dialog.shownFolder(), folder.path()); }).type(L"a").ok();
     EXPECT_EQ(user.run(), IDOK);

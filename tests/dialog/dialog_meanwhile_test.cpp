@@ -50,12 +50,61 @@ TEST_F(DialogMeanwhile, FoldersThatGoAway_AreToldAndTheDialogCanBeUsedOn) {
         EXPECT_GT(std::filesystem::remove_all(folder.path(L"outer").GetString()), 0u);
     });
     user.command(IDM_KNAV_UP).untilAsked(prompts).settle();
-    user.check([&] { SendMessageW(DialogDriver::dialog(), WM_DEVICECHANGE, 0, 0); }).command(IDM_KNAV_REFRESH).settle();
+    user.check([&] {
+        EXPECT_EQ(SendMessageW(DialogDriver::dialog(), WM_DEVICECHANGE, 0, 0), TRUE);
+        EXPECT_EQ(dialog.shownFolder(), folder.path()) << "at once";
+    });
+    user.command(IDM_KNAV_REFRESH).settle();
     user.type(wide(folder.path())).ok().untilFolder(folder.path()).untilShown({L"a.dwg"});
     user.command(IDM_KNAV_BACK).settle().check([&] { EXPECT_EQ(dialog.shownFolder(), folder.path()); });
     user.type(L"a.dwg").ok();
     EXPECT_EQ(user.run(), IDOK);
     EXPECT_EQ(dialog.chosen(), std::vector{wide(file)});
+}
+
+/// A drive with a folder, which can be taken out.
+class Drive {
+public:
+    Drive() {
+        wchar_t prefix[MAX_PATH] = L"";
+        GetEnvironmentVariableW(L"WINEPREFIX", prefix, MAX_PATH);
+        m_root = CString(L"\\\\?\\unix") + prefix + L"\\dosdevices\\r:";
+        m_root.Replace(L"/", L"\\");
+        CreateDirectoryW(m_root, nullptr);
+        CreateDirectoryW(m_root + L"\\plans", nullptr);
+    }
+    ~Drive() { takeOut(); }
+    Drive(const Drive&) = delete;
+    Drive& operator=(const Drive&) = delete;
+    void takeOut() {
+        RemoveDirectoryW(m_root + L"\\plans");
+        RemoveDirectoryW(m_root);
+    }
+
+private:
+    CString m_root;
+};
+
+TEST_F(DialogMeanwhile, DriveThatIsTakenOut_IsToldAndTheDialogCanBeUsedOn) {
+    folder.addFile(L"a.dwg");
+    Drive drive;
+    ASSERT_TRUE(PathIsDirectoryW(L"R:\\plans"));
+    prompts.answer(IDOK).answer(IDOK);
+    TestDialog dialog(L"R:\\plans");
+    DialogUser user(dialog);
+    user.untilFolder(L"R:\\plans").settle().check([&] {
+        SetCurrentDirectoryW(folder.path());
+        drive.takeOut();
+        EXPECT_FALSE(PathIsDirectoryW(L"R:\\"));
+    });
+    user.command(IDM_KNAV_UP).untilAsked(prompts).settle();
+    user.type(L"R:\\plans\\house.dwg").ok().untilAsked(prompts, 2).settle();
+    user.check([] { expectNameReadyToRetype(L"R:\\plans\\house.dwg"); });
+    user.command(IDM_KNAV_REFRESH).until("another folder", [&] { return dialog.shownFolder() != L"R:\\plans"; });
+    user.type(wide(folder.path())).ok().untilFolder(folder.path()).untilShown({L"a.dwg"}).type(L"a.dwg").ok();
+    EXPECT_EQ(user.run(), IDOK);
+    EXPECT_EQ(dialog.chosen(), paths({L"a.dwg"}));
+    EXPECT_EQ(prompts.seen()[1].text, messageText(IDS_KNAV_NO_DRIVE, L"R:"));
 }
 
 }  // namespace

@@ -120,15 +120,13 @@ TEST_F(InsideNetwork, PathOnAShare_IsCheckedOnceAndReturned) {
     EXPECT_EQ(questions(), L"find \\\\knavtest\\plans\\house\n");
 }
 
-struct RefusedRow {
-    const char* why;
-    const wchar_t* typed;
-    CString text;
-    const wchar_t* asked;
-};
-
 TEST_F(InsideNetwork, LocationThatIsNotThere_IsRefusedInTheRightWords) {
-    const RefusedRow rows[] = {
+    const struct {
+        const char* why;
+        const wchar_t* typed;
+        CString text;
+        const wchar_t* asked;
+    } rows[] = {
         {"a server", L"\\\\nowhere", messageText(IDS_KNAV_NETWORK_UNREACHABLE, L"\\\\nowhere"), L"list \\\\nowhere\n"},
         {"a share of a server", L"\\\\knavtest\\nothing",
          messageText(IDS_KNAV_NETWORK_UNREACHABLE, L"\\\\knavtest\\nothing"),
@@ -136,7 +134,7 @@ TEST_F(InsideNetwork, LocationThatIsNotThere_IsRefusedInTheRightWords) {
         {"a path", L"\\\\nowhere\\plans\\a.dwg",
          messageText(IDS_KNAV_NETWORK_UNREACHABLE, L"\\\\nowhere\\plans\\a.dwg"), L"find \\\\nowhere\\plans\\a.dwg\n"},
     };
-    for (const RefusedRow& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.why);
         const std::size_t before = prompts.seen().size();
         prompts.answer(IDOK);

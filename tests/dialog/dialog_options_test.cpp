@@ -12,91 +12,75 @@ protected:
     TestDialog dialog;
 };
 
-template <class Get>
-CString read(Get&& get) {
+using Set = void (CNavDialog::*)(const wchar_t*);
+using Get = void (CNavDialog::*)(CString&) const;
+
+CString read(const CNavDialog& dialog, Get get) {
     CString text = L"untouched";
-    get(text);
+    (dialog.*get)(text);
     return text;
 }
 
-TEST_F(DialogOptionsTest, Caption_IsTrimmed) {
-    dialog.SetDialogCaption(L" \t Open a plan  ");
-    EXPECT_EQ(read([&](CString& text) { dialog.GetDialogCaption(text); }), L"Open a plan");
-    dialog.SetDialogCaption(nullptr);
-    EXPECT_EQ(read([&](CString& text) { dialog.GetDialogCaption(text); }), L"");
-}
+struct GivenRow {
+    CString given;
+    CString expected;
+};
 
-TEST_F(DialogOptionsTest, DefaultFileExtension_IsTakenOutOfWhatIsGiven) {
-    const std::pair<const wchar_t*, const wchar_t*> rows[] = {
-        {L"dwg", L"dwg"},
-        {L"dwg,dxf,dwt", L"dwt"},
-        {L"plan.dwg", L"dwg"},
-        {L"C:\\plans\\house.v2.dxf", L"dxf"},
-        {L"*.dwg", L"dwg"},
-        {L"http://host/dir/plan.dwg", L"dwg"},
-        {L"", L""},
-    };
-    for (const auto& [given, expected] : rows) {
-        dialog.SetDefaultFileExtension(given);
-        EXPECT_EQ(read([&](CString& text) { dialog.GetDefaultFileExtension(text); }), expected) << utf8(given);
+void expectTaken(CNavDialog& dialog, Set set, Get get, std::initializer_list<GivenRow> rows) {
+    for (const GivenRow& row : rows) {
+        (dialog.*set)(row.given);
+        EXPECT_EQ(read(dialog, get), row.expected) << utf8(row.given.view());
     }
 }
 
-TEST_F(DialogOptionsTest, ForceInitialFolder_TakesOnlyWhatExists) {
-    folder.addFolder(L"sub");
-    const std::pair<CString, CString> rows[] = {
-        {L"desktop", L"desktop"},
-        {folder.path(L"sub"), folder.path(L"sub")},
-        {folder.path(L"sub\\"), folder.path(L"sub")},
-        {folder.path(L"gone"), L""},
-        {L"C:\\", L"C:\\"},
-        {L"", L""},
-    };
-    for (const auto& [given, expected] : rows) {
-        dialog.SetForceInitialFolder(given);
-        EXPECT_EQ(read([&](CString& text) { dialog.GetForceInitialFolder(text); }), expected) << utf8(given.view());
-    }
-}
-
-TEST_F(DialogOptionsTest, DefaultInitialFolder_FallsBackToTheCurrentOne) {
+TEST_F(DialogOptionsTest, Texts_AreTakenAsFarAsTheyMakeSense) {
     const CString file = folder.addFile(L"sub\\plan.dwg");
+    const CString sub = folder.path(L"sub");
     SetCurrentDirectoryW(folder.path());
-    const std::pair<CString, CString> rows[] = {
-        {L"DESKTOP", L"DESKTOP"},
-        {folder.path(L"sub\\"), folder.path(L"sub")},
-        {file, folder.path(L"sub")},
-        {folder.path(L"sub\\new.dwg"), folder.path(L"sub")},
-        {folder.path(L"gone\\plan.dwg"), folder.path()},
-        {L"", folder.path()},
-    };
-    for (const auto& [given, expected] : rows) {
-        dialog.SetDefaultInitialFolder(given);
-        EXPECT_EQ(read([&](CString& text) { dialog.GetDefaultInitialFolder(text); }), expected) << utf8(given.view());
-    }
+    expectTaken(dialog, &CNavDialog::SetDialogCaption, &CNavDialog::GetDialogCaption,
+                {{L" \t Open a plan  ", L"Open a plan"}, {L"", L""}});
+    expectTaken(dialog, &CNavDialog::SetDefaultFileExtension, &CNavDialog::GetDefaultFileExtension,
+                {{L"dwg", L"dwg"},
+                 {L"dwg,dxf,dwt", L"dwt"},
+                 {L"plan.dwg", L"dwg"},
+                 {L"C:\\plans\\house.v2.dxf", L"dxf"},
+                 {L"*.dwg", L"dwg"},
+                 {L"http://host/dir/plan.dwg", L"dwg"},
+                 {L"", L""}});
+    expectTaken(dialog, &CNavDialog::SetForceInitialFolder, &CNavDialog::GetForceInitialFolder,
+                {{L"desktop", L"desktop"},
+                 {sub, sub},
+                 {sub + L"\\", sub},
+                 {folder.path(L"gone"), L""},
+                 {L"C:\\", L"C:\\"},
+                 {L"", L""}});
+    expectTaken(dialog, &CNavDialog::SetDefaultInitialFolder, &CNavDialog::GetDefaultInitialFolder,
+                {{L"DESKTOP", L"DESKTOP"},
+                 {sub + L"\\", sub},
+                 {file, sub},
+                 {folder.path(L"sub\\new.dwg"), sub},
+                 {folder.path(L"gone\\plan.dwg"), folder.path()},
+                 {L"", folder.path()}});
 }
 
 TEST_F(DialogOptionsTest, InitialFileName_AlsoGivesExtensionAndFolder) {
-    const CString file = folder.addFile(L"plan.dwg");
-    dialog.SetInitialFileName(file);
-    EXPECT_EQ(read([&](CString& text) { dialog.GetDefaultFileExtension(text); }), L"dwg");
-    EXPECT_EQ(read([&](CString& text) { dialog.GetDefaultInitialFolder(text); }), folder.path());
+    dialog.SetInitialFileName(folder.addFile(L"plan.dwg"));
+    EXPECT_EQ(read(dialog, &CNavDialog::GetDefaultFileExtension), L"dwg");
+    EXPECT_EQ(read(dialog, &CNavDialog::GetDefaultInitialFolder), folder.path());
 
     TestDialog preset(folder.path());
     preset.SetDefaultFileExtension(L"dxf");
     preset.SetInitialFileName(L"C:\\windows\\plan.dwg");
-    EXPECT_EQ(read([&](CString& text) { preset.GetDefaultFileExtension(text); }), L"dxf");
-    EXPECT_EQ(read([&](CString& text) { preset.GetDefaultInitialFolder(text); }), folder.path());
+    EXPECT_EQ(read(preset, &CNavDialog::GetDefaultFileExtension), L"dxf");
+    EXPECT_EQ(read(preset, &CNavDialog::GetDefaultInitialFolder), folder.path());
 
     preset.SetInitialFileName(L"http://host/dir/plan.dwg");
-    EXPECT_EQ(read([&](CString& text) { preset.GetInitialFileName(text); }), L"http://host/dir/plan");
-}
-
-TEST_F(DialogOptionsTest, FilterIndex_CannotBeChosenBeforeThereIsAList) {
-    dialog.SetFilterIndex(2);
-    EXPECT_EQ(dialog.GetFilterIndex(), 0);
+    EXPECT_EQ(read(preset, &CNavDialog::GetInitialFileName), L"http://host/dir/plan");
 }
 
 TEST_F(DialogOptionsTest, InitialFilterIndex_IsForcedElseRememberedElseDefault) {
+    dialog.SetFilterIndex(2);  // there is no list yet
+    EXPECT_EQ(dialog.GetFilterIndex(), 0);
     dialog.SetDefaultFilterIndex(-5);
     EXPECT_EQ(dialog.GetInitialFilterIndex(), 0u);
     dialog.SetDefaultFilterIndex(2);
@@ -107,24 +91,6 @@ TEST_F(DialogOptionsTest, InitialFilterIndex_IsForcedElseRememberedElseDefault) 
     EXPECT_EQ(dialog.GetInitialFilterIndex(), 0u);
     dialog.SetForceFilterIndex(-1);
     EXPECT_EQ(dialog.GetInitialFilterIndex(), 1u);
-}
-
-TEST_F(DialogOptionsTest, OkButtonText_LosesItsAcceleratorOnRequest) {
-    dialog.SetOkButtonText(L"Save && &Close");
-    EXPECT_EQ(read([&](CString& text) { dialog.GetOkButtonText(text, 0); }), L"Save && Close");
-    EXPECT_EQ(read([&](CString& text) { dialog.GetOkButtonText(text, 1); }), L"Save && &Close");
-}
-
-TEST_F(DialogOptionsTest, Defaults_AreThoseOfAnOpenDialog) {
-    EXPECT_EQ(dialog.GetViewMode(), 3u);
-    EXPECT_EQ(dialog.GetForceFilterIndex(), -1);
-    EXPECT_EQ(dialog.GetToolsMenuItemsPresent(), 0xFFFFFFFFu);
-    EXPECT_EQ(dialog.GetReadOnlyAllowed(), 1);
-    EXPECT_EQ(dialog.GetUseRegExtensionFlags(), 1);
-    EXPECT_EQ(dialog.GetCreatingFile(), 0);
-    EXPECT_EQ(dialog.GetMultiSelectAllowed(), 0);
-    EXPECT_EQ(dialog.GetNoPlacesList(), 0);
-    EXPECT_EQ(dialog.GetReadOnlySpecified(), 0);
 }
 
 TEST_F(DialogOptionsTest, WithoutWindow_OperationsAnswerNeutrally) {
@@ -139,8 +105,10 @@ TEST_F(DialogOptionsTest, WithoutWindow_OperationsAnswerNeutrally) {
     CString text;
     EXPECT_NE(dialog.GetCurrentFileExtension(text), nullptr);
     EXPECT_EQ(text, L"");
-    EXPECT_EQ(read([&](CString& path) { dialog.GetCurrentFolderForPersistence(path); }), L"");
-    EXPECT_EQ(read([&](CString& path) { dialog.GetSingleDataFullPath(path); }), L"");
+    EXPECT_EQ(read(dialog, &CNavDialog::GetCurrentFolderForPersistence), L"");
+    text = L"untouched";
+    dialog.GetSingleDataFullPath(text);
+    EXPECT_EQ(text, L"");
 }
 
 TEST_F(DialogOptionsTest, TheArraysAreTheHosts) {
@@ -160,13 +128,6 @@ TEST_F(DialogOptionsTest, TemplateId_ZeroIsTheLibrarysOwn) {
     EXPECT_EQ(hosts.GetIDD(), 2000u);
     EXPECT_EQ(hosts.GetTemplateModule(), GetModuleHandleW(nullptr));
     EXPECT_EQ(hosts.DoModal(), -1) << "there is no such template";
-}
-
-TEST_F(DialogOptionsTest, ToolsMenuItemPosition_IsThatOfASingleItem) {
-    EXPECT_EQ(dialog.GetToolsMenuItemPosition(NavToolsFind), 0);
-    EXPECT_EQ(dialog.GetToolsMenuItemPosition(NavToolsAddToFavorites), 5);
-    EXPECT_EQ(dialog.GetToolsMenuItemPosition(static_cast<NavToolsMenuItem>(NavToolsFind | NavToolsLocate)), -1);
-    EXPECT_EQ(dialog.GetToolsMenuItemPosition(static_cast<NavToolsMenuItem>(64)), -1);
 }
 
 TEST(HostApplication, OnlyTheFirstOneIsTaken) {

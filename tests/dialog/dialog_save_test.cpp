@@ -2,8 +2,8 @@
 #include <knav/CNavPathname.h>
 #include <knav/FileDialogAllowReturnFolderEnabler.h>
 
-#include "dialog/DialogUser.h"
 #include "dialog/Messages.h"
+#include "dialog/RecordingDialog.h"
 #include "shell/ScopedHandle.h"
 #include "support/RealNamespace.h"
 
@@ -11,49 +11,15 @@ namespace knav::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
-struct SaveDialog : TestDialog {
-    explicit SaveDialog(const wchar_t* folder) : TestDialog(folder) {
-        SetDialogCaption(L"Save Plan");
+struct SaveDialog : RecordingDialog {
+    explicit SaveDialog(const wchar_t* folder) : RecordingDialog(folder) {
         SetCreatingFile(1);
         SetConfirmReplace(1);
     }
 };
 
 class DialogSave : public DialogTest {};
-
-struct NameRow {
-    const char* why;
-    const wchar_t* typed;
-    int type;
-    const wchar_t* saved;  // relative to the folder
-};
-
-TEST_F(DialogSave, TypedName_GetsTheExtensionOfTheFileType) {
-    constexpr NameRow rows[] = {
-        {"no extension", L"plan", kDrawings, L"plan.dwg"},
-        {"an extension of no file type", L"plan.bak", kDrawings, L"plan.bak.dwg"},
-        {"the extension of another file type", L"plan.txt", kDrawings, L"plan.txt"},
-        {"all files", L"plan", kAllFiles, L"plan"},
-        {"stray blanks", L" plan . dwg ", kDrawings, L"plan .dwg"},
-    };
-    for (const NameRow& row : rows) {
-        SCOPED_TRACE(row.why);
-        SaveDialog dialog(folder.path());
-        dialog.SetForceFilterIndex(row.type);
-        EXPECT_EQ(DialogUser(dialog).type(row.typed).ok().run(), IDOK);
-        ASSERT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(row.saved))));
-        EXPECT_EQ(dialog.data.GetData(0)->GetDataType(), NAV_DATA_FILE);
-    }
-}
-
-TEST_F(DialogSave, AnyExtensionAccepted_StandsAsTyped) {
-    SaveDialog dialog(folder.path());
-    dialog.SetAcceptAnyFileExtension(1);
-    EXPECT_EQ(DialogUser(dialog).type(L"plan.bak").ok().run(), IDOK);
-    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(L"plan.bak"))));
-}
 
 TEST_F(DialogSave, ExistingFile_IsReplacedOnlyWhenTheUserAgrees) {
     folder.addFile(L"plan.dwg");
@@ -75,43 +41,27 @@ TEST_F(DialogSave, ExistingFile_IsReplacedOnlyWhenTheUserAgrees) {
         user.check([&typed] { expectNameReadyToRetype(typed); }).ok();
         EXPECT_EQ(user.run(), IDOK);
         ASSERT_EQ(prompts.seen().size(), before + 2);
-        const auto& question = prompts.seen()[before];
+        const SeenPrompt& question = prompts.seen()[before];
         EXPECT_EQ(question.text, messageText(IDS_KNAV_REPLACE, folder.path(asked)));
         EXPECT_EQ(question.flags, static_cast<UINT>(MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2));
         EXPECT_NE(question.owner, nullptr);
     }
 }
 
-TEST_F(DialogSave, NewFileOrUnaskedFor_IsSavedWithoutAWord) {
-    folder.addFile(L"plan.dwg");
-    SaveDialog fresh(folder.path());
-    EXPECT_EQ(DialogUser(fresh).type(L"other").ok().run(), IDOK);
-    SaveDialog unasked(folder.path());
-    unasked.SetConfirmReplace(0);
-    EXPECT_EQ(DialogUser(unasked).type(L"plan").ok().run(), IDOK);
-}
-
 TEST_F(DialogSave, FileHeldOpenElsewhere_IsNotOfferedForReplacement) {
-    const std::pair<const wchar_t*, UINT> rows[] = {
-        {L"sheet.PDF", IDS_KNAV_PDF_IN_USE_TITLE},
-        {L"web.vmfx", IDS_KNAV_DRAWING_IN_USE_TITLE},
-    };
-    for (const auto& [name, title] : rows) {
+    for (const wchar_t* const name : {L"sheet.PDF", L"web.vmfx"}) {
         SCOPED_TRACE(utf8(name));
         const std::size_t before = prompts.seen().size();
         const CString file = folder.addFile(name);
         SaveDialog dialog(folder.path());
         dialog.SetForceFilterIndex(kAllFiles);
-        {
-            const HANDLE held = CreateFileW(file, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-            ASSERT_NE(held, INVALID_HANDLE_VALUE);
-            prompts.answer(IDOK);
-            DialogUser user(dialog);
-            user.type(name).ok().untilAsked(prompts, before + 1).check([held] { CloseHandle(held); });
-            prompts.answer(IDYES);
-            user.ok();
-            EXPECT_EQ(user.run(), IDOK) << "once it is free, only the usual question is asked";
-        }
+        ScopedHandle held(CreateFileW(file, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+        ASSERT_TRUE(held);
+        prompts.answer(IDOK);
+        DialogUser user(dialog);
+        user.type(name).ok().untilAsked(prompts, before + 1).check([&held] { held = ScopedHandle(); });
+        prompts.answer(IDYES);
+        EXPECT_EQ(user.ok().run(), IDOK) << "once it is free, only the usual question is asked";
         ASSERT_EQ(prompts.seen().size(), before + 2);
         EXPECT_EQ(prompts.seen()[before].text, messageText(IDS_KNAV_FILE_IN_USE, file));
         EXPECT_EQ(prompts.seen()[before].flags, static_cast<UINT>(MB_OK | MB_ICONWARNING));
@@ -127,7 +77,7 @@ TEST_F(DialogSave, PickedFile_KeepsItsNameWhenTheFolderChanges) {
     user.pick({L"plan.dwg"}).untilName(L"plan.dwg").doubleClick(L"sub").untilFolder(folder.path(L"sub")).settle();
     user.check([] { EXPECT_EQ(fileNameText(), L"plan.dwg"); }).ok();
     EXPECT_EQ(user.run(), IDOK);
-    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(L"sub\\plan.dwg"))));
+    EXPECT_EQ(dialog.chosen(), paths({L"sub\\plan.dwg"}));
 }
 
 TEST_F(DialogSave, ShortcutClickedBesideATypedName_IsOpenedButNotSavedOver) {
@@ -145,31 +95,9 @@ TEST_F(DialogSave, OtherFileType_ChangesTheExtensionInTheField) {
     SaveDialog dialog(folder.path());
     DialogUser user(dialog);
     user.type(L"plan.dwg").chooseType(kTexts).untilName(L"plan.txt").chooseType(kDrawings).untilName(L"plan.dwg");
-    user.ok();
-    EXPECT_EQ(user.run(), IDOK);
-    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(L"plan.dwg"))));
-}
-
-TEST_F(DialogSave, FileThatMustExist_IsMissed) {
-    prompts.answer(IDOK);
-    TestDialog dialog(folder.path());
-    dialog.SetDialogCaption(L"Open Plan");
-    dialog.SetConfirmReplace(1);
-    DialogUser user(dialog);
-    user.type(L"missing.dwg").ok().untilAsked(prompts).settle();
-    user.check([] { expectNameReadyToRetype(L"missing.dwg"); }).cancel();
-    EXPECT_EQ(user.run(), IDCANCEL);
-    ASSERT_EQ(prompts.seen().size(), 1u);
-    EXPECT_EQ(prompts.seen()[0].name, L"Standard.FileNotFound");
-    EXPECT_THAT(prompts.seen()[0].arguments, ElementsAre(std::pair(CString(L"FeatureName"), CString(L"Open Plan")),
-                                                         std::pair(CString(L"FileName"), CString(L"missing.dwg"))));
-}
-
-TEST_F(DialogSave, FileThatMustExist_IsAcceptedMissingAmongSeveral) {
-    TestDialog dialog(folder.path());
-    dialog.SetConfirmReplace(1);
-    dialog.SetMultiSelectAllowed(1);
-    EXPECT_EQ(DialogUser(dialog).type(L"missing.dwg").ok().run(), IDOK);
+    EXPECT_EQ(user.ok().run(), IDOK);
+    EXPECT_EQ(dialog.chosen(), paths({L"plan.dwg"}));
+    EXPECT_EQ(dialog.count("UpdateFileExtension plan.dwg replace"), 1);
 }
 
 class DialogSeveral : public DialogTest {
@@ -179,20 +107,17 @@ protected:
             folder.addFile(name);
         }
     }
-    std::vector<std::wstring> paths(std::initializer_list<const wchar_t*> names) const {
-        std::vector<std::wstring> all;
-        for (const wchar_t* const name : names) {
-            all.push_back(wide(folder.path(name)));
-        }
-        return all;
-    }
 };
 
 TEST_F(DialogSeveral, QuotedNames_GiveOneItemEach) {
-    TestDialog dialog(folder.path());
+    RecordingDialog dialog(folder.path());
     dialog.SetMultiSelectAllowed(1);
     EXPECT_EQ(DialogUser(dialog).type(L"\"a.dwg\" \"b c\" \"d.dwg\"").ok().run(), IDOK);
     EXPECT_EQ(dialog.chosen(), paths({L"a.dwg", L"b c.dwg", L"d.dwg"}));
+    const std::vector<std::string> combined = {"CombineDataTextWithFolderName a.dwg",
+                                               "CombineDataTextWithFolderName b c",
+                                               "CombineDataTextWithFolderName d.dwg"};
+    EXPECT_EQ(dialog.only(combined), combined);
     for (int i = 0; i < dialog.data.GetCount(); ++i) {
         EXPECT_EQ(dialog.data.GetData(i)->GetDataType(), NAV_DATA_FILE);
         EXPECT_TRUE(dialog.data.GetData(i)->GetPathname()->Exists()) << i;
@@ -202,21 +127,9 @@ TEST_F(DialogSeveral, QuotedNames_GiveOneItemEach) {
     EXPECT_EQ(single, L"");
 }
 
-TEST_F(DialogSeveral, SelectedItems_AreNamedInQuotesAndReturned) {
-    TestDialog dialog(folder.path());
-    dialog.SetMultiSelectAllowed(1);
-    DialogUser user(dialog);
-    user.pick({L"a.dwg", L"b c.dwg", L"d.dwg"});
-    user.until("three names", [] { return std::ranges::count(fileNameText(), L'"') == 6; }).ok();
-    EXPECT_EQ(user.run(), IDOK);
-    EXPECT_THAT(dialog.chosen(), testing::UnorderedElementsAreArray(paths({L"a.dwg", L"b c.dwg", L"d.dwg"})));
-}
-
 TEST_F(DialogSeveral, WithoutMultiSelection_OnlyOneItemCanBeSelected) {
     TestDialog dialog(folder.path());
-    DialogUser user(dialog);
-    user.pick({L"a.dwg", L"d.dwg"}).untilName(L"d.dwg").ok();
-    EXPECT_EQ(user.run(), IDOK);
+    EXPECT_EQ(DialogUser(dialog).pick({L"a.dwg", L"d.dwg"}).untilName(L"d.dwg").ok().run(), IDOK);
     EXPECT_EQ(dialog.chosen(), paths({L"d.dwg"}));
 }
 
@@ -228,7 +141,7 @@ protected:
     }
 };
 
-TEST_F(DialogFolders, FoldersOnly_ReturnsTheFolderShown) {
+TEST_F(DialogFolders, FoldersOnly_ReturnsTheFolderShownOrDoubleClicked) {
     TestDialog dialog(folder.path());
     dialog.SetFoldersOnly(1);
     DialogUser user(dialog);
@@ -239,24 +152,16 @@ TEST_F(DialogFolders, FoldersOnly_ReturnsTheFolderShown) {
             EXPECT_FALSE(IsWindowEnabled(DialogDriver::control(id))) << id;
         }
     });
-    user.ok();
-    EXPECT_EQ(user.run(), IDOK);
+    EXPECT_EQ(user.ok().run(), IDOK);
     EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path())));
     EXPECT_EQ(dialog.GetReadOnlyAllowed(), 0);
     EXPECT_EQ(dialog.GetToolsMenuItemsPresent() & (NavToolsFind | NavToolsLocate), 0u);
-}
-
-TEST_F(DialogFolders, FoldersOnly_ReturnsTheSelectedFolder) {
-    TestDialog selecting(folder.path());
-    selecting.SetFoldersOnly(1);
-    EXPECT_EQ(DialogUser(selecting).pick({L"sub"}).ok().run(), IDOK);
-    EXPECT_THAT(selecting.chosen(), ElementsAre(wide(folder.path(L"sub"))));
 
     TestDialog clicking;
     clicking.SetForceInitialFolder(folder.path());
     clicking.SetFoldersOnly(1);
     EXPECT_EQ(DialogUser(clicking).doubleClick(L"sub").run(), IDOK);
-    EXPECT_THAT(clicking.chosen(), ElementsAre(wide(folder.path(L"sub"))));
+    EXPECT_EQ(clicking.chosen(), paths({L"sub"}));
 }
 
 TEST_F(DialogFolders, FoldersOnly_HostThatMovesOnInsideOk_CanBeAnsweredWithOkAgain) {
@@ -270,22 +175,15 @@ TEST_F(DialogFolders, FoldersOnly_HostThatMovesOnInsideOk_CanBeAnsweredWithOkAga
     dialog.SetFoldersOnly(1);
     dialog.target = folder.path(L"sub");
     EXPECT_EQ(DialogUser(dialog).ok().untilFolder(dialog.target).settle().ok().run(), IDOK);
-    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(dialog.target)));
-}
-
-TEST_F(DialogFolders, ReturnFolderMode_ReturnsTheCurrentFolderForNothing) {
-    const FileDialogAllowReturnFolderEnabler mode;
-    TestDialog dialog(folder.path());
-    EXPECT_EQ(DialogUser(dialog).untilShown({L"plan.dwg", L"sub"}).ok().run(), IDOK);
-    ASSERT_THAT(dialog.chosen(), ElementsAre(wide(folder.path())));
-    EXPECT_EQ(dialog.data.GetData(0)->GetPathname()->GetType(), CZoUiPathname::Directory);
+    EXPECT_EQ(dialog.chosen(), paths({L"sub"}));
 }
 
 TEST_F(DialogFolders, ReturnFolderMode_NamesAndReturnsTheSelectedFolder) {
     const FileDialogAllowReturnFolderEnabler mode;
     TestDialog dialog(folder.path());
     EXPECT_EQ(DialogUser(dialog).pick({L"sub"}).untilName(L"sub").ok().run(), IDOK);
-    EXPECT_THAT(dialog.chosen(), ElementsAre(wide(folder.path(L"sub"))));
+    ASSERT_EQ(dialog.chosen(), paths({L"sub"}));
+    EXPECT_EQ(dialog.data.GetData(0)->GetPathname()->GetType(), CZoUiPathname::Directory);
 }
 
 TEST_F(DialogFolders, ReturnFolderMode_KeepsATypedNameWhenNothingIsSelectedAnyMore) {

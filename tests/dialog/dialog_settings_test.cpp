@@ -1,4 +1,5 @@
 // What a dialog remembers from one run to the next, and what the user's policies switch off.
+#include <knav/CNavListBox.h>
 #include <platform/CMenu.h>
 
 #include "dialog/CNavDialogImp.h"
@@ -37,8 +38,7 @@ protected:
         return value;
     }
 
-    static void setPolicy(const wchar_t* key, const wchar_t* value) {
-        constexpr DWORD on = 1;
+    static void setPolicy(const wchar_t* key, const wchar_t* value, DWORD on = 1) {
         const CString path = CString(L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\") + key;
         ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, path, value, REG_DWORD, &on, sizeof on), ERROR_SUCCESS);
     }
@@ -51,49 +51,50 @@ protected:
     }
 };
 
-TEST_F(DialogSettings, AcceptedDialog_StartsNextTimeWhereItWas) {
-    {
-        TestDialog dialog(folder.path());
-        DialogUser user(dialog);
-        user.type(L"sub").ok().untilFolder(folder.path(L"sub")).chooseType(kTexts).command(IDM_KNAV_LIST);
-        user.untilShown({L"b.txt", L"c.txt"}).type(L"b.txt").ok();
-        ASSERT_EQ(user.run(), IDOK);
-    }
-    TestDialog next(folder.path());
-    look(next, [&] {
-        EXPECT_EQ(next.shownFolder(), folder.path(L"sub"));
-        EXPECT_EQ(next.GetFilterIndex(), kTexts);
-        EXPECT_EQ(next.GetViewMode(), 3u);
-        EXPECT_EQ(ListView_GetView(viewList()), static_cast<DWORD>(LV_VIEW_LIST));
-        EXPECT_THAT(shownNames(), ElementsAre(L"b.txt", L"c.txt"));
-        EXPECT_THAT(historyShown(), ElementsAre(wide(folder.path(L"sub\\b.txt"))));
-        EXPECT_EQ(fileNameText(), L"");
-    });
-}
-
-TEST_F(DialogSettings, CancelledDialog_RemembersNothing) {
-    TestDialog dialog(folder.path());
-    DialogUser user(dialog);
-    user.type(L"sub").ok().untilFolder(folder.path(L"sub")).chooseType(kTexts).command(IDM_KNAV_LIST).settle().cancel();
-    EXPECT_EQ(user.run(), IDCANCEL);
-    for (const wchar_t* const name : {L"InitialDirectory", L"FileNameMRU0"}) {
-        EXPECT_EQ(stored(dialog, name), L"(none)");
-    }
-    unsigned long number = 0;
-    EXPECT_EQ(dialog.GetDialogData(L"InitialFilterIndex", number), 0);
-    EXPECT_EQ(dialog.GetDialogData(L"ViewMode", number), 0);
-}
-
-TEST_F(DialogSettings, InitialFolder_IsForcedElseRememberedElseDefault) {
+TEST_F(DialogSettings, InitialFolderAndFileType_AreForcedElseRememberedElseDefault) {
     const CString forced = folder.addFolder(L"forced");
     TestDialog dialog(folder.path());
-    look(dialog, [&] { EXPECT_EQ(dialog.shownFolder(), folder.path()); });
+    const auto expectStart = [&](const CString& path, int type) {
+        look(dialog, [&] {
+            EXPECT_EQ(dialog.shownFolder(), path);
+            EXPECT_EQ(dialog.GetFilterIndex(), type);
+        });
+    };
+    dialog.SetDefaultFilterIndex(kAllFiles);
+    expectStart(folder.path(), kAllFiles);
     dialog.SetDialogData(L"InitialDirectory", folder.path(L"sub"));
-    look(dialog, [&] { EXPECT_EQ(dialog.shownFolder(), folder.path(L"sub")); });
+    dialog.SetDialogData(L"InitialFilterIndex", static_cast<unsigned long>(kTexts));
+    expectStart(folder.path(L"sub"), kTexts);
     dialog.SetForceInitialFolder(forced);
-    look(dialog, [&] { EXPECT_EQ(dialog.shownFolder(), forced); });
+    dialog.SetForceFilterIndex(kAllFiles);
+    expectStart(forced, kAllFiles);
     dialog.SetForceInitialFolder(L"desktop");
-    look(dialog, [&] { EXPECT_EQ(dialog.shownFolder(), L"Desktop"); });
+    dialog.SetForceFilterIndex(99);  // there is no such type
+    expectStart(L"Desktop", kDrawings);
+    look(dialog, [] { EXPECT_FALSE(isEnabled(IDC_KNAV_UP)); });
+}
+
+TEST_F(DialogSettings, OperationsOnTheRunningDialog_TakeEffectAtOnce) {
+    TestDialog dialog(folder.path());
+    look(dialog, [&] {
+        dialog.SetFilterIndex(kAllFiles);
+        dialog.SetFilterIndex(7);
+        EXPECT_EQ(dialog.GetFilterIndex(), kAllFiles);
+        EXPECT_EQ(dialog.InsertUserItemInPlaces(0, L"Plans", folder.path()), 0);
+        EXPECT_EQ(dialog.MovePlacesItem(0, 1), 1);
+        EXPECT_EQ(knaviGetPlacesList(&dialog)->GetItemName(1), folder.path());
+        CString personal;
+        EXPECT_NE(dialog.GetPersonalFolderPath(personal), 0);
+        EXPECT_TRUE(PathIsDirectoryW(personal)) << utf8(personal.view());
+        EXPECT_TRUE(GetWindowLongW(viewList(), GWL_STYLE) & LVS_SINGLESEL);
+        dialog.SetMultiSelectAllowed(1);
+        EXPECT_FALSE(GetWindowLongW(viewList(), GWL_STYLE) & LVS_SINGLESEL);
+        const CString later = folder.addFile(L"later.dwg");
+        dialog.BrowseCurrentObject();
+        EXPECT_THAT(shownNames(), testing::Contains(L"later.dwg"));
+        dialog.SetFolderComboCurSel(0);
+        EXPECT_EQ(dialog.shownFolder(), L"Desktop");
+    });
 }
 
 TEST_F(DialogSettings, DialogWithoutAName_IsKnownByItsCaption) {
@@ -107,16 +108,6 @@ TEST_F(DialogSettings, DialogWithoutAName_IsKnownByItsCaption) {
     EXPECT_EQ(stored(same, L"InitialDirectory"), folder.path());
     TestDialog other;
     EXPECT_EQ(stored(other, L"InitialDirectory"), L"(none)");
-}
-
-TEST_F(DialogSettings, NothingRemembered_OpensInDetails) {
-    TestDialog dialog(folder.path());
-    EXPECT_EQ(dialog.GetViewMode(), 3u);
-    look(dialog, [&] {
-        EXPECT_EQ(dialog.GetViewMode(), 4u);
-        EXPECT_EQ(ListView_GetView(viewList()), static_cast<DWORD>(LV_VIEW_DETAILS));
-        EXPECT_EQ(dialog.GetFilterIndex(), kDrawings);
-    });
 }
 
 TEST_F(DialogSettings, History_TakesWhatIsThereOnceTheLatestFirst) {
@@ -182,68 +173,36 @@ TEST_F(DialogSettings, HistoryPolicies_SwitchReadingAndWritingOff) {
         EXPECT_EQ(user.run(), IDOK);
         EXPECT_EQ(stored(dialog, L"FileNameMRU0"), L"C:\\old.dwg");
         EXPECT_EQ(stored(dialog, L"InitialDirectory"), folder.path()) << "the rest is remembered";
-        RegDeleteKeyValueW(HKEY_CURRENT_USER,
-                           CString(L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\") + key, value);
+        setPolicy(key, value, 0);
     }
 }
 
-TEST_F(DialogSettings, NoPlacesPolicy_HidesTheListAndGivesItsRoomAway) {
-    int usualLeft = 0;
-    const auto viewLeft = [] {
+TEST_F(DialogSettings, NoPlacesPolicy_HidesTheListAndGivesItsRoomAway_UntilItIsLifted) {
+    TestDialog dialog(folder.path());
+    const auto viewLeft = [&](bool places) {
         RECT view{};
-        GetWindowRect(viewList(), &view);
-        RECT frame{};
-        GetWindowRect(DialogDriver::dialog(), &frame);
-        return static_cast<int>(view.left - frame.left);
+        look(dialog, [&] {
+            const HWND list = DialogDriver::control(IDC_KNAV_PLACES);
+            EXPECT_EQ(IsWindowVisible(list) != FALSE, places);
+            EXPECT_EQ(SendMessageW(list, LB_GETCOUNT, 0, 0) > 0, places);
+            GetWindowRect(viewList(), &view);
+            MapWindowPoints(nullptr, DialogDriver::dialog(), reinterpret_cast<POINT*>(&view), 2);
+        });
+        EXPECT_EQ(dialog.GetNoPlacesList(), places ? 0 : 1);
+        return view.left;
     };
-    TestDialog usual(folder.path());
-    look(usual, [&] {
-        EXPECT_TRUE(IsWindowVisible(DialogDriver::control(IDC_KNAV_PLACES)));
-        EXPECT_GT(SendMessageW(DialogDriver::control(IDC_KNAV_PLACES), LB_GETCOUNT, 0, 0), 0);
-        usualLeft = viewLeft();
-    });
     setPolicy(L"Comdlg32", L"NoPlacesBar");
-    TestDialog dialog(folder.path());
-    look(dialog, [&] {
-        EXPECT_FALSE(IsWindowVisible(DialogDriver::control(IDC_KNAV_PLACES)));
-        EXPECT_EQ(SendMessageW(DialogDriver::control(IDC_KNAV_PLACES), LB_GETCOUNT, 0, 0), 0);
-        EXPECT_LT(viewLeft(), usualLeft);
-    });
-    EXPECT_EQ(dialog.GetNoPlacesList(), 1);
+    const LONG without = viewLeft(false);
+    setPolicy(L"Comdlg32", L"NoPlacesBar", 0);
+    EXPECT_LT(without, viewLeft(true));
 }
 
-TEST_F(DialogSettings, NoBackPolicy_TakesTheBackButtonAway) {
-    setPolicy(L"Comdlg32", L"NoBackButton");
+TEST_F(DialogSettings, SecondRun_KnowsNothingOfTheFileTypesOfTheFirst) {
     TestDialog dialog(folder.path());
-    DialogUser user(dialog);
-    user.type(L"sub").ok().untilFolder(folder.path(L"sub")).settle();
-    user.check([] {
-            EXPECT_FALSE(IsWindowVisible(DialogDriver::control(IDC_KNAV_BACK)));
-            EXPECT_FALSE(IsWindowEnabled(DialogDriver::control(IDC_KNAV_BACK)));
-            RECT lookIn{};
-            RECT back{};
-            GetWindowRect(DialogDriver::control(IDC_KNAV_LOOK_IN), &lookIn);
-            GetWindowRect(DialogDriver::control(IDC_KNAV_BACK), &back);
-            EXPECT_GT(lookIn.right, back.left) << "its room is used";
-        })
-        .command(IDM_KNAV_BACK)
-        .settle()
-        .check([&] { EXPECT_EQ(dialog.shownFolder(), folder.path(L"sub")); })
-        .cancel();
-    EXPECT_EQ(user.run(), IDCANCEL);
-}
-
-TEST_F(DialogSettings, SecondRun_KnowsNothingOfThePoliciesAndFileTypesOfTheFirst) {
-    setPolicy(L"Comdlg32", L"NoPlacesBar");
-    TestDialog dialog(folder.path());
-    look(dialog, [&] { EXPECT_EQ(dialog.GetNoPlacesList(), 1); });
-    RegDeleteKeyValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Comdlg32",
-                       L"NoPlacesBar");
+    look(dialog, [] {});
     dialog.filters.SetFrom(L"Models\0*.obj\0", 1);
     dialog.SetFoldersOnly(1);
     look(dialog, [&] {
-        EXPECT_EQ(dialog.GetNoPlacesList(), 0);
-        EXPECT_TRUE(IsWindowVisible(DialogDriver::control(IDC_KNAV_PLACES)));
         CString pattern;
         dialog.GetCurrentFileExtension(pattern);
         EXPECT_EQ(pattern, L"") << "folders have no file type";
@@ -258,24 +217,22 @@ TEST_F(DialogSettings, ExtensionThatIsSwitchedOff_IsLeftOutUnlessTheHostWantsIt)
     const auto store = FakeFolder::make(L"Store");
     extensions.add(L"Store", store);
     ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, value, REG_DWORD, &on, sizeof on), ERROR_SUCCESS);
-    const auto rows = [&](int useFlags) {
+    LRESULT lookIn[2];
+    LRESULT places[2];
+    for (const int useFlags : {0, 1}) {
         TestDialog dialog(folder.path());
         dialog.SetUseRegExtensionFlags(useFlags);
-        std::pair<LRESULT, LRESULT> counts;
         look(dialog, [&] {
-            const HWND lookIn = DialogDriver::control(IDC_KNAV_LOOK_IN);
-            SendMessageW(lookIn, CB_SHOWDROPDOWN, TRUE, 0);  // until then it holds the way to the folder only
-            counts = {SendMessageW(lookIn, CB_GETCOUNT, 0, 0),
-                      SendMessageW(DialogDriver::control(IDC_KNAV_PLACES), LB_GETCOUNT, 0, 0)};
-            SendMessageW(lookIn, CB_SHOWDROPDOWN, FALSE, 0);
+            const HWND combo = DialogDriver::control(IDC_KNAV_LOOK_IN);
+            SendMessageW(combo, CB_SHOWDROPDOWN, TRUE, 0);  // until then it holds the way to the folder only
+            lookIn[useFlags] = SendMessageW(combo, CB_GETCOUNT, 0, 0);
+            places[useFlags] = SendMessageW(DialogDriver::control(IDC_KNAV_PLACES), LB_GETCOUNT, 0, 0);
+            SendMessageW(combo, CB_SHOWDROPDOWN, FALSE, 0);
         });
-        return counts;
-    };
-    const auto [lookIn, places] = rows(1);
-    const auto [lookInWithAll, placesWithAll] = rows(0);
+    }
     RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, key, value);
-    EXPECT_EQ(lookInWithAll, lookIn + 1);
-    EXPECT_EQ(placesWithAll, places + 1);
+    EXPECT_EQ(lookIn[0], lookIn[1] + 1);
+    EXPECT_EQ(places[0], places[1] + 1);
 }
 
 TEST_F(DialogSettings, Texts_AreTheLibrarysOwnAlthoughTheHostHasSomeOfTheSameNumbers) {
@@ -301,30 +258,26 @@ TEST_F(DialogSettings, HostTemplateWithoutALookInList_ShowsTheInitialFolderAllTh
     EXPECT_EQ(driver.run([&] { return dialog.DoModal(); }), IDCANCEL);
 }
 
-struct InitialNameRow {
-    const char* why;
-    const wchar_t* given;
-    const wchar_t* defaultExtension;
-    int creating;
-    const wchar_t* shown;
-};
-
 TEST_F(DialogSettings, InitialFileName_IsShownWithTheRightExtension) {
-    constexpr InitialNameRow rows[] = {
+    constexpr struct {
+        const char* why;
+        const wchar_t* given;
+        const wchar_t* defaultExtension;
+        int creating;
+        const wchar_t* shown;
+    } rows[] = {
         {"a foreign extension when saving", L"plan.old.bak", L"dwg", 1, L"plan.old.dwg"},
         {"a foreign extension when opening", L"plan.bak", L"dwg", 0, L"plan.bak"},
         {"its own extension", L"plan.DWG", L"dwg", 1, L"plan.DWG"},
         {"no extension", L"plan", L"dxf", 1, L"plan.dxf"},
-        {"no extension and no default", L"plan", nullptr, 0, L"plan"},
+        {"no extension and no default", L"plan", L"", 0, L"plan"},
         {"nothing", L"", L"dwg", 1, L""},
     };
-    for (const InitialNameRow& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.why);
         TestDialog dialog(folder.path());
         dialog.SetCreatingFile(row.creating);
-        if (row.defaultExtension) {
-            dialog.SetDefaultFileExtension(row.defaultExtension);
-        }
+        dialog.SetDefaultFileExtension(row.defaultExtension);
         dialog.SetInitialFileName(row.given);
         look(dialog, [&] { EXPECT_EQ(utf8(fileNameText()), utf8(row.shown)); });
     }
@@ -340,27 +293,20 @@ TEST_F(DialogSettings, InitialFileNameThatExists_IsSelectedInTheView) {
     });
 }
 
-TEST_F(DialogSettings, ForcedAndDefaultFileType_AreChosenAtStart) {
-    TestDialog dialog(folder.path());
-    dialog.SetDefaultFilterIndex(kAllFiles);
-    look(dialog, [&] { EXPECT_EQ(dialog.GetFilterIndex(), kAllFiles); });
-    dialog.SetForceFilterIndex(kTexts);
-    look(dialog, [&] { EXPECT_EQ(dialog.GetFilterIndex(), kTexts); });
-    dialog.SetForceFilterIndex(99);
-    look(dialog, [&] { EXPECT_EQ(dialog.GetFilterIndex(), kDrawings) << "there is no such type"; });
-}
-
 TEST_F(DialogSettings, OkButtonTextAndCaption_AreShown) {
     TestDialog dialog(folder.path());
     dialog.SetDialogCaption(L"Attach");
     dialog.SetOkButtonText(L"&Attach");
     look(dialog, [&] {
         EXPECT_EQ(DialogDriver::text(IDOK), L"&Attach");
-        auto& imp = *static_cast<CNavDialogImp*>(dialog.GetImpObject());
-        EXPECT_EQ(imp.okButton().GetZoUiParent(), &dialog);
+        auto& implementation = *static_cast<CNavDialogImp*>(dialog.GetImpObject());
+        EXPECT_EQ(implementation.okButton().GetZoUiParent(), &dialog);
+        constexpr UINT getShellBrowser = WM_USER + 7;  // what old views ask their parent
+        EXPECT_EQ(reinterpret_cast<IShellBrowser*>(SendMessageW(DialogDriver::dialog(), getShellBrowser, 0, 0)),
+                  implementation.browser().GetIShellBrowser());
         CMenu menu;
         wchar_t entry[20] = L"";
-        EXPECT_EQ(imp.PrepareButtonMenu(IDOK, menu), 1);
+        EXPECT_EQ(implementation.PrepareButtonMenu(IDOK, menu), 1);
         GetMenuStringW(menu.m_hMenu, IDM_KNAV_OPEN, entry, 20, MF_BYCOMMAND);
         EXPECT_STREQ(entry, L"&Attach");
         dialog.SetOkButtonText(L"&Bind");

@@ -8,14 +8,12 @@
 namespace knav {
 namespace {
 
-struct TrimRow {
+constexpr struct {
     const char* why;
     const wchar_t* typed;
     bool trimBaseEnd;
     const wchar_t* expected;
-};
-
-constexpr TrimRow kTrimRows[] = {
+} kTrimRows[] = {
     {"both ends always go", L"  plan.dwg \t", false, L"plan.dwg"},
     {"a blank before the dot stays while typing", L"a\\ x . dwg", false, L"a\\x .dwg"},
     {"and goes when names are compared", L"a\\ x . dwg", true, L"a\\x.dwg"},
@@ -27,7 +25,7 @@ constexpr TrimRow kTrimRows[] = {
 };
 
 TEST(NameRules, TrimNameRemovesOnlyStrayBlanks) {
-    for (const TrimRow& row : kTrimRows) {
+    for (const auto& row : kTrimRows) {
         EXPECT_EQ(trimName(row.typed, row.trimBaseEnd), row.expected) << row.why;
     }
 }
@@ -36,12 +34,7 @@ TEST(NameRules, ExpandEnvironmentReplacesKnownVariablesOnly) {
     SetEnvironmentVariableW(L"KNAV_TEST_DIR", L"C:\\drawings");
     SetEnvironmentVariableW(L"KNAV_TEST_NONE", nullptr);
     SetEnvironmentVariableW(L"KNAV_TEST_LONG", std::wstring(300, L'x').c_str());
-    struct Row {
-        const wchar_t* text;
-        const wchar_t* expected;
-        int replaced;
-    };
-    constexpr Row rows[] = {
+    constexpr std::tuple<const wchar_t*, const wchar_t*, int> rows[] = {
         {L"%KNAV_TEST_DIR%\\a", L"C:\\drawings\\a", 1},
         {L"%knav_test_dir%%KNAV_TEST_DIR%", L"C:\\drawingsC:\\drawings", 2},
         {L"%KNAV_TEST_NONE%\\a", L"%KNAV_TEST_NONE%\\a", 0},
@@ -51,10 +44,10 @@ TEST(NameRules, ExpandEnvironmentReplacesKnownVariablesOnly) {
         {L"a%%KNAV_TEST_DIR%", L"a%%KNAV_TEST_DIR%", 0},
         {L"", L"", 0},
     };
-    for (const Row& row : rows) {
-        const Expansion expansion = expandEnvironment(row.text);
-        EXPECT_EQ(expansion.text, row.expected) << row.text;
-        EXPECT_EQ(expansion.replaced, row.replaced) << row.text;
+    for (const auto& [text, expected, replaced] : rows) {
+        const Expansion expansion = expandEnvironment(text);
+        EXPECT_EQ(expansion.text, expected) << text;
+        EXPECT_EQ(expansion.replaced, replaced) << text;
     }
 }
 
@@ -67,16 +60,14 @@ TEST(NameRules, PathOfFileUrlTurnsUrlIntoLocalPath) {
     EXPECT_EQ(pathOfFileUrl(L"file://" + std::wstring(400, L'a'))->size(), 260u);
 }
 
-struct ExtensionRow {
+constexpr struct {
     const char* why;
     const wchar_t* name;
     const wchar_t* pattern;
     bool replace, creating, acceptAny;
     const wchar_t* expected;
     int result;
-};
-
-constexpr ExtensionRow kExtensionRows[] = {
+} kExtensionRows[] = {
     {"a bare name gets the extension", L"plan", L"*.dwg", false, false, false, L"plan.dwg", 1},
     {"saving a foreign type appends", L"plan.txt", L"*.dwg", false, true, false, L"plan.txt.dwg", 1},
     {"opening a foreign type leaves it alone", L"plan.txt", L"*.dwg", false, false, false, L"plan.txt", 0},
@@ -95,7 +86,7 @@ constexpr ExtensionRow kExtensionRows[] = {
 };
 
 TEST(NameRules, WithFilterExtensionCompletesTypedNames) {
-    for (const ExtensionRow& row : kExtensionRows) {
+    for (const auto& row : kExtensionRows) {
         ExtensionFacts facts{row.pattern, row.replace, row.creating, row.acceptAny};
         facts.isKnown = [](std::wstring_view pattern) { return pattern == L"*.dxf"; };
         const ExtensionOutcome outcome = withFilterExtension(row.name, facts);
@@ -112,11 +103,7 @@ TEST(NameRules, WithFilterExtensionCutsAtTheLongestPath) {
 }
 
 TEST(NameRules, WithoutAcceleratorKeepsTheWords) {
-    struct Row {
-        const wchar_t* caption;
-        const wchar_t* expected;
-    };
-    constexpr Row rows[] = {
+    constexpr std::pair<const wchar_t*, const wchar_t*> rows[] = {
         {L"Open(&O)", L"Open"},
         {L"&Open", L"Open"},
         {L"Save && &Close", L"Save && Close"},
@@ -128,8 +115,8 @@ TEST(NameRules, WithoutAcceleratorKeepsTheWords) {
         {L"A && B", L"A && B"},
         {L"(&O", L"(O"},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(withoutAccelerator(row.caption), row.expected) << row.caption;
+    for (const auto& [caption, expected] : rows) {
+        EXPECT_EQ(withoutAccelerator(caption), expected) << caption;
     }
 }
 

@@ -5,117 +5,11 @@
 #include <atomic>
 #include <filesystem>
 
-#include "demo/driver/RemoteList.h"
+#include "e2e/DialogEyes.h"
 #include "e2e/DialogInput.h"
-#include "resources/ids.h"
 
 namespace knav::test {
 namespace {
-
-using input::click;
-
-/// The window's parts, as the person at it sees them.
-class Eyes {
-public:
-    explicit Eyes(const NavDialogWindow& window) : m_window(window.window()) {}
-
-    HWND control(UINT id) const { return GetDlgItem(m_window, static_cast<int>(id)); }
-    HWND list() const {
-        const HWND view = FindWindowExW(m_window, nullptr, L"SHELLDLL_DefView", nullptr);
-        return FindWindowExW(view, nullptr, WC_LISTVIEWW, nullptr);
-    }
-    HWND focus() const {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        GetGUIThreadInfo(GetWindowThreadProcessId(m_window, nullptr), &info);
-        return info.hwndFocus;
-    }
-    bool menuIsOpen() const {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        GetGUIThreadInfo(GetWindowThreadProcessId(m_window, nullptr), &info);
-        return (info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0;
-    }
-    std::vector<std::wstring> lookInRows() const {
-        const HWND combo = control(IDC_KNAV_LOOK_IN);
-        std::vector<std::wstring> rows(static_cast<std::size_t>(SendMessageW(combo, CB_GETCOUNT, 0, 0)));
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            wchar_t text[MAX_PATH] = L"";
-            SendMessageW(combo, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
-            rows[i] = text;
-        }
-        return rows;
-    }
-    std::wstring lookIn() const {
-        const auto rows = lookInRows();
-        const LRESULT row = SendMessageW(control(IDC_KNAV_LOOK_IN), CB_GETCURSEL, 0, 0);
-        return row >= 0 && row < static_cast<LRESULT>(rows.size()) ? rows[static_cast<std::size_t>(row)] : L"";
-    }
-    bool isDropped() const { return SendMessageW(control(IDC_KNAV_LOOK_IN), CB_GETDROPPEDSTATE, 0, 0) != 0; }
-    DWORD viewMode() const { return static_cast<DWORD>(SendMessageW(list(), LVM_GETVIEW, 0, 0)); }
-    bool shows(const std::wstring& name) const { return input::RemoteList(list()).find(name).has_value(); }
-
-    /// The box of the shell's that has come up, or null.
-    HWND box() const {
-        const HWND front = GetForegroundWindow();
-        wchar_t name[64] = L"";
-        GetClassNameW(front, name, 64);
-        const bool isBox = front != m_window && lstrcmpW(name, L"#32770") == 0 && GetDlgItem(front, IDYES) != nullptr;
-        return isBox ? front : nullptr;
-    }
-
-    // --- hands ---------------------------------------------------------------------------------------------------
-    void press(UINT id) const { press(control(id)); }
-    static void press(HWND window) {
-        RECT at{};
-        GetWindowRect(window, &at);
-        click({(at.left + at.right) / 2, (at.top + at.bottom) / 2});
-    }
-    /// Opens the menu of a button by its mnemonic and presses the keys in it.
-    void chooseFromMenu(WORD mnemonic, std::initializer_list<WORD> keys) const {
-        pressKey(mnemonic, VK_MENU);
-        EXPECT_TRUE(waitUntil([this] { return menuIsOpen(); }, 3000)) << "menu of Alt+" << static_cast<char>(mnemonic);
-        for (const WORD key : keys) {
-            pressKey(key);
-        }
-        EXPECT_TRUE(waitUntil([this] { return !menuIsOpen(); }, 3000)) << "menu of Alt+" << static_cast<char>(mnemonic);
-    }
-    /// F4 is for the button that has the focus, not for the Look-in list.
-    void dropByF4(UINT button) const {
-        EXPECT_TRUE(waitUntil([&] { return focus() == control(button); }, 3000)) << button;
-        pressKey(VK_F4);
-        EXPECT_TRUE(waitUntil([this] { return menuIsOpen(); }, 3000)) << button;
-        EXPECT_FALSE(isDropped()) << button;
-    }
-    void focusList() const {
-        SetForegroundWindow(m_window);
-        for (int tabs = 0; tabs < 20 && focus() != list(); ++tabs) {
-            const HWND before = focus();
-            pressKey(VK_TAB);
-            waitUntil([&] { return focus() != before; }, 2000);
-        }
-        EXPECT_EQ(focus(), list());
-    }
-    /// Types the name of an item in the list, which selects it.
-    void typeAhead(const std::wstring& name) const {
-        EXPECT_TRUE(waitUntil([&] { return shows(name); })) << utf8(name);
-        focusList();
-        typeText(name);
-        const auto selected = [&] {
-            const input::RemoteList items(list());
-            return items.isSelected(items.find(name).value_or(-1));
-        };
-        EXPECT_TRUE(waitUntil(selected)) << "type-ahead to " << utf8(name);
-    }
-    /// Waits until the dialog is there, and listens again.
-    void expectFolder(const std::wstring& name) const {
-        EXPECT_TRUE(waitUntil([&] { return lookIn() == name; })) << utf8(name) << " expected, not " << utf8(lookIn());
-        SendMessageW(m_window, WM_NULL, 0, 0);
-    }
-
-private:
-    HWND m_window;
-};
 
 /// Notes the commands that lead out of the dialog instead of doing them.
 class HostDialog : public CNavDialog {
@@ -152,7 +46,7 @@ TEST_F(CommandInput, UpAndBackThroughFiveFolders_ByButtonAndEachKey) {
         eyes.expectFolder(L"4");
         pressKey(VK_UP, VK_MENU);
         eyes.expectFolder(L"3");
-        eyes.focusList();
+        eyes.tabTo(eyes.list());
         pressKey(VK_BACK);
         eyes.expectFolder(L"2");
         eyes.press(IDC_KNAV_UP);
@@ -229,25 +123,22 @@ TEST_F(CommandInput, ViewsToolsAndOkMenus_ByMouseAndKeys) {
     const std::wstring favorite = std::wstring(favorites.c_str()) + L"\\" + leaf() + L".lnk";
     const auto person = [&](const NavDialogWindow& window) {
         const Eyes eyes(window);
-        eyes.chooseFromMenu('V', {'L'});
-        EXPECT_TRUE(waitUntil([&] { return eyes.viewMode() == LV_VIEW_LIST; }));
-        pressKey('2', VK_CONTROL);
-        EXPECT_TRUE(waitUntil([&] { return eyes.viewMode() == LV_VIEW_DETAILS; }));
+        constexpr std::tuple<WORD, WORD, unsigned> modes[] = {{'L', '1', 3}, {'D', '2', 4}, {'T', '3', 5}};
+        for (const auto& [entry, key, mode] : modes) {
+            eyes.chooseFromMenu('V', {entry});
+            EXPECT_TRUE(waitUntil([&, mode = mode] { return m_host.GetViewMode() == mode; })) << mode;
+        }
+        for (const auto& [entry, key, mode] : modes) {
+            pressKey(key, VK_CONTROL);
+            EXPECT_TRUE(waitUntil([&, mode = mode] { return m_host.GetViewMode() == mode; })) << mode;
+        }
         pressKey('1', VK_CONTROL);
         EXPECT_TRUE(waitUntil([&] { return eyes.viewMode() == LV_VIEW_LIST; }));
         eyes.press(IDC_KNAV_VIEWS);
-        EXPECT_TRUE(waitUntil([&] { return eyes.menuIsOpen(); }));
-        pressKey(VK_ESCAPE);
-        EXPECT_TRUE(waitUntil([&] { return !eyes.menuIsOpen(); })) << "the menu goes first";
-        EXPECT_TRUE(window.isOpen());
-        for (int tabs = 0; tabs < 20 && eyes.focus() != eyes.control(IDC_KNAV_VIEWS); ++tabs) {
-            const HWND before = eyes.focus();
-            pressKey(VK_TAB);
-            waitUntil([&] { return eyes.focus() != before; }, 2000);
-        }
-        eyes.dropByF4(IDC_KNAV_VIEWS);
-        pressKey(VK_ESCAPE);
-        EXPECT_TRUE(waitUntil([&] { return !eyes.menuIsOpen(); }));
+        eyes.chooseFromMenu({VK_ESCAPE});
+        EXPECT_TRUE(window.isOpen()) << "Escape was for the menu";
+        eyes.tabTo(eyes.control(IDC_KNAV_VIEWS));
+        eyes.chooseByF4(IDC_KNAV_VIEWS, {VK_ESCAPE});
 
         window.typeName(L"plan");
         eyes.chooseFromMenu('L', {'L'});
@@ -260,15 +151,11 @@ TEST_F(CommandInput, ViewsToolsAndOkMenus_ByMouseAndKeys) {
         EXPECT_TRUE(waitUntil([&] { return PathFileExistsW(favorite.c_str()) != FALSE; }));
 
         window.typeName(L"plan.dwg");
-        SetFocus(nullptr);
         RECT ok{};
         GetWindowRect(eyes.control(IDOK), &ok);
-        click({ok.right - 8, (ok.top + ok.bottom) / 2});
-        EXPECT_TRUE(waitUntil([&] { return eyes.menuIsOpen(); }));
-        pressKey(VK_ESCAPE);
-        EXPECT_TRUE(waitUntil([&] { return !eyes.menuIsOpen(); }));
-        eyes.dropByF4(IDOK);
-        pressKey('R');
+        input::click({ok.right - 8, (ok.top + ok.bottom) / 2});
+        eyes.chooseFromMenu({VK_ESCAPE});
+        eyes.chooseByF4(IDOK, {'R'});
     };
     EXPECT_EQ(run(m_host, person), IDOK);
     EXPECT_TRUE(m_host.GetReadOnlySpecified());
@@ -290,7 +177,7 @@ TEST_F(CommandInput, WebFindRefreshAndNameField_ByButtonAndKey) {
         m_folder.addFile(L"last.dwg");
         eyes.press(IDC_KNAV_REFRESH);
         EXPECT_TRUE(waitUntil([&] { return eyes.shows(L"last.dwg"); }));
-        eyes.focusList();
+        eyes.tabTo(eyes.list());
         pressKey('D', VK_MENU);
         EXPECT_TRUE(waitUntil([&] { return IsChild(eyes.control(IDC_KNAV_FILE_NAME), eyes.focus()) != FALSE; }));
         typeText(L"later");
@@ -329,7 +216,7 @@ TEST_F(CommandInput, LookIn_ListsDesktopDrivesAndTheChain_AndNavigates) {
         SendMessageW(info.hwndList, LB_SETTOPINDEX, 0, 0);
         SendMessageW(info.hwndList, LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&top));
         MapWindowPoints(info.hwndList, nullptr, reinterpret_cast<POINT*>(&top), 2);
-        click({(top.left + top.right) / 2, (top.top + top.bottom) / 2});
+        input::click({(top.left + top.right) / 2, (top.top + top.bottom) / 2});
         eyes.expectFolder(desktop);
         pressKey(VK_LEFT, VK_MENU);
         eyes.expectFolder(leaf());
@@ -338,10 +225,51 @@ TEST_F(CommandInput, LookIn_ListsDesktopDrivesAndTheChain_AndNavigates) {
     EXPECT_EQ(run(m_host, person), IDCANCEL);
 }
 
-TEST_F(CommandInput, KeyboardAlone_PicksAFileOnAnotherDrive) {
-    if (!PathIsDirectoryW(L"Z:\\")) {
-        GTEST_SKIP() << "there is one drive only";
+TEST_F(CommandInput, Policies_TakeAwayPlacesBackAndTheHistory) {
+    const auto pickPlan = [](const NavDialogWindow& window) {
+        window.typeName(L"plan");
+        window.pressEnter();
+    };
+    EXPECT_EQ(run(m_host, pickPlan), IDOK);
+    constexpr std::pair<const wchar_t*, const wchar_t*> policies[] = {{L"Comdlg32", L"NoPlacesBar"},
+                                                                      {L"Comdlg32", L"NoBackButton"},
+                                                                      {L"Comdlg32", L"NoFileMru"},
+                                                                      {L"Explorer", L"NoRecentDocsHistory"}};
+    for (const auto& [key, value] : policies) {
+        constexpr DWORD on = 1;
+        RegSetKeyValueW(HKEY_CURRENT_USER, CString(L"Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\") + key,
+                        value, REG_DWORD, &on, sizeof on);
     }
+    const auto person = [this](const NavDialogWindow& window) {
+        const Eyes eyes(window);
+        EXPECT_FALSE(IsWindowVisible(eyes.control(IDC_KNAV_PLACES)));
+        EXPECT_FALSE(IsWindowVisible(eyes.control(IDC_KNAV_BACK)));
+        RECT lookIn{};
+        RECT back{};
+        GetWindowRect(eyes.control(IDC_KNAV_LOOK_IN), &lookIn);
+        GetWindowRect(eyes.control(IDC_KNAV_BACK), &back);
+        EXPECT_GT(lookIn.right, back.left) << "its room is used";
+        window.open(L"Details");
+        eyes.expectFolder(L"Details");
+        pressKey(VK_LEFT, VK_MENU);  // does nothing: the next key is for the same folder
+        pressKey(VK_UP, VK_MENU);
+        eyes.expectFolder(leaf());
+        window.typeName(L"");
+        pressKey(VK_DOWN);
+        pressKey(VK_DOWN);
+        window.waitUntilHandled();
+        EXPECT_EQ(GetWindowTextLengthW(eyes.control(IDC_KNAV_FILE_NAME)), 0) << "there is no history";
+        window.typeName(L"site plan");
+        window.pressEnter();
+    };
+    EXPECT_EQ(run(m_host, person), IDOK);
+    CString newest;
+    EXPECT_EQ(m_host.GetDialogData(L"FileNameMRU0", newest), 1);
+    EXPECT_EQ(m_host.GetDialogData(L"FileNameMRU1", newest), 0) << "and nothing is added to it";
+}
+
+TEST_F(CommandInput, KeyboardAlone_PicksAFileOnAnotherDrive) {
+    ASSERT_TRUE(PathIsDirectoryW(L"Z:\\")) << "a second drive is needed";
     m_host.SetForceInitialFolder(L"Z:\\");
     const std::wstring file(m_folder.path(L"Details\\door.dwg"));
     const auto person = [&file](const NavDialogWindow& window) {

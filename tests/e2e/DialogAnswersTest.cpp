@@ -42,10 +42,10 @@ TEST_F(DialogInput, NamesThatCannotBeUsedAreToldOnTheScreenAndCanBeRetyped) {
     showBoxes();
     const std::wstring longName(240, L'n');
     const std::pair<const wchar_t*, const wchar_t*> rows[] = {
-        {L"a|b", L""},
+        {L"a|b", L"|"},
         {L"q:\\x.dwg", L"Q:"},
         {L"nowhere\\plan.dwg", L"nowhere"},
-        {longName.c_str(), L""},
+        {longName.c_str(), L"long"},
     };
     const auto person = [&rows](const NavDialogWindow& window) {
         window.typeName(L"");
@@ -140,33 +140,40 @@ TEST_F(DialogInput, PatternsRelativePathsAndVariablesAreUnderstood) {
 TEST_F(DialogInput, NextDialogStartsWhereTheLastOneWasAccepted) {
     m_dialog.SetForceInitialFolder(L"");
     m_dialog.SetDefaultInitialFolder(m_folder.path());
-    const auto goAndPick = [](const NavDialogWindow& window) {
+    const auto goAndType = [](const NavDialogWindow& window) {
         window.open(L"Details");
         pressKey(L'1', VK_CONTROL);
         window.focusFileType();
         pressKey(VK_DOWN);
         window.typeName(L"door.dwg");
+    };
+    const auto expectStart = [this](const NavDialogWindow& window, LRESULT type, unsigned mode, LRESULT remembered) {
+        EXPECT_EQ(SendDlgItemMessageW(window.window(), IDC_KNAV_FILE_TYPE, CB_GETCURSEL, 0, 0), type);
+        EXPECT_EQ(m_dialog.GetViewMode(), mode);
+        EXPECT_EQ(SendDlgItemMessageW(window.window(), IDC_KNAV_FILE_NAME, CB_GETCOUNT, 0, 0), remembered);
+    };
+    const auto cancel = [&](const NavDialogWindow& window) {
+        goAndType(window);
+        window.pressEscape();
+    };
+    EXPECT_EQ(run(cancel), IDCANCEL);
+    const auto accept = [&](const NavDialogWindow& window) {
+        expectStart(window, 0, 4, 0);  // nothing is left of the cancelled one
+        window.select({L"plan.dwg"});
+        goAndType(window);
         window.pressEnter();
     };
-    EXPECT_EQ(run(goAndPick), IDOK);
-
-    CNavDialog next(m_data, m_filters);
-    next.SetDialogName(L"DialogInput");
-    next.SetDefaultInitialFolder(m_folder.path());
-    int type = -1;
-    unsigned mode = 0;
+    EXPECT_EQ(run(accept), IDOK);
     const auto look = [&](const NavDialogWindow& window) {
-        type = static_cast<int>(SendDlgItemMessageW(window.window(), IDC_KNAV_FILE_TYPE, CB_GETCURSEL, 0, 0));
-        mode = next.GetViewMode();
+        expectStart(window, 1, 3, 1);
         window.typeName(L"");
         pressKey(VK_DOWN);  // the history drops down
         pressKey(VK_DOWN);
         expectName(window, std::wstring(m_folder.path(L"Details\\door.dwg").view()));
+        window.typeName(L"door.dwg");
         window.pressEnter();
     };
-    EXPECT_EQ(run(next, look), IDOK);
-    EXPECT_EQ(type, 1);
-    EXPECT_EQ(mode, 3u);
+    EXPECT_EQ(run(look), IDOK);
     EXPECT_EQ(chosen(0), m_folder.path(L"Details\\door.dwg"));
 }
 

@@ -29,24 +29,16 @@ TEST_F(DialogInput, TypedFolderIsEnteredAndAFilePickedThere) {
     EXPECT_EQ(chosen(0), m_folder.path(L"Details\\door.dwg"));
 }
 
-TEST_F(DialogInput, FileTypeChosenByKeyboardFiltersTheFolder) {
+TEST_F(DialogInput, FileTypeChosenByKeyboardFiltersTheFolderAndGivesTheExtension) {
     const auto person = [](const NavDialogWindow& window) {
         window.focusFileType();
         pressKey(VK_DOWN);
-        window.open(L"notes.txt");
+        window.select({L"notes.txt"});
+        window.typeName(L"notes");
+        window.pressEnter();
     };
     EXPECT_EQ(run(person), IDOK);
     EXPECT_EQ(chosen(0), m_folder.path(L"notes.txt"));
-}
-
-TEST_F(DialogInput, ClicksWithCtrlPickSeveralInOrder) {
-    m_dialog.SetMultiSelectAllowed(1);
-    const auto person = [](const NavDialogWindow& window) {
-        window.select({L"site plan.dwg", L"plan.dwg"});
-        window.pressOk();
-    };
-    EXPECT_EQ(run(person), IDOK);
-    EXPECT_EQ(m_data.GetCount(), 2);
 }
 
 TEST_F(DialogInput, EscapeCancelsAndChoosesNothing) {

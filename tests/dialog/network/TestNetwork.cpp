@@ -1,7 +1,7 @@
 // A network provider that the platform's network functions load: a small network of servers that behave in different
 // ways.
 //
-//   \\knavtest   has the shares "plans" and "site"
+//   \\knavtest   has the share "plans"
 //   \\knavbare   has no shares
 //   \\knavslow   never answers
 //
@@ -23,9 +23,6 @@ extern "C" {
 
 namespace {
 
-constexpr wchar_t kProvider[] = L"Test network";
-constexpr std::wstring_view kShares[] = {L"plans", L"site"};
-
 std::mutex g_mutex;
 std::wstring g_questions;
 
@@ -45,10 +42,6 @@ bool same(std::wstring_view a, std::wstring_view b) {
     return a.size() == b.size() && _wcsnicmp(a.data(), b.data(), a.size()) == 0;
 }
 
-bool isShare(const std::wstring& name) {
-    return std::ranges::any_of(kShares, [&](std::wstring_view share) { return same(share, name); });
-}
-
 void note(const wchar_t* verb, const wchar_t* name) {
     const std::scoped_lock lock(g_mutex);
     g_questions += std::wstring(verb) + L" " + name + L"\n";
@@ -63,7 +56,7 @@ DWORD answerOf(const std::wstring& server) {
 
 struct Enumeration {
     std::wstring server;
-    std::size_t next = 0;
+    bool ended = false;
 };
 
 }  // namespace
@@ -109,26 +102,21 @@ EXPORTED DWORD WINAPI NPOpenEnum(DWORD scope, DWORD, DWORD, LPNETRESOURCEW conta
 
 EXPORTED DWORD WINAPI NPEnumResource(HANDLE handle, LPDWORD count, LPVOID buffer, LPDWORD) {
     auto& all = *static_cast<Enumeration*>(handle);
-    if (!same(all.server, L"knavtest") || all.next == std::size(kShares)) {
+    if (!same(all.server, L"knavtest") || all.ended) {
         return WN_NO_MORE_ENTRIES;
     }
-    // One at a time; the texts follow the record.
-    auto& found = *static_cast<NETRESOURCEW*>(buffer);
-    auto* const texts = reinterpret_cast<wchar_t*>(&found + 1);
-    const std::wstring remote = L"\\\\" + all.server + L"\\" + std::wstring(kShares[all.next++]);
-    wcscpy(texts, remote.c_str());
-    wchar_t* const provider = texts + remote.size() + 1;
-    wcscpy(provider, kProvider);
-    wchar_t* const nothing = provider + std::size(kProvider);
-    *nothing = L'\0';
-    found = {RESOURCE_GLOBALNET,
-             RESOURCETYPE_DISK,
-             RESOURCEDISPLAYTYPE_SHARE,
-             RESOURCEUSAGE_CONNECTABLE,
-             nothing,
-             texts,
-             nothing,
-             provider};
+    all.ended = true;
+    static wchar_t share[] = L"\\\\knavtest\\plans";
+    static wchar_t provider[] = L"Test network";
+    static wchar_t nothing[] = L"";
+    *static_cast<NETRESOURCEW*>(buffer) = {RESOURCE_GLOBALNET,
+                                           RESOURCETYPE_DISK,
+                                           RESOURCEDISPLAYTYPE_SHARE,
+                                           RESOURCEUSAGE_CONNECTABLE,
+                                           nothing,
+                                           share,
+                                           nothing,
+                                           provider};
     *count = 1;
     return WN_SUCCESS;
 }
@@ -144,17 +132,15 @@ EXPORTED DWORD WINAPI NPGetResourceInformation(LPNETRESOURCEW asked, LPVOID buff
     if (const DWORD error = answerOf(name.server); error != WN_SUCCESS) {
         return error;
     }
-    if (!name.share.empty() && !isShare(name.share)) {
+    if (!name.share.empty() && !same(name.share, L"plans")) {
         return WN_BAD_NETNAME;
     }
     auto& found = *static_cast<NETRESOURCEW*>(buffer);
-    auto* const remote = reinterpret_cast<wchar_t*>(&found + 1);
-    wcscpy(remote, asked->lpRemoteName);
     found = {};
     found.dwScope = RESOURCE_GLOBALNET;
     found.dwType = RESOURCETYPE_DISK;
     found.dwDisplayType = name.share.empty() ? RESOURCEDISPLAYTYPE_SERVER : RESOURCEDISPLAYTYPE_SHARE;
-    found.lpRemoteName = remote;
+    found.lpRemoteName = asked->lpRemoteName;
     *rest = nullptr;
     return WN_SUCCESS;
 }
