@@ -32,18 +32,11 @@ int droppedHeight(HWND combo) {
     return dropped.bottom - dropped.top;
 }
 
-// To size a combo box is to size its list as well. Whether the height that it reports has its field in it differs
-// between systems, so it is tried out; afterwards the box is as it was.
+// To size a combo box is to size its list as well: the height of both together. Where a system counts the field into the
+// list already, the list has room for a row more.
 int heightToSet(HWND combo) {
-    const RECT at = rectIn(combo, combo);
-    const auto setHeight = [combo, width = at.right - at.left](int height) {
-        SetWindowPos(combo, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
-    };
-    const int wanted = droppedHeight(combo);
-    setHeight(wanted);
-    const int height = wanted + (wanted - droppedHeight(combo));
-    setHeight(height);
-    return height;
+    const RECT field = rectIn(combo, combo);
+    return droppedHeight(combo) + field.bottom - field.top;
 }
 
 // The room of a combo box in its row. The box itself is as high as its font or its pictures need, whatever its template
