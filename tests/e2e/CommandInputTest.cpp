@@ -5,6 +5,7 @@
 #include <atomic>
 #include <filesystem>
 
+#include "demo/driver/Screenshot.h"
 #include "e2e/DialogEyes.h"
 #include "e2e/DialogInput.h"
 
@@ -97,6 +98,7 @@ TEST_F(CommandInput, Delete_AsksAndDeletes_ByButtonAndKey) {
         const auto answer = [&](int button) {
             EXPECT_TRUE(waitUntil([&] { return eyes.box() != nullptr; })) << "it asks";
             if (const HWND box = eyes.box()) {
+                input::waitUntilSettled(box);
                 Eyes::press(GetDlgItem(box, button));
                 EXPECT_TRUE(waitUntil([&] { return !IsWindow(box); }));
             }
