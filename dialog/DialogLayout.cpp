@@ -32,8 +32,8 @@ int droppedHeight(HWND combo) {
     return dropped.bottom - dropped.top;
 }
 
-// To size a combo box is to size its list as well: the height of both together. Where a system counts the field into the
-// list already, the list has room for a row more.
+// To size a combo box is to size its list as well: the height of both together. Where a system counts the field into
+// the list already, the list has room for a row more.
 int heightToSet(HWND combo) {
     const RECT field = rectIn(combo, combo);
     return droppedHeight(combo) + field.bottom - field.top;
