@@ -70,14 +70,5 @@ TEST(DropArrow, AnyResolution_IsSymmetricAndInside) {
     }
 }
 
-TEST(DropKey, OnlyMenuButtons_TakeArrowsWithoutAlt) {
-    EXPECT_TRUE(isDropKey(VK_F4, false, false));
-    EXPECT_FALSE(isDropKey(VK_F4, true, false)) << "Alt+F4 closes the dialog";
-    EXPECT_TRUE(isDropKey(VK_DOWN, true, false));
-    EXPECT_FALSE(isDropKey(VK_DOWN, false, false));
-    EXPECT_TRUE(isDropKey(VK_DOWN, false, true));
-    EXPECT_FALSE(isDropKey(VK_SPACE, false, true));
-}
-
 }  // namespace
 }  // namespace knav

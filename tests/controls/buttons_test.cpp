@@ -71,6 +71,8 @@ TEST_F(ComboButton, altDownThenEnter_choosesTheFirstEntry_unlessTheMenuWasClosed
     m_host.closingKey = VK_RETURN;
     SendMessageW(m_button, WM_SYSKEYDOWN, VK_DOWN, 0);
     EXPECT_THAT(m_host.takeCommands(), ElementsAre(Pair(static_cast<int>(kFirstCommand), 0)));
+    SendMessageW(m_button, WM_SYSKEYDOWN, VK_F4, 0);
+    EXPECT_EQ(1u, m_host.asked.size()) << "Alt+F4 closes the dialog";
     m_host.whileOpen = [&] { m_button.ClearState(); };
     m_button.DropMenu(1);
     EXPECT_THAT(m_host.takeCommands(), IsEmpty()) << "the menu was gone before the key came";

@@ -63,17 +63,6 @@ protected:
     CNavDataArray m_data;
 };
 
-TEST_F(FileNameCombo, EditAndSelection_MakeItDirtyAndStillReachTheDialog) {
-    EXPECT_FALSE(m_combo.IsFileNameComboBoxDirty());
-    m_host.takeCommands();
-    for (const UINT code : {CBN_EDITCHANGE, CBN_SELCHANGE}) {
-        m_combo.SetFileNameComboBoxDirty(0);
-        m_host.SendMessage(WM_COMMAND, MAKEWPARAM(kControlId, code), reinterpret_cast<LPARAM>(m_combo.m_hWnd));
-        EXPECT_TRUE(m_combo.IsFileNameComboBoxDirty());
-        EXPECT_EQ(m_host.takeCommands().size(), 1u);
-    }
-}
-
 TEST_F(FileNameCombo, SeveralNames_AreSplitWhereTheyAreAllowed_AndReplaceWhatIsThere) {
     m_data.AddData();
     m_combo.SetWindowText(L" \" a \" \"b\" ");

@@ -110,7 +110,7 @@ TEST_F(PlacesModel, storedOrder_resolvesEachKindOfEntry) {
         {L"PlacesOrder2Display", L"Plans"},
         {L"PlacesOrder3", L"relative"},
         {L"PlacesOrder3Display", L"dropped"},
-        {L"PlacesOrder4", L"a/b"},
+        {L"PlacesOrder4", L"a/b\\c"},
         {L"PlacesOrder4Ext", L"vault"},
         {L"PlacesOrder5", L"site\\docs"},
         {L"PlacesOrder5Ext", L"webfolders"},
@@ -121,13 +121,14 @@ TEST_F(PlacesModel, storedOrder_resolvesEachKindOfEntry) {
     };
     m_list.LoadFromOrder();
     EXPECT_THAT(m_window.names(),
-                ElementsAre(L"Desktop", L"Vault", std::wstring(folder), L"a/b", L"site\\docs", L"New"));
+                ElementsAre(L"Desktop", L"Vault", std::wstring(folder), L"a/b\\c", L"site\\docs", L"New"));
     CString desktop;
     desktop.LoadString(IDS_KNAV_DESKTOP);
     EXPECT_EQ(desktop, m_list.GetItemDisplayText(0)) << "its label comes from the resources";
     EXPECT_EQ(CString(L"My vault"), m_list.GetItemDisplayText(1));
     EXPECT_NE(nullptr, m_list.GetItemIdList(2));
-    EXPECT_EQ(CString(L"b"), m_list.GetItemDisplayText(3));
+    EXPECT_EQ(CString(L"b\\c"), m_list.GetItemDisplayText(3)) << "a slash wins over a backslash";
+    EXPECT_EQ(CString(L"docs"), m_list.GetItemDisplayText(4));
     EXPECT_EQ(CString(L"Vault"), m_list.GetItemExtensionName(3));
     EXPECT_EQ(4u, m_list.GetItemFlags(3));
     EXPECT_EQ(CString(L"WebFolders"), m_list.GetItemExtensionName(4));

@@ -48,27 +48,5 @@ TEST(DropIndex, pointer_decides) {
     EXPECT_EQ(0, insertionIndex(-500, kRowHeight, 0, kRows)) << "above the list";
 }
 
-TEST(DropIndex, rowTakenOutBefore_movesTheTarget) {
-    EXPECT_EQ(2, indexAfterRemoval(0, 3));
-    EXPECT_EQ(1, indexAfterRemoval(3, 1));
-    EXPECT_EQ(2, indexAfterRemoval(2, 2)) << "before itself";
-    EXPECT_EQ(2, indexAfterRemoval(2, 3)) << "behind itself";
-}
-
-TEST(StandardPlaces, keyword_isFoundInAnyCase) {
-    ASSERT_NE(nullptr, findStandardPlace(L"hiSTory"));
-    EXPECT_EQ(PlacesItemHistory, findStandardPlace(L"hiSTory")->type);
-    EXPECT_EQ(nullptr, findStandardPlace(L"Historyx"));
-    EXPECT_EQ(nullptr, findStandardPlace(static_cast<const wchar_t*>(nullptr)));
-    EXPECT_EQ(nullptr, findStandardPlace(PlacesItemFolder));
-}
-
-TEST(FolderLabel, lastName_slashWinsOverBackslash) {
-    EXPECT_EQ(CString(L"c"), folderLabel(L"ftp://a/b/c"));
-    EXPECT_EQ(CString(L"b\\c"), folderLabel(L"a/b\\c"));
-    EXPECT_EQ(CString(L"c"), folderLabel(L"b\\c"));
-    EXPECT_EQ(CString(L"plain"), folderLabel(L"plain"));
-}
-
 }  // namespace
 }  // namespace knav

@@ -98,15 +98,6 @@ TEST_P(Resources, MenuEntriesHaveMnemonicsOfTheirOwn) {
     }
 }
 
-TEST_P(Resources, ToolsMenuKeepsItsPositions) {
-    std::vector<UINT> ids;
-    for (const Entry& entry : popupsOf(m_module, IDR_KNAV_TOOLS_MENU).back()) {
-        ids.push_back(entry.id);
-    }
-    EXPECT_THAT(
-        ids, testing::ElementsAre(IDM_KNAV_FIND, IDM_KNAV_LOCATE, IDM_KNAV_FTP_LOCATIONS, IDM_KNAV_ADD_TO_PLACES, 0));
-}
-
 // What a menu entry promises at its right edge is what the keys do.
 std::string shownKey(const ACCEL& key) {
     const std::string text = key.fVirt & FCONTROL ? "Ctrl+" : "";
@@ -234,25 +225,6 @@ TEST_P(Resources, NoControlIsClippedOrCovered) {
     }
 }
 
-TEST_P(Resources, FindPagesFitTheirTabs) {
-    for (const int points : kPointSizes) {
-        const Dialog find(m_module, IDD_KNAV_FIND, points);
-        const HWND tabs = GetDlgItem(find.window(), IDC_KNAV_FIND_TABS);
-        TCITEMW tab{};
-        std::wstring text = m_module.text(IDS_KNAV_FIND_NAME_TAB);
-        tab.mask = TCIF_TEXT;
-        tab.pszText = text.data();
-        SendMessageW(tabs, TCM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&tab));
-        RECT room = rectIn(find.window(), tabs);
-        SendMessageW(tabs, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&room));
-        for (const UINT id : {IDD_KNAV_FIND_NAME, IDD_KNAV_FIND_DATE}) {
-            const SIZE page = Dialog(m_module, id, points).area();
-            EXPECT_LE(page.cx, room.right - room.left) << id << " at " << points;
-            EXPECT_LE(page.cy, room.bottom - room.top) << id << " at " << points;
-        }
-    }
-}
-
 // The pages of the Find dialog are on screen together with its frame.
 TEST_P(Resources, DialogMnemonicsAreUnique) {
     const std::vector<std::vector<UINT>> together{{IDD_KNAV},
@@ -274,18 +246,6 @@ TEST_P(Resources, DialogMnemonicsAreUnique) {
             }
         }
         EXPECT_FALSE(used.empty()) << ids.front();
-    }
-}
-
-// A label speaks for the control behind it, to the keyboard and to a screen reader.
-TEST_P(Resources, FieldsFollowTheirLabels) {
-    const Dialog dialog(m_module, IDD_KNAV, 9);
-    for (const auto& [label, field] : {std::pair{IDC_KNAV_LOOK_IN_LABEL, IDC_KNAV_LOOK_IN},
-                                       {IDC_KNAV_PLACES_LABEL, IDC_KNAV_PLACES},
-                                       {IDC_KNAV_VIEW_LABEL, IDC_KNAV_VIEW},
-                                       {IDC_KNAV_FILE_NAME_LABEL, IDC_KNAV_FILE_NAME},
-                                       {IDC_KNAV_FILE_TYPE_LABEL, IDC_KNAV_FILE_TYPE}}) {
-        EXPECT_EQ(GetDlgCtrlID(GetWindow(GetDlgItem(dialog.window(), label), GW_HWNDNEXT)), field);
     }
 }
 
