@@ -32,22 +32,12 @@ TEST(ButtonLook, State_ChoosesThePart) {
 }
 
 TEST(ComboButtonParts, Point_FindsThePart) {
-    const struct {
-        const char* why;
-        UINT dpi;
-        bool menu;
-        POINT at;
-        ButtonPart expected;
-    } rows[] = {
-        {"last of the text", kNormal, true, {81, 10}, ButtonPart::Main},
-        {"first of the arrow", kNormal, true, {82, 10}, ButtonPart::Menu},
-        {"the arrow grows with the screen", kDouble, true, {66, 10}, ButtonPart::Menu},
-        {"no menu", kNormal, false, {95, 10}, ButtonPart::Main},
-        {"outside", kNormal, true, {100, 10}, ButtonPart::None},
-    };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.expected, buttonPartAt({0, 0, 100, 24}, row.dpi, row.menu, row.at)) << row.why;
-    }
+    constexpr RECT button{0, 0, 100, 24};
+    EXPECT_EQ(ButtonPart::Main, buttonPartAt(button, kNormal, true, {81, 10}));
+    EXPECT_EQ(ButtonPart::Menu, buttonPartAt(button, kNormal, true, {82, 10}));
+    EXPECT_EQ(ButtonPart::Menu, buttonPartAt(button, kDouble, true, {66, 10})) << "it grows with the screen";
+    EXPECT_EQ(ButtonPart::Main, buttonPartAt(button, kNormal, false, {95, 10})) << "no menu";
+    EXPECT_EQ(ButtonPart::None, buttonPartAt(button, kNormal, true, {100, 10}));
     EXPECT_EQ(10, mainPartOf({0, 0, 20, 24}, kDouble, true).right) << "a narrow one keeps half for its text";
 }
 

@@ -91,15 +91,4 @@ TEST(ComIdentity, OutlivesAnObjectThatItsOwnerDeletes) {
     EXPECT_EQ(dispatch->Release(), 0u);
 }
 
-TEST(ComIdentity, ObjectThatLivesElsewhereSurvivesTheLastRelease) {
-    struct Member : CCmdTarget {
-        int finalReleases = 0;
-        void OnFinalRelease() override { ++finalReleases; }
-    };
-    Member member;
-    EXPECT_EQ(member.ExternalRelease(), 0u);
-    EXPECT_EQ(member.finalReleases, 1);
-    EXPECT_EQ(member.ExternalAddRef(), 2u);
-}
-
 }  // namespace

@@ -84,6 +84,15 @@ TEST(ModalDialog, DisablesItsOwnerAndPutsEverythingBack) {
     const INT_PTR result = dialog.runWith([&] {
         EXPECT_FALSE(owner.IsWindowEnabled());
         EXPECT_EQ(dialog.GetOwner(), &owner);
+        EXPECT_EQ(dialog.DoModal(), kDialogFailed) << "it runs already";
+        SampleDialog inner;  // no parent given: the active window owns it
+        inner.runWith([&] {
+            EXPECT_EQ(inner.GetOwner(), &dialog);
+            EXPECT_FALSE(dialog.IsWindowEnabled());
+            inner.EndDialog(IDOK);
+        });
+        EXPECT_TRUE(dialog.IsWindowEnabled());
+        EXPECT_FALSE(owner.IsWindowEnabled());
         dialog.PostMessage(WM_COMMAND, IDOK);
     });
     EXPECT_EQ(result, IDOK);
@@ -94,17 +103,6 @@ TEST(ModalDialog, DisablesItsOwnerAndPutsEverythingBack) {
     owner.EnableWindow(FALSE);
     EXPECT_EQ(dialog.runWith([&] { dialog.EndDialog(33); }), 33);
     EXPECT_FALSE(owner.IsWindowEnabled()) << "as it was";
-}
-
-TEST(ModalDialog, RunsAgain) {
-    SampleDialog dialog;
-    EXPECT_EQ(dialog.runWith([&] { dialog.PostMessage(WM_COMMAND, IDCANCEL); }), IDCANCEL);
-    EXPECT_EQ(dialog.runWith([&] { dialog.PostMessage(WM_CLOSE); }), IDCANCEL);
-    EXPECT_EQ(dialog.runWith([&] {
-        EXPECT_EQ(dialog.DoModal(), kDialogFailed);
-        dialog.EndDialog(IDOK);
-    }),
-              IDOK);
 }
 
 TEST(ModalDialog, WhateverGoesWrongFailsItAndLeavesTheOwnerEnabled) {
@@ -171,23 +169,6 @@ TEST(ModalDialog, KicksIdleUntilThereIsNothingToDo) {
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_THAT(counts, ElementsAre(0, 1, 2, 0));
     EXPECT_TRUE(alwaysVisible);
-}
-
-TEST(ModalDialog, OwnsTheDialogRunFromIt) {
-    OwnerWindow owner;
-    SampleDialog outer(&owner);
-    SampleDialog inner;  // no parent given: the active window owns it
-    const INT_PTR result = outer.runWith([&] {
-        inner.runWith([&] {
-            EXPECT_EQ(inner.GetOwner(), &outer);
-            EXPECT_FALSE(outer.IsWindowEnabled());
-            inner.EndDialog(IDOK);
-        });
-        EXPECT_TRUE(outer.IsWindowEnabled());
-        EXPECT_FALSE(owner.IsWindowEnabled());
-        outer.EndDialog(IDYES);
-    });
-    EXPECT_EQ(result, IDYES);
 }
 
 TEST(DialogData, MovesBetweenControlsAndMembersUnlessItIsRefused) {

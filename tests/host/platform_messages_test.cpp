@@ -53,16 +53,6 @@ TEST(CommandRouting, GoesFromTheDerivedClassToTheBase) {
     EXPECT_THAT(target.log, ElementsAre("derived 1", "base only", "selection", "range 12"));
 }
 
-TEST(CommandRouting, AskingForAHandlerDoesNotRunIt) {
-    DerivedTarget target;
-    AFX_CMDHANDLERINFO info;
-    EXPECT_FALSE(target.OnCmdMsg(99, CN_COMMAND, nullptr, &info));
-    EXPECT_EQ(info.pTarget, nullptr);
-    EXPECT_TRUE(target.OnCmdMsg(2, CN_COMMAND, nullptr, &info));
-    EXPECT_EQ(info.pTarget, &target);
-    EXPECT_TRUE(target.log.empty());
-}
-
 // A parent that logs what reaches it.
 class Parent : public CWnd {
 public:
@@ -164,23 +154,6 @@ TEST(Reflection, ChildTakesTheNotificationBeforeItsParentOrDeclinesIt) {
         NMHDR header{edit.m_hWnd, 5, static_cast<UINT>(NM_CLICK)};
         EXPECT_EQ(parent.SendMessage(WM_NOTIFY, 5, reinterpret_cast<LPARAM>(&header)), 7);
         EXPECT_EQ(parent.log, take ? (Log{"own change", "notify"}) : (Log{"own change", "change", "notify"}));
-    }
-}
-
-TEST(Descendants, AllHearABroadcastAndNobodyElse) {
-    Parent parent;
-    Parent other;
-    CWnd child;
-    CEdit grandchild;
-    child.Create(nullptr, L"", 0, kPlace, &parent, 1);
-    grandchild.Create(0, kPlace, &child, 1);
-    parent.SendMessageToDescendants(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"heard"));
-    const std::pair<const CWnd*, const wchar_t*> rows[] = {
-        {&child, L"heard"}, {&grandchild, L"heard"}, {&parent, L"parent"}, {&other, L"parent"}};
-    for (const auto& [window, expected] : rows) {
-        CString text;
-        window->GetWindowText(text);
-        EXPECT_STREQ(text, expected);
     }
 }
 

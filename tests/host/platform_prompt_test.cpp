@@ -62,17 +62,10 @@ struct BoxWatcher {
 };
 
 TEST(Prompt, MessageBoxStandsInTheMiddleOfItsOwnerButOnTheScreen) {
-    struct Row {
-        const char* why;
-        int x, y;
-        bool middle;
-    };
-    constexpr Row rows[] = {{"a window away from the middle of the screen", 40, 60, true},
-                            {"a window that is partly off the screen", -550, 60, false}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.why);
-        const HWND owner = CreateWindowExW(0, L"#32770", L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, row.x, row.y, 600,
-                                           300, nullptr, nullptr, nullptr, nullptr);
+    for (const bool onScreen : {true, false}) {
+        SCOPED_TRACE(onScreen ? "away from the middle of the screen" : "partly off the screen");
+        const HWND owner = CreateWindowExW(0, L"#32770", L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                                           onScreen ? 40 : -550, 60, 600, 300, nullptr, nullptr, nullptr, nullptr);
         BoxWatcher watcher{owner};
         SetTimer(owner, reinterpret_cast<UINT_PTR>(&watcher), 20, &BoxWatcher::look);
         EXPECT_EQ(ZoMessageBox(owner, L"Done", L"Caption", MB_OK), IDOK);
@@ -82,7 +75,7 @@ TEST(Prompt, MessageBoxStandsInTheMiddleOfItsOwnerButOnTheScreen) {
         const LONG middle = (watcher.box.left + watcher.box.right) / 2;
         EXPECT_GE(watcher.box.left, 0);
         EXPECT_GT(watcher.box.right, watcher.box.left);
-        if (row.middle) {
+        if (onScreen) {
             EXPECT_NEAR(middle, (place.left + place.right) / 2, 1);
             EXPECT_NEAR((watcher.box.top + watcher.box.bottom) / 2, (place.top + place.bottom) / 2, 1);
         }

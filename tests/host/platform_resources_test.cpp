@@ -1,5 +1,4 @@
-// The chain of resource modules, and menus.
-#include <platform/CMenu.h>
+// The chain of resource modules.
 #include <platform/Resources.h>
 #include <ry/RyUtResource.h>
 
@@ -67,33 +66,6 @@ TEST(ResourceChain, SearchesCurrentThenNewestExtensionFirst) {
     EXPECT_STREQ(load(kString), L"");
     FreeLibrary(newer);
     RyUtResource::freeDll(old);
-}
-
-TEST(Menu, OwnsWhatItHoldsAndNotItsParts) {
-    const HMENU menu = CreatePopupMenu();
-    AppendMenuW(menu, MF_STRING, 1, L"&One");
-    AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(CreatePopupMenu()), L"Sub");
-    {
-        CMenu owner;
-        owner.Attach(menu);
-        CMenu* const part = owner.GetSubMenu(1);
-        ASSERT_NE(part, nullptr);
-        EXPECT_EQ(part, owner.GetSubMenu(1));
-        EXPECT_EQ(owner.GetSubMenu(0), nullptr);
-        EXPECT_EQ(owner.GetMenuItemID(1), static_cast<UINT>(-1));
-        CString text;
-        EXPECT_EQ(owner.GetMenuString(1, text, MF_BYCOMMAND), 4);
-        EXPECT_STREQ(text, L"&One");
-        EXPECT_EQ(owner.EnableMenuItem(99, MF_BYCOMMAND | MF_GRAYED), static_cast<UINT>(-1));
-        EXPECT_TRUE(owner.DeleteMenu(1, MF_BYPOSITION));
-        EXPECT_FALSE(owner.DeleteMenu(99, MF_BYCOMMAND));
-        EXPECT_EQ(owner.GetMenuItemCount(), 1);
-        EXPECT_EQ(owner.Detach(), menu);
-        EXPECT_FALSE(owner.DestroyMenu());
-    }
-    EXPECT_TRUE(IsMenu(menu));
-    CMenu().Attach(menu);
-    EXPECT_FALSE(IsMenu(menu));
 }
 
 }  // namespace

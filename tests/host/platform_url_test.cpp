@@ -51,15 +51,4 @@ TEST(ParseUrl, GivesThePartsAsWrittenAndLeavesTheResultsForWhatIsNoUrl) {
     }
 }
 
-TEST(ParseUrl, AcceptsLocalFiles) {
-    DWORD service = 0;
-    CString server;
-    CString object;
-    WORD port = 0;
-    EXPECT_TRUE(AfxParseURL(L"file:///C:/plans/a.dwg", service, server, object, port));
-    EXPECT_EQ(service, AFX_INET_SERVICE_FILE);
-    EXPECT_TRUE(server.IsEmpty());
-    EXPECT_NE(object.Find(L"plans"), -1);
-}
-
 }  // namespace

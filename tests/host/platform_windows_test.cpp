@@ -1,6 +1,5 @@
 // Which of a window and its object may end first, and what is left of the other then.
 #include <platform/CEdit.h>
-#include <platform/CStatic.h>
 
 #include <gtest/gtest.h>
 
@@ -33,7 +32,6 @@ class Probe : public CWnd {
 public:
     std::function<void()> action = [] {};
     int ended = 0;
-    UINT firstMessage = WM_NULL;
 
     LRESULT onAction(WPARAM, LPARAM) {
         const auto run = action;  // a copy: it may delete this object
@@ -42,10 +40,6 @@ public:
     }
 
 protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        firstMessage = firstMessage == WM_NULL ? message : firstMessage;
-        return CWnd::WindowProc(message, wParam, lParam);
-    }
     void PostNcDestroy() override { ++ended; }
     DECLARE_MESSAGE_MAP()
 };
@@ -140,17 +134,6 @@ TEST(WindowLifetime, RefusedCreationEndsASelfDeletingObjectOnce) {
     int deleted = 0;
     EXPECT_FALSE(createPopup(*new SelfDeleting(deleted)));
     EXPECT_EQ(deleted, 1);
-}
-
-TEST(WindowCreation, ObjectHearsTheFirstMessageOfASystemClass) {
-    CWnd parent;
-    createPopup(parent);
-    Probe probe;
-    ASSERT_TRUE(probe.CreateEx(0, WC_COMBOBOXW, nullptr, WS_CHILD | CBS_DROPDOWN, kPlace, &parent, 3));
-    EXPECT_EQ(probe.firstMessage, UINT{WM_NCCREATE});
-    EXPECT_EQ(probe.GetDlgCtrlID(), 3);
-    // The edit field inside the combo box is not the object's window.
-    EXPECT_EQ(CWnd::FromHandlePermanent(::GetWindow(probe, GW_CHILD)), nullptr);
 }
 
 TEST(Subclassing, IsRefusedForTakenDeadAndForeignWindows) {

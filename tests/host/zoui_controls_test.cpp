@@ -1,11 +1,7 @@
-#include <platform/Resources.h>
-#include <ry/RyUtResource.h>
 #include <zoui/CZoUiListBox.h>
-#include <zoui/CZoUiRm.h>
 
 #include <gtest/gtest.h>
 
-#include "support/ObjectCounts.h"
 #include "support/Printers.h"
 
 namespace {
@@ -70,30 +66,6 @@ TEST(ZoUiListBox, TipFollowsThePointerFromRowToRow) {
     list.moveTo(150);
     toolOf(list, text);
     EXPECT_STREQ(text, L"") << "below the last row";
-}
-
-SIZE sizeOf(HICON icon) {
-    ICONINFO parts{};
-    GetIconInfo(icon, &parts);
-    const zoui::UniqueBitmap mask(parts.hbmMask);
-    const zoui::UniqueBitmap colour(parts.hbmColor);
-    BITMAP bitmap{};
-    GetObjectW(colour.get(), sizeof(bitmap), &bitmap);
-    return {bitmap.bmWidth, bitmap.bmHeight};
-}
-
-TEST(ResourcePictures, IconsAreFoundByNameInTheResourceModules) {
-    const HINSTANCE module = RyUtResource::loadDll(L"KnavRes.dll");
-    ASSERT_NE(module, nullptr);
-    EXPECT_EQ(CZoUiRm::Icon(L"IDB_KNAV_NEW_FTP_16"), nullptr) << "not in this program";
-    {
-        const CDynLinkLibrary link(module);
-        EXPECT_NE(CZoUiRm::Icon(L"idb_knav_new_ftp_16"), nullptr);
-        EXPECT_EQ(sizeOf(CZoUiRm::Icon(L"IDB_KNAV_NEW_FTP_16", 24).get()).cx, 24);
-        EXPECT_EQ(CZoUiRm::Icon(L"IDB_NONE"), nullptr);
-        EXPECT_EQ(knav::test::growthOver(20, [] { CZoUiRm::Icon(L"IDB_KNAV_NEW_FTP_16", 32); }).gdi, 0);
-    }
-    RyUtResource::freeDll(module);
 }
 
 }  // namespace

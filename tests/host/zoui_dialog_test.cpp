@@ -141,18 +141,18 @@ TEST_F(DialogPlaceTest, StoredPlaceIsFittedAndASenselessOneIgnored) {
 class NotifiedDialog : public CZoUiDialog {
 public:
     NotifiedDialog() : CZoUiDialog(0) { CreateIndirect(m_template.get()); }
-    ZOUI_REPLY OnNotifyControlChange(unsigned int id, __int64 code) override { return note(id, code); }
-    ZOUI_REPLY OnNotifyGeneric(unsigned int code, __int64 parameter) override { return note(code, parameter); }
+    ZOUI_REPLY OnNotifyControlChange(unsigned int id, __int64 code) override {
+        m_notes.emplace_back(id, code);
+        return m_reply;
+    }
+    ZOUI_REPLY OnNotifyGeneric(unsigned int code, __int64 parameter) override {
+        return OnNotifyControlChange(code, parameter);
+    }
 
     std::vector<std::pair<unsigned int, __int64>> m_notes;
     ZOUI_REPLY m_reply = ZOUI_REPLY_NOT_HANDLED;
 
 private:
-    ZOUI_REPLY note(unsigned int code, __int64 parameter) {
-        m_notes.emplace_back(code, parameter);
-        return m_reply;
-    }
-
     const DialogTemplate m_template{L"Notified"};
 };
 

@@ -52,7 +52,6 @@ struct ParseRow {
 
 constexpr ParseRow kGoodRows[] = {
     {"file", L"{T}\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", true},
-    {"folder", L"{T}\\sub", false, Type::Directory, L"{T}\\sub", true},
     {"a trailing separator stays", L"{T}\\sub\\", false, Type::Directory, L"{T}\\sub\\", true},
     {"relative to the current directory", L"plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", false},
     {"slashes", L"sub/deep/a.b.txt", false, Type::ExistingFile, L"{T}\\sub\\deep\\a.b.txt", false},
@@ -63,8 +62,7 @@ constexpr ParseRow kGoodRows[] = {
      false},
     {"dots stop at the root", L"C:\\..\\..\\windows", false, Type::Directory, L"C:\\windows", true},
     {"blanks and dots at the end of a name go", L"plan.dwg. .", false, Type::ExistingFile, L"{T}\\plan.dwg", false},
-    {"but blanks and dots inside stay", L"a . b..c", false, Type::NewFile, L"{T}\\a . b..c", false},
-    {"a name that begins with a dot", L".config", false, Type::NewFile, L"{T}\\.config", false},
+    {"but those before and inside stay", L".a . b..c", false, Type::NewFile, L"{T}\\.a . b..c", false},
     {"root of the drive", L"{ROOTLESS}\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", true},
     {"drive root", L"c:/", false, Type::Directory, L"C:\\", true},
     {"drive-relative", L"C:plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", true},
@@ -245,25 +243,6 @@ TEST_F(PathnameTest, ChangesKeepPathAndTypeTogether) {
     path.Parse(L"*", true);
     EXPECT_EQ(path.Exists(), 0);
     EXPECT_EQ(CZoUiPathname().Exists(), 0);
-}
-
-TEST_F(PathnameTest, AssignmentGoesThroughTheVirtualCopy) {
-    struct Counting : CZoUiPathname {
-        using CZoUiPathname::operator=;
-        void AssignCopy(const CZoUiPathname& other) override {
-            ++m_copies;
-            CZoUiPathname::AssignCopy(other);
-        }
-        int m_copies = 0;
-    };
-    CZoUiPathname source;
-    source.Parse(L"plan.dwg", false);
-    Counting target;
-    static_cast<CZoUiPathname&>(target) = source;
-    EXPECT_EQ(target.m_copies, 1);
-    EXPECT_EQ(fullPath(target), fullPath(source));
-    EXPECT_EQ(target.GetType(), source.GetType());
-    EXPECT_EQ(target.WasAbsolute(), source.WasAbsolute());
 }
 
 }  // namespace

@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "support/DialogDriver.h"
 #include "support/Printers.h"
 #include "support/ScriptedPrompts.h"
 
-using knav::test::DialogDriver;
 using knav::test::ScriptedPrompts;
 
 namespace {
@@ -70,14 +68,6 @@ TEST(TaskDialog, StandardDialogsAreFilledIn) {
         EXPECT_GE((shown.instruction + shown.content).Find(row.inText), 0)
             << "values stand as they are: " << knav::test::utf8(shown.content.view());
         EXPECT_EQ(shown.buttons, TDCBF_OK_BUTTON);
-
-        ScriptedPrompts prompts;
-        prompts.answer(IDOK);
-        dialog.ShowDialog(nullptr);
-        ASSERT_EQ(prompts.seen().size(), 1u);
-        EXPECT_EQ(prompts.seen()[0].name, row.name);
-        EXPECT_EQ(prompts.seen()[0].arguments.size(), row.pairs.size());
-        EXPECT_EQ(prompts.seen()[0].arguments[0].second, row.pairs[0].value);
     }
 }
 
@@ -146,15 +136,6 @@ TEST(TaskDialog, DamagedTextIsRefusedAsAWhole) {
     for (const std::string_view whole : wholes) {
         EXPECT_FALSE(dialog.LoadFromText(whole, L"A", nullptr, 0)) << whole;
     }
-}
-
-TEST(TaskDialog, WithoutAHandlerTheRealDialogAsks) {
-    ZoTaskDialog dialog;
-    ASSERT_TRUE(loadText(
-        dialog, "<TaskDialog Name='A' Buttons='Yes No'><MainInstruction>x</MainInstruction></TaskDialog>", L"A"));
-    DialogDriver driver;
-    driver.click(IDNO);
-    EXPECT_EQ(driver.run([&] { return dialog.ShowDialog(nullptr); }), IDNO);
 }
 
 }  // namespace

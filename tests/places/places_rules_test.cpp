@@ -17,25 +17,17 @@ TEST(PlacesMeasures, resolution_scalesAndRounds_andPicturesAreCentred) {
 }
 
 TEST(ShortenedLabel, room_decides) {
-    const struct {
-        const char* why;
-        const wchar_t* text;
-        int available;  // every character is 10 wide, the margin is 5
-        bool shortened;
-        const wchar_t* expected;
-    } rows[] = {
-        {"fits exactly", L"Documents", 100, false, L"Documents"},
-        {"one too many costs four", L"Documents", 99, true, L"Docum..."},
-        {"hardly any room", L"Documents", 40, true, L"..."},
-        {"no room at all", L"Documents", 0, true, L"..."},
-        {"nothing to shorten", L"", 0, false, L""},
+    const auto shortenedTo = [](int available, CString text = L"Documents") {
+        const CString before = text;
+        const auto widthOf = [](const CString& part) { return part.GetLength() * 10; };
+        EXPECT_EQ(shortenLabel(text, available, 5, widthOf), text != before);
+        return text;
     };
-    const auto widthOf = [](const CString& part) { return part.GetLength() * 10; };
-    for (const auto& row : rows) {
-        CString text(row.text);
-        EXPECT_EQ(row.shortened, shortenLabel(text, row.available, 5, widthOf)) << row.why;
-        EXPECT_EQ(CString(row.expected), text) << row.why;
-    }
+    EXPECT_EQ(CString(L"Documents"), shortenedTo(100)) << "fits exactly";
+    EXPECT_EQ(CString(L"Docum..."), shortenedTo(99)) << "one too many costs four";
+    EXPECT_EQ(CString(L"..."), shortenedTo(40)) << "hardly any room";
+    EXPECT_EQ(CString(L"..."), shortenedTo(0));
+    EXPECT_EQ(CString(), shortenedTo(0, L"")) << "nothing to shorten";
 }
 
 TEST(DropIndex, pointer_decides) {
