@@ -20,7 +20,8 @@ TEST(ShortenedLabel, room_decides) {
     const auto shortenedTo = [](int available, CString text = L"Documents") {
         const CString before = text;
         const auto widthOf = [](const CString& part) { return part.GetLength() * 10; };
-        EXPECT_EQ(shortenLabel(text, available, 5, widthOf), text != before);
+        const bool shortened = shortenLabel(text, available, 5, widthOf);
+        EXPECT_EQ(shortened, text != before);
         return text;
     };
     EXPECT_EQ(CString(L"Documents"), shortenedTo(100)) << "fits exactly";
