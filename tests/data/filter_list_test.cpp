@@ -35,44 +35,6 @@ Strings describe(const CNavFilterArray& filters) {
     return all;
 }
 
-const std::wstring k518(518, L'p');
-const std::wstring k530(530, L'p');
-const std::wstring k600(600, L'd');
-
-TEST(CNavFilterArray, ReadsListTexts) {
-    struct ListRow {
-        const char* why;
-        std::wstring list;
-        Strings filters;  // description|pattern|pattern
-    };
-    const ListRow rows[] = {
-        {"two pairs; *.* means no patterns",
-         L"Text (*.txt)|*.txt|All files|*.*|",
-         {L"Text (*.txt)|*.txt", L"All files"}},
-        {"a blank belongs to its pattern", L"Text|*.txt; *.log |", {L"Text|*.txt| *.log "}},
-        {"a separator at the end makes an empty pattern", L"Text|*.txt;|", {L"Text|*.txt|"}},
-        {"*.* among others is a pattern", L"All|*.*;*.txt|", {L"All|*.*|*.txt"}},
-        {"an empty list", L"|", {L""}},
-        {"a description alone ends the list", L"Text||", {L"Text"}},
-        {"one more is cut off", L"D|" + k518 + L"p|E|*.e|", {L"D|" + k518}},
-        {"what follows the cut is the next pair",
-         L"D|" + k530 + L"|E|*.e|",
-         {L"D|" + k518, k530.substr(519) + L"|E", L"*.e"}},
-        {"a cut description has no patterns", k600 + L"|*.d|E|*.e|", {k600, k600.substr(521) + L"|*.d", L"E|*.e"}},
-    };
-    for (const ListRow& row : rows) {
-        SCOPED_TRACE(row.why);
-        CNavFilterArray filters;
-        filters.AddData();
-        filters[0]->SetDescription(L"from before");
-        filters.SetFrom(listText(row.list).c_str(), 0);
-        EXPECT_EQ(describe(filters), row.filters);
-        for (int i = 0; i < filters.GetCount(); ++i) {
-            EXPECT_EQ(filters[i]->GetTagIndex(), i + 1);
-        }
-    }
-}
-
 TEST(CNavFilterArray, MayReadATextOfItsOwn) {
     CNavFilterArray filters;
     const std::wstring text = listText(L"Text|*.txt|");
@@ -229,6 +191,7 @@ TEST(CNavFilterArrayFuzz, ReadsAnyListWithinItsBounds) {
             at += pair.consumed;
             ASSERT_TRUE(isEqual(filter, pair)) << knav::test::utf8(list);
             ASSERT_TRUE(index < filters.GetCount() && isEqual(*filters[index], pair)) << knav::test::utf8(list);
+            ASSERT_EQ(filters[index]->GetTagIndex(), index + 1);
             ASSERT_EQ(next, list[at] != L'\0' ? from + pair.consumed : nullptr) << knav::test::utf8(list);
         }
         ASSERT_EQ(index, filters.GetCount()) << knav::test::utf8(list);

@@ -2,7 +2,8 @@
 #include <knav/CNavPathname.h>
 #include <knav/NavUrl.h>
 
-#include "data/Scrambler.h"
+#include <random>
+
 #include "data/SiteHierarchy.h"
 #include "shell/SiteLocation.h"
 #include "shell/TextRules.h"
@@ -12,9 +13,37 @@
 namespace {
 
 using knav::test::AllocationSpy;
-using knav::test::Scrambler;
 using knav::test::SiteHierarchy;
 using knav::test::utf8;
+
+// Makes texts that look a little like locations.
+class Scrambler {
+public:
+    explicit Scrambler(unsigned seed) : m_random(seed) {}
+
+    std::wstring text(std::size_t longest) {
+        constexpr std::wstring_view letters = L"abx:/\\/\\..  *?\"%~\u00C4\xD83D\xFFFF\x1";
+        std::wstring made;
+        for (std::size_t length = pick(longest + 1); made.size() < length;) {
+            switch (pick(12)) {
+                case 0:
+                    made += L"ftp://";
+                    break;
+                case 1:
+                    made += L"/..";
+                    break;
+                default:
+                    made += letters[pick(letters.size())];
+            }
+        }
+        return made;
+    }
+
+private:
+    std::size_t pick(std::size_t count) { return m_random() % count; }
+
+    std::mt19937 m_random;
+};
 
 constexpr int kRounds = 1'000'000;
 
@@ -38,6 +67,8 @@ TEST(HostileText, UrlsAreToldAndDecoded) {
         const bool isDecoded = NavDecodeURL(text, decoded) != 0;
         const bool isUrl = NavIsURL(text) != 0;
         ASSERT_TRUE(isDecoded ? isUrl && decoded.GetLength() < MAX_PATH : decoded == text) << utf8(text.view());
+        CString inPlace = text;
+        ASSERT_TRUE((NavDecodeURL(inPlace, inPlace) != 0) == isDecoded && inPlace == decoded) << utf8(text.view());
         ASSERT_TRUE(!isUrl || text.Find(L':') > 0) << utf8(text.view());
         ASSERT_TRUE(!isUrl || !NavIsUNCPath(text));
         urls += isUrl;

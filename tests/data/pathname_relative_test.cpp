@@ -53,6 +53,7 @@ TEST(CNavPathnameRelative, TakesAbsolutePathsInOrdinaryFolders) {
     };
     CNavPathname base;
     base.Parse(temp.path(), false);
+    SiteHierarchy hierarchy(NavNodeExtensionRoot);
     for (const Row& row : rows) {
         SCOPED_TRACE(row.why);
         for (CNavNode* const node : {&ordinary, static_cast<CNavNode*>(nullptr)}) {
@@ -62,6 +63,13 @@ TEST(CNavPathnameRelative, TakesAbsolutePathsInOrdinaryFolders) {
             EXPECT_FALSE(pathname.GetIsURL() || pathname.GetIsExtension());
         }
     }
+    for (CNavNode* const node : {&hierarchy.item, &hierarchy.root}) {
+        CNavPathname pathname;
+        EXPECT_EQ(pathname.ParseRelative(rows[0].text, nullptr, node, 1), PathErr::None) << "it leaves the site";
+        EXPECT_FALSE(pathname.GetIsExtension());
+        EXPECT_EQ(fullPath(pathname), rows[0].text);
+    }
+    EXPECT_EQ(hierarchy.siteFolder->lastParsed(), L"");
     EXPECT_EQ(CNavPathname().ParseRelative(nullptr, nullptr, nullptr, 1), PathErr::NotFileSystem);
 }
 
@@ -140,20 +148,6 @@ TEST(CNavPathnameRelative, AsksTheSitesFolderWhatAnItemIs) {
         }
         EXPECT_EQ(AllocationSpy::live(), before) << "the list goes with the path name";
     }
-}
-
-TEST(CNavPathnameRelative, LeavesASiteByAnAbsolutePath) {
-    const ScopedTempFolder temp;
-    const CString file = temp.addFile(L"a.txt");
-    SiteHierarchy hierarchy(NavNodeExtensionRoot);
-    for (CNavNode* const node : {&hierarchy.item, &hierarchy.root}) {
-        CNavPathname pathname;
-        EXPECT_EQ(pathname.ParseRelative(file, nullptr, node, 1), PathErr::None);
-        EXPECT_FALSE(pathname.GetIsExtension());
-        EXPECT_EQ(pathname.GetType(), CZoUiPathname::ExistingFile);
-        EXPECT_EQ(fullPath(pathname), file);
-    }
-    EXPECT_EQ(hierarchy.siteFolder->lastParsed(), L"");
 }
 
 TEST(CNavPathnameRelative, DecodesLocationsInWebFolders) {

@@ -268,40 +268,6 @@ TEST(CNavPathname, TakesItemsOfExtensionsAndSitesAsTheyAre) {
     }
 }
 
-TEST(CNavPathname, ParsesOtherItemsByTheirName) {
-    const ScopedTempFolder temp;
-    const CString file = temp.addFile(L"a.lnk");
-    const ItemList item = FakeFolder::item(L"a.lnk");
-    const ItemList parent = FakeFolder::item(L"folder");
-    const ItemList joined = ItemList::join(parent.get(), item.get());
-    const auto folder = FakeFolder::make(L"");
-    folder->add(L"a.lnk", SFGAO_LINK | SFGAO_FILESYSTEM);
-    struct Row {
-        const char* why;
-        ITEMIDLIST* item;
-        IShellFolder* folder;
-        ITEMIDLIST* parent;
-        CString name;
-        PathErr result;
-        bool isShortCut;
-    };
-    const Row rows[] = {
-        {"its folder knows it", item.get(), folder.get(), nullptr, file, PathErr::None, true},
-        {"by its own element", joined.get(), folder.get(), parent.get(), file, PathErr::None, true},
-        {"without a folder", item.get(), nullptr, nullptr, file, PathErr::None, false},
-        {"no path", item.get(), folder.get(), nullptr, L"http://host/a", PathErr::NotFileSystem, false},
-        {"nothing", nullptr, nullptr, nullptr, L"", PathErr::Empty, false},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.why);
-        CNavPathname pathname;
-        CString name = row.name;
-        EXPECT_EQ(pathname.Parse(row.item, row.folder, row.parent, name), row.result);
-        EXPECT_EQ(pathname.isShortCut(), row.isShortCut);
-        EXPECT_EQ(pathname.GetType() == CZoUiPathname::ExistingFile, row.result == PathErr::None);
-    }
-}
-
 class ExtractingPathname : public CNavPathname {
 public:
     using CNavPathname::ExtractString;
