@@ -166,18 +166,6 @@ TEST_F(Extensions, CompareByNamesOfTheirOwn) {
     EXPECT_EQ(folder->calls(FolderCall::CompareIDs), 1) << "a root that no extension matches is an ordinary item";
 }
 
-TEST_F(Extensions, RootIsNamedByItsTextOrElseByItself) {
-    CString name;
-    EXPECT_TRUE(NavGetItemDisplayName(SHGDN_NORMAL, nullptr, m_foo.GetID(), name));
-    EXPECT_EQ(name, L"root");
-    EXPECT_EQ(m_root->references(), m_references);
-    m_foo.SetRootFolderDisplayName(L"Foo sites");
-    EXPECT_TRUE(NavGetItemNameInFolder(nullptr, m_foo.GetID(), name));
-    EXPECT_EQ(name, L"Foo sites");
-    EXPECT_FALSE(NavGetItemDisplayName(SHGDN_NORMAL, nullptr, textList({L"Extension-None"_z}).get(), name));
-    EXPECT_TRUE(name.IsEmpty());
-}
-
 TEST_F(Extensions, NamesInsideAreParsedBehindTheirScheme) {
     const ItemList expected = item(L"site/plan");
     for (const wchar_t* const path : {L"site/plan", L"foo://site/plan"}) {

@@ -34,28 +34,6 @@ TEST_F(LinkedNodes, ChildrenGoToTheDeepestFirstChildAndSiblingsToTheEnd) {
     EXPECT_EQ(CNavNode::EnumerateNextNode(nullptr), nullptr);
 }
 
-TEST_F(LinkedNodes, SiteIsTheNearestNodeOfItsKind) {
-    struct Row {
-        const char* why;
-        NavNodeType top, middle, bottom;
-        CNavNode* site;
-    };
-    const Row rows[] = {
-        {"ordinary items have none", NavNodeInternetSite, NavNodeShell, NavNodeShell, nullptr},
-        {"a site is its own", NavNodeShell, NavNodeShell, NavNodeInternetSite, m_c},
-        {"an item below a site", NavNodeInternetRoot, NavNodeInternetSite, NavNodeInternetItem, m_b},
-        {"an item deeper below a site", NavNodeExtensionSite, NavNodeExtensionItem, NavNodeExtensionItem, &m_a},
-        {"a root has none", NavNodeShell, NavNodeShell, NavNodeWebFoldersRoot, nullptr},
-        {"an item without a site", NavNodeShell, NavNodeShell, NavNodeWebFolderItem, nullptr},
-    };
-    for (const Row& row : rows) {
-        m_a.SetType(row.top);
-        m_b->SetType(row.middle);
-        m_c->SetType(row.bottom);
-        EXPECT_EQ(m_c->GetSiteNode(), row.site) << row.why;
-    }
-}
-
 struct Flag {
     const char* name;
     DWORD shell;
@@ -146,22 +124,6 @@ TEST_F(NavNode, NameOfAnExtensionRootIsThatOfItsFolder) {
     deferred->SetExtensionName(L"foo");
     EXPECT_TRUE(deferred->GetNameInFolder(name));
     EXPECT_EQ(name, L"Foo sites");
-}
-
-TEST_F(NavNode, FtpIsAskedOfTheRegisteredExtension) {
-    CNavNode node(m_shell);
-    node.SetExtensionName(L"ftpsites");
-    EXPECT_FALSE(node.IsFTP()) << "no such extension";
-    RegisteredForTest registered;
-    CNavExtension& ftp = registered.add(L"FTPSites");
-    registered.add(L"Other");
-    EXPECT_TRUE(node.IsFTP());
-    EXPECT_TRUE(node.IsFTPRoot());
-    EXPECT_EQ(node.GetExtension(), &ftp);
-    node.SetExtensionName(L"Other");
-    EXPECT_FALSE(node.IsFTP());
-    node.SetExtensionName(nullptr);
-    EXPECT_EQ(node.GetExtension(), nullptr);
 }
 
 TEST_F(NavNode, InitializeForgetsWithoutFreeing) {

@@ -79,6 +79,7 @@ TEST_F(NavNode, InternetRootIsShownOnTheDesktopAndPresentedByTheNetwork) {
     CNavNode* const network = internet->GetNext();
     ASSERT_NE(network, nullptr);
     EXPECT_TRUE(NavIsInternetRoot(internet->GetID()));
+    EXPECT_FALSE(NavIsInternetSiteItem(internet->GetID())) << "the root itself is no site";
     EXPECT_TRUE(NavIsNetwork(network->GetID()));
     EXPECT_EQ(internet->GetDisplayNode(), network);
     EXPECT_EQ(network->GetNext(), nullptr);
@@ -88,6 +89,9 @@ TEST_F(NavNode, InternetRootIsShownOnTheDesktopAndPresentedByTheNetwork) {
     EXPECT_EQ(elsewhere->GetChild()->GetNext(), nullptr) << "only the desktop shows the internet root";
     EXPECT_TRUE(NavIsNetwork(elsewhere->GetChild()->GetID()));
     EXPECT_EQ(elsewhere->GetChild()->GetDisplayNode(), nullptr);
+    const CNavNode* const inChain = elsewhere->ExpandNode(internet->GetID(), nullptr);
+    ASSERT_NE(inChain, nullptr);
+    EXPECT_EQ(inChain->GetType(), NavNodeInternetRoot);
 
     const auto file = FakeFolder::make(L"desktop");
     file->add(nameLike(CSIDL_INTERNET), 0);
@@ -96,40 +100,18 @@ TEST_F(NavNode, InternetRootIsShownOnTheDesktopAndPresentedByTheNetwork) {
     EXPECT_EQ(shallow->GetChild(), nullptr) << "only folders were wanted";
 }
 
-TEST_F(NavNode, ChainBelowTheInternetRootHasItsTypes) {
-    const auto site = FakeFolder::make(L"site");
-    const auto internet = FakeFolder::make(L"internet");
-    const auto folder = FakeFolder::make(L"desktop");
-    site->add(L"page", 0);
-    internet->add(L"site", SFGAO_FOLDER, site);
-    folder->add(nameLike(CSIDL_INTERNET), SFGAO_FOLDER, internet);
-    const auto node = nodeOver(folder);
-    const ItemList list = FakeFolder::item(nameLike(CSIDL_INTERNET) + L"/site/page");
-    CNavNode* const page = node->ExpandNode(list.get(), nullptr);
-    ASSERT_NE(page, nullptr);
-    EXPECT_EQ(page->GetType(), NavNodeInternetItem);
-    EXPECT_EQ(page->GetSiteNode(), page->GetParent());
-    EXPECT_EQ(page->GetParent()->GetParent()->GetType(), NavNodeInternetRoot);
-    EXPECT_TRUE(NavIsInternetSiteItem(list.get()));
-    EXPECT_FALSE(NavIsInternetSiteItem(ItemList::firstOf(list.get()).get())) << "the root itself is no site";
-}
-
 TEST_F(NavNode, WebFoldersAreKnownByTheirClassInMyComputer) {
     constexpr BYTE element[] = {0x2E, 0x00, 0x00, 0xDF, 0xEA, 0xBD, 0x65, 0xC2, 0xD0,
                                 0x11, 0xBC, 0xED, 0x00, 0xA0, 0xC9, 0x0A, 0xB5, 0x0F};
     const std::wstring name(reinterpret_cast<const wchar_t*>(element), sizeof element / sizeof(wchar_t));
-    const auto web = FakeFolder::make(L"web");
     const auto drives = FakeFolder::make(L"drives");
-    web->add(L"site", SFGAO_FOLDER, FakeFolder::make(L"site"));
-    drives->add(name, SFGAO_FOLDER, web).add(L"virtual", SFGAO_FOLDER, FakeFolder::make(L"virtual"));
+    drives->add(name, SFGAO_FOLDER, FakeFolder::make(L"web"))
+        .add(L"virtual", SFGAO_FOLDER, FakeFolder::make(L"virtual"));
     const auto node = nodeOver(drives, NavNodeShell, ItemList::adopt(NavGetDrivesFolderItem(nullptr)));
     ASSERT_TRUE(node->ExpandFolder(nullptr, 1, SHCONTF_FOLDERS));
     ASSERT_NE(node->GetChild(), nullptr);
     EXPECT_EQ(node->GetChild()->GetType(), NavNodeWebFoldersRoot);
     EXPECT_EQ(node->GetChild()->GetNext(), nullptr);
-    CNavNode* const site = node->ExpandNode(FakeFolder::item(name + L"/site").get(), nullptr);
-    ASSERT_NE(site, nullptr);
-    EXPECT_EQ(site->GetType(), NavNodeWebFolderSite);
     EXPECT_FALSE(NavIsWebFoldersItem(node->GetID()));
 }
 

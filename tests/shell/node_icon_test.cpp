@@ -80,6 +80,9 @@ TEST_F(NodeIcon, OfAnOrdinaryItemIsTheShells) {
     item.SetExtensionName(L"FTPSites");
     item.SetIcon();
     EXPECT_NE(item.GetIcon(), nullptr) << "the closed folder";
+    EXPECT_TRUE(item.IsFTP() && item.IsFTPRoot());
+    item.SetExtensionName(L"no such extension");
+    EXPECT_FALSE(item.IsFTP());
 }
 
 }  // namespace

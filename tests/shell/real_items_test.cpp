@@ -78,12 +78,6 @@ TEST_F(RealItems, HaveTheNamesThatTheirFoldersGive) {
         EXPECT_TRUE(NavGetItemNameForParsing(nullptr, item.list.get(), name));
         EXPECT_STREQ(name, absolute);
         CoTaskMemFree(absolute);
-        wchar_t path[MAX_PATH] = L"";
-        if (item.path.Find(L":\\") == 1 && SHGetPathFromIDListW(item.list.get(), path)) {
-            EXPECT_STREQ(name, path);
-            EXPECT_STREQ(item.path, path);
-        }
-
         const Child child(item.list);
         ITEMIDLIST* const inFolder = listArgument(child.list);
         for (const DWORD flags : std::initializer_list<DWORD>{SHGDN_NORMAL, SHGDN_INFOLDER,
@@ -124,6 +118,12 @@ TEST_F(RealItems, QualifyToTheListThatTheSystemParses) {
         EXPECT_EQ(NavGetQualifiedItemList(m_shell, child.folder.get(), nullptr), nullptr);
     }
     EXPECT_EQ(NavGetQualifiedItemList(m_shell, nullptr, m_items.back().list.get()), nullptr);
+    const CString tooLong = m_items.back().path + L"x";
+    EXPECT_TRUE(m_temp.addFile(tooLong.Mid(m_temp.path().GetLength() + 1)) == tooLong);
+    for (const CString& path : {tooLong, m_temp.path(L"*"), m_temp.path(L"missing")}) {
+        EXPECT_EQ(NavGetQualifiedItemListFromFolderFullPath(path), nullptr) << utf8(path.view());
+    }
+    EXPECT_EQ(NavGetQualifiedItemListFromFolderFullPath(nullptr), nullptr);
 }
 
 TEST_F(RealItems, CompareAsTheSystemComparesThem) {
@@ -186,7 +186,14 @@ TEST_F(RealItems, BecomePathNamesOfTheirKind) {
             EXPECT_EQ(pathname.isShortCut(), item.kind == Kind::Shortcut);
             EXPECT_STREQ(pathname.GetPathString(), item.path);
         }
+        CNavPathname unasked;
+        EXPECT_EQ(unasked.Parse(item.list.get(), nullptr, nullptr, name), PathErr::None);
+        EXPECT_FALSE(unasked.isShortCut()) << "there is no folder to ask";
     }
+    CString url = L"http://host/a";
+    CString nothing;
+    EXPECT_EQ(CNavPathname().Parse(m_items.back().list.get(), nullptr, nullptr, url), PathErr::NotFileSystem);
+    EXPECT_EQ(CNavPathname().Parse(nullptr, nullptr, nullptr, nothing), PathErr::Empty);
 }
 
 }  // namespace
