@@ -12,6 +12,14 @@
 
 namespace {
 
+/// A file picked in the view: its text is the full path that the view knows it by, and it was looked at then.
+bool isPickedFile(const CNavData& item) {
+    const CNavPathname* path = item.GetID() ? item.GetPathname() : nullptr;
+    CString full;
+    return path && path->GetType() == CZoUiPathname::ExistingFile && !path->GetIsExtension() && !path->GetIsURL() &&
+           path->GetFullPath(full) && full == item.GetText();
+}
+
 bool isRoot(const CNavNode* node) {
     return node && (node->GetType() == NavNodeExtensionRoot || node->GetType() == NavNodeWebFoldersRoot);
 }
@@ -81,7 +89,7 @@ void CNavDialogImp::resolveShortcut(CNavData& item, CString& text) {
 void CNavDialogImp::classifyItem(CNavData& item, const CString& text) {
     CZoUiPathname path;
     const CNavNode* node = lookInNode();
-    if (path.Parse(text, true) == PathErr::None && path.WasAbsolute()) {
+    if (isPickedFile(item) || (path.Parse(text, true) == PathErr::None && path.WasAbsolute())) {
         item.SetDataType(NAV_DATA_FILE);
     } else if (NavIsUNCPath(text)) {
         item.SetDataType(NAV_DATA_NETWORK);
@@ -124,6 +132,9 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
     CNavNode* node = currentFolderNode();
     const NAV_DATA_TYPE type = item->GetDataType();
     if (isRoot(node) || type == NAV_DATA_URL || type == NAV_DATA_NETWORK) {
+        return OkErrNone;
+    }
+    if (isPickedFile(*item)) {
         return OkErrNone;
     }
     if (CString shown; folderOutOfReach(shown)) {

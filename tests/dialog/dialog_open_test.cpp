@@ -2,6 +2,7 @@
 #include <knav/CNavPathname.h>
 
 #include <filesystem>
+#include <set>
 
 #include "dialog/Messages.h"
 #include "dialog/RecordingDialog.h"
@@ -270,6 +271,28 @@ TEST_F(DialogOpen, TenThousandFiles_OpenAndPick) {
     user.untilName(L"plan07777.dwg").ok();
     EXPECT_EQ(user.run(), IDOK);
     EXPECT_EQ(dialog.chosen(), paths({L"plan07777.dwg"}));
+}
+
+TEST_F(DialogOpen, AllOfAThousandFiles_AreNamedAndOpened) {
+    constexpr int kFiles = 1'000;
+    folder.addFiles(kFiles, [](int number) {
+        CString name;
+        name.Format(L"plan%03d.dwg", number);
+        return name;
+    });
+    TestDialog dialog(folder.path());
+    dialog.SetMultiSelectAllowed(1);
+    DialogUser user(dialog);
+    user.until("all files", [] { return ListView_GetItemCount(viewList()) == kFiles; }).check([] {
+        ListView_SetItemState(viewList(), 0, LVIS_FOCUSED, LVIS_FOCUSED);
+        ListView_SetItemState(viewList(), -1, LVIS_SELECTED, LVIS_SELECTED);
+    });
+    constexpr std::size_t kLength = kFiles * std::string_view("\"plan000.dwg\" ").size() - 1;
+    user.until("all names", [] { return fileNameText().size() == kLength; }).ok();
+    EXPECT_EQ(user.run(), IDOK);
+    const std::vector<std::wstring> chosen = dialog.chosen();
+    EXPECT_EQ(std::set(chosen.begin(), chosen.end()).size(), std::size_t{kFiles});
+    EXPECT_THAT(chosen, testing::Contains(wide(folder.path(L"plan999.dwg"))));
 }
 
 }  // namespace
