@@ -260,6 +260,21 @@ TEST_F(DialogCommands, AddToPlaces_AddsTheFolderOnceAndIsGrayAfterwards) {
     EXPECT_EQ(m_user.cancel().run(), IDCANCEL);
 }
 
+TEST_F(DialogCommands, InHistory_NoFolderCanBeMade) {
+    m_user.untilFolder(folder.path()).check([] {
+        EXPECT_TRUE(isEnabled(IDC_KNAV_NEW_FOLDER));
+        const HWND places = DialogDriver::control(IDC_KNAV_PLACES);
+        SendMessageW(places, LB_SETCURSEL, 0, 0);
+        SendMessageW(GetParent(places), WM_COMMAND, MAKEWPARAM(IDC_KNAV_PLACES, LBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(places));
+        EXPECT_FALSE(isEnabled(IDC_KNAV_NEW_FOLDER));
+    });
+    m_user.until("another folder", [this] { return m_dialog.shownFolder() != folder.path(); });
+    m_user.command(IDM_KNAV_UP);
+    m_user.until("a folder elsewhere", [] { return isEnabled(IDC_KNAV_NEW_FOLDER); });
+    EXPECT_EQ(m_user.cancel().run(), IDCANCEL);
+}
+
 // --- the name field ----------------------------------------------------------------------------------------------
 
 TEST_F(DialogCommands, NameTypedBeforeGoingToTheView_IsFoundThere) {

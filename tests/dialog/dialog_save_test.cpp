@@ -2,10 +2,12 @@
 #include <knav/CNavPathname.h>
 #include <knav/FileDialogAllowReturnFolderEnabler.h>
 
+#include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
 #include "dialog/RecordingDialog.h"
 #include "shell/ScopedHandle.h"
 #include "support/RealNamespace.h"
+#include "view/ViewStore.h"
 
 namespace knav::test {
 namespace {
@@ -46,6 +48,19 @@ TEST_F(DialogSave, ExistingFile_IsReplacedOnlyWhenTheUserAgrees) {
         EXPECT_EQ(question.flags, static_cast<UINT>(MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2));
         EXPECT_NE(question.owner, nullptr);
     }
+}
+
+TEST_F(DialogSave, AtTheRootOfAnExtension_NothingIsSaved) {
+    const ViewStore store;
+    prompts.answer(IDOK);
+    SaveDialog dialog(folder.path());
+    auto& implementation = *static_cast<CNavDialogImp*>(dialog.GetImpObject());
+    DialogUser user(dialog);
+    user.check([&] { EXPECT_TRUE(implementation.NavigateToItemList(store.root())); });
+    user.until("the root", [] { return lookInText() == L"Store"; }).type(L"new").ok().untilAsked(prompts).settle();
+    user.check([] { expectNameReadyToRetype(L"new"); }).cancel();
+    EXPECT_EQ(user.run(), IDCANCEL);
+    EXPECT_EQ(prompts.seen().back().text, messageText(IDS_KNAV_NO_SAVE_AT_ROOT));
 }
 
 TEST_F(DialogSave, FileHeldOpenElsewhere_IsNotOfferedForReplacement) {

@@ -283,13 +283,14 @@ public:
     HRESULT WINAPI GetUIObjectOf(HWND, UINT, PCUITEMID_CHILD_ARRAY, REFIID, UINT*, void**) override {
         return answer(ViewCall::FolderGetUIObjectOf);
     }
-    // The element's payload is its name.
+    // The element's payload is its name; the empty list stands for the folder.
     HRESULT WINAPI GetDisplayNameOf(PCUITEMID_CHILD item, SHGDNF, STRRET* name) override {
         if (const HRESULT entered = answer(ViewCall::FolderGetDisplayNameOf, S_OK); FAILED(entered)) {
             return entered;
         }
         name->uType = STRRET_WSTR;
-        return SHStrDupW(reinterpret_cast<const wchar_t*>(item->mkid.abID), &name->pOleStr);
+        const bool isFolder = item->mkid.cb == 0;
+        return SHStrDupW(isFolder ? L"Store" : reinterpret_cast<const wchar_t*>(item->mkid.abID), &name->pOleStr);
     }
     HRESULT WINAPI SetNameOf(HWND, PCUITEMID_CHILD, LPCWSTR, SHGDNF, PITEMID_CHILD*) override { return uncalled(); }
 };
