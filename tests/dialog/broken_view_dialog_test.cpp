@@ -14,7 +14,6 @@ protected:
     DialogBrokenView() {
         m_store.script.standardWindow = true;
         m_store.script.selection = {L"item"};
-        m_store.script.attributes = SFGAO_FOLDER | SFGAO_FILESYSTEM;
     }
 
     /// What a user may do while the folder is shown. Returns the name that a new folder would get.
@@ -35,7 +34,7 @@ protected:
         return dialog.GetNewFolderNameToAdd();
     }
 
-    ViewStore m_store;
+    ViewStore m_store{SFGAO_FOLDER | SFGAO_FILESYSTEM};
 };
 
 TEST_P(DialogBrokenView, InWhicheverMethod_TheDialogStaysOpenAndUsable) {
@@ -44,7 +43,7 @@ TEST_P(DialogBrokenView, InWhicheverMethod_TheDialogStaysOpenAndUsable) {
     auto& implementation = *static_cast<CNavDialogImp*>(dialog.GetImpObject());
     const auto goThereAndBack = [&](const Misconduct& bad) {
         EXPECT_TRUE(implementation.NavigateToItemList(m_store.root()));
-        m_store.script.conduct = bad;
+        m_store.folder->setOnly(bad);
         const CString newFolder = useFolder(implementation);
         EXPECT_TRUE(!bad.empty() || newFolder == messageText(IDS_KNAV_NEW_FOLDER_NAME)) << "an empty folder has room";
         EXPECT_TRUE(implementation.NavigateToFolder(folder.path()));
@@ -53,11 +52,11 @@ TEST_P(DialogBrokenView, InWhicheverMethod_TheDialogStaysOpenAndUsable) {
             EXPECT_EQ(dialog.shownFolder(), folder.path());
             EXPECT_EQ(shownNames(), std::vector<std::wstring>{L"a.dwg"});
         }
-        m_store.script.conduct.clear();
+        m_store.folder->setOnly({});
     };
     DialogUser user(dialog);
     user.untilShown({L"a.dwg"}).check([&] {
-        for (const ViewCall call : reachedMethods(m_store.script, goThereAndBack)) {
+        for (const FolderCall call : reachedMethods(m_store, goThereAndBack)) {
             SCOPED_TRACE(static_cast<int>(call));
             goThereAndBack({{call, GetParam()}});
         }

@@ -36,7 +36,6 @@ public:
     }
 
     const DLGTEMPLATE* get() const { return reinterpret_cast<const DLGTEMPLATE*>(m_bytes.data()); }
-    std::size_t byteCount() const { return m_bytes.size(); }
 
 private:
     template <class Value>

@@ -5,9 +5,8 @@
 
 #include <platform/Windows.h>
 
-#include <array>
-#include <cstdint>
 #include <cstring>
+#include <functional>
 #include <ranges>
 #include <string>
 #include <vector>
@@ -15,117 +14,17 @@
 #include "shell/ComPtr.h"
 #include "shell/ItemList.h"
 #include "shell/ListWalk.h"
+#include "support/FakeObject.h"
 #include "support/ItemLists.h"
 
 namespace knav::test {
 
-/// The methods of a fake folder, of its enumerator and of its icon extractor.
-enum class FolderCall {
-    QueryInterface,
-    AddRef,
-    Release,
-    ParseDisplayName,
-    EnumObjects,
-    Next,
-    BindToObject,
-    CompareIDs,
-    GetAttributesOf,
-    GetUIObjectOf,
-    GetDisplayNameOf,
-    GetIconLocation,
-    Extract,
-    Count,
-};
-
-enum class Conduct { Works, Fails, Faults, Throws };
-
-/// What of a folder, and of the objects it hands out, a test tells to misbehave, and how often each was called.
-class Conducts {
+class FakeItems final : public FakeObject<FolderCall::QueryInterface, IEnumIDList> {
 public:
-    void set(FolderCall call, Conduct conduct) { m_conduct[index(call)] = conduct; }
-    void setAll(Conduct conduct) { m_conduct.fill(conduct); }
-    int calls(FolderCall call) const { return m_calls[index(call)]; }
-
-    /// Counts a call and behaves badly if told so; S_OK when the call shall work.
-    HRESULT enter(FolderCall call) {
-        ++m_calls[index(call)];
-        switch (m_conduct[index(call)]) {
-            case Conduct::Fails:
-                return E_FAIL;
-            case Conduct::Faults:
-                *reinterpret_cast<volatile int*>(kNowhere) = 1;
-                return E_UNEXPECTED;
-            case Conduct::Throws:
-                throw 1;
-            case Conduct::Works:
-                break;
-        }
-        return S_OK;
-    }
-
-private:
-    static constexpr std::size_t index(FolderCall call) { return static_cast<std::size_t>(call); }
-    static constexpr std::uintptr_t kNowhere = 16;  // null would be reported by a checked build before it faults
-
-    std::array<Conduct, static_cast<std::size_t>(FolderCall::Count)> m_conduct{};
-    std::array<int, static_cast<std::size_t>(FolderCall::Count)> m_calls{};
-};
-
-/// Identity and counting of the fakes. A method that shall misbehave here does so before anything is counted.
-template <class Interface>
-class FakeObject : public Interface {
-public:
-    FakeObject(Conducts& conducts, std::initializer_list<const IID*> interfaces)
-        : m_shared(conducts), m_interfaces(interfaces) {}
-    FakeObject(const FakeObject&) = delete;
-    FakeObject& operator=(const FakeObject&) = delete;
-
-    HRESULT WINAPI QueryInterface(REFIID iid, void** object) override {
-        *object = nullptr;
-        if (FAILED(m_shared.enter(FolderCall::QueryInterface))) {
-            return E_FAIL;
-        }
-        for (const IID* const known : m_interfaces) {
-            if (iid == *known || iid == IID_IUnknown) {
-                ++m_references;
-                *object = static_cast<Interface*>(this);
-                return S_OK;
-            }
-        }
-        return E_NOINTERFACE;
-    }
-    ULONG WINAPI AddRef() override {
-        m_shared.enter(FolderCall::AddRef);
-        return static_cast<ULONG>(++m_references);
-    }
-    ULONG WINAPI Release() override {
-        m_shared.enter(FolderCall::Release);
-        const LONG left = --m_references;
-        if (left == 0) {
-            delete this;
-        }
-        return static_cast<ULONG>(left);
-    }
-
-    LONG references() const { return m_references; }
-
-protected:
-    virtual ~FakeObject() = default;
-    Conducts& conducts() { return m_shared; }
-
-private:
-    Conducts& m_shared;
-    std::vector<const IID*> m_interfaces;
-    LONG m_references = 1;
-};
-
-class FakeItems final : public FakeObject<IEnumIDList> {
-public:
-    FakeItems(Conducts& conducts, std::vector<ItemList> items)
-        : FakeObject(conducts, {&IID_IEnumIDList}), m_items(std::move(items)) {}
+    FakeItems(Conducts& conducts, std::vector<ItemList> items) : FakeObject(conducts), m_items(std::move(items)) {}
 
     HRESULT WINAPI Next(ULONG, ITEMIDLIST** lists, ULONG* fetched) override {
-        const HRESULT entered = conducts().enter(FolderCall::Next);
+        const HRESULT entered = enter(FolderCall::Next);
         const bool given = SUCCEEDED(entered) && m_next < m_items.size();
         *lists = given ? m_items[m_next++].release() : nullptr;
         if (fetched != nullptr) {
@@ -149,19 +48,18 @@ struct FakeIcon {
     HRESULT extracted = E_FAIL;
 };
 
-class FakeExtractor final : public FakeObject<IExtractIconW> {
+class FakeExtractor final : public FakeObject<FolderCall::QueryInterface, IExtractIconW> {
 public:
-    FakeExtractor(Conducts& conducts, FakeIcon icon)
-        : FakeObject(conducts, {&IID_IExtractIconW}), m_icon(std::move(icon)) {}
+    FakeExtractor(Conducts& conducts, FakeIcon icon) : FakeObject(conducts), m_icon(std::move(icon)) {}
 
     HRESULT WINAPI GetIconLocation(UINT, wchar_t* module, UINT room, int* iconIndex, UINT* flags) override {
         *iconIndex = m_icon.index;
         *flags = 0;
         lstrcpynW(module, m_icon.module.c_str(), static_cast<int>(room));
-        return conducts().enter(FolderCall::GetIconLocation);
+        return enter(FolderCall::GetIconLocation);
     }
     HRESULT WINAPI Extract(const wchar_t*, UINT, HICON* large, HICON* small, UINT) override {
-        if (FAILED(conducts().enter(FolderCall::Extract))) {
+        if (FAILED(enter(FolderCall::Extract))) {
             return E_FAIL;
         }
         if (m_icon.extracted == S_OK) {
@@ -177,7 +75,7 @@ private:
 
 /// Items are lists with one element for each level, whose payload is the name. A parsing name is the folder's own name
 /// and the names below it, joined by "/". Whoever makes a folder holds its first reference.
-class FakeFolder final : private Conducts, public FakeObject<IShellFolder> {
+class FakeFolder final : public Conducts, public FakeObject<FolderCall::QueryInterface, IShellFolder> {
 public:
     static ComPtr<FakeFolder> make(std::wstring name) {
         return ComPtr<FakeFolder>::adopt(new FakeFolder(std::move(name)));
@@ -201,9 +99,11 @@ public:
     }
     /// Takes the items out. A folder that holds itself is only freed after this.
     void clear() { m_items.clear(); }
-    using Conducts::calls;
-    using Conducts::set;
-    using Conducts::setAll;
+    using Conducts::enter;
+    /// What it calls itself, when that is not what the parsing names of its items begin with.
+    void setOwnName(std::wstring name) { m_ownName = std::move(name); }
+    /// What makes its view; without it there is none.
+    void setView(std::function<IShellView*(Conducts&)> make) { m_makeView = std::move(make); }
     /// BindToObject refuses; the folder of an item comes from GetUIObjectOf.
     void setBindThroughUiObject(bool through) { m_bindThroughUiObject = through; }
     /// The icon that every item, and the folder itself, extracts.
@@ -256,7 +156,11 @@ public:
         const auto order = namesOf(a) <=> namesOf(b);
         return MAKE_HRESULT(SEVERITY_SUCCESS, 0, static_cast<USHORT>(order < 0 ? -1 : order > 0 ? 1 : 0));
     }
-    HRESULT WINAPI CreateViewObject(HWND, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT WINAPI CreateViewObject(HWND, REFIID, void** view) override {
+        const HRESULT entered = enter(FolderCall::CreateViewObject, m_makeView ? S_OK : E_NOTIMPL);
+        *view = SUCCEEDED(entered) ? m_makeView(*this) : nullptr;
+        return entered;
+    }
     HRESULT WINAPI GetAttributesOf(UINT count, const ITEMIDLIST** lists, SFGAOF* attributes) override {
         if (FAILED(enter(FolderCall::GetAttributesOf))) {
             return E_FAIL;
@@ -287,7 +191,7 @@ public:
         std::wstring text = (flags & SHGDN_FORPARSING) != 0 && (flags & SHGDN_INFOLDER) == 0 ? m_name : L"";
         const std::vector<std::wstring> names = namesOf(list);
         if (names.empty()) {
-            text = m_name;
+            text = m_ownName;
         }
         for (const std::wstring& each : names) {
             text += (text.empty() ? L"" : L"/") + each;
@@ -306,8 +210,7 @@ private:
         ComPtr<FakeFolder> folder;
     };
 
-    explicit FakeFolder(std::wstring name)
-        : FakeObject(static_cast<Conducts&>(*this), {&IID_IShellFolder}), m_name(std::move(name)) {}
+    explicit FakeFolder(std::wstring name) : FakeObject(static_cast<Conducts&>(*this)), m_name(std::move(name)) {}
 
     static std::vector<std::wstring> namesOf(const ITEMIDLIST* list) {
         std::vector<std::wstring> names;
@@ -342,11 +245,13 @@ private:
     }
 
     std::wstring m_name;
+    std::wstring m_ownName = m_name;
     std::vector<Item> m_items;
     std::wstring m_lastParsed;
     bool m_bindThroughUiObject = false;
     bool m_askedForItself = false;
     FakeIcon m_icon;
+    std::function<IShellView*(Conducts&)> m_makeView;
 };
 
 }  // namespace knav::test

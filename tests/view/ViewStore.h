@@ -1,7 +1,7 @@
 // A registered extension whose folder and views are a test's.
 #pragma once
 
-#include "shell/RegisteredExtensions.h"
+#include "support/TestExtension.h"
 #include "view/FakeView.h"
 
 #include <gtest/gtest.h>
@@ -11,45 +11,47 @@ namespace knav::test {
 /// Registered for as long as this lives.
 class ViewStore {
 public:
-    ViewStore() {
-        CNavExtension& extension = *registeredExtensions().AddData();
-        extension.SetName(L"Store");
-        extension.CreateID();
-        extension.SetRootFolder(makeViewFolder(script).get());
-        m_root = ItemList::copyOf(extension.GetID());
+    /// Its items, all of them with these attributes, are like the root.
+    explicit ViewStore(DWORD attributes = 0) {
+        for (const wchar_t* const name : {L"site", L"item", L"a", L" b "}) {
+            folder->add(name, attributes, folder);
+        }
+        folder->setOwnName(L"Store");
+        folder->setView([this](Conducts& conducts) { return makeFakeView(conducts, script); });
+        m_root = ItemList::copyOf(m_registered.add(L"Store", folder).GetID());
     }
     ViewStore(const ViewStore&) = delete;
     ViewStore& operator=(const ViewStore&) = delete;
-    ~ViewStore() { registeredExtensions().RemoveAllData(); }
+    ~ViewStore() {
+        folder->setOnly({});
+        folder->clear();
+    }
 
     /// Qualified list of its root.
     ITEMIDLIST* root() const { return m_root.get(); }
-    /// An item of such a folder.
-    static ItemList item(std::wstring name) {
-        name.push_back(L'\0');
-        return FakeFolder::item(name);
-    }
 
     ViewScript script;
+    ComPtr<FakeFolder> folder = FakeFolder::make(L"");
 
 private:
+    RegisteredForTest m_registered;
     ItemList m_root;
 };
-
-using Misconduct = std::map<ViewCall, Conduct>;
 
 /// The methods that `use`, called with what is to misbehave in it, comes to where all of them work; with views of both
 /// kinds.
 template <class Use>
-std::vector<ViewCall> reachedMethods(ViewScript& script, Use&& use) {
-    script.calls.clear();
+std::vector<FolderCall> reachedMethods(ViewStore& store, Use&& use) {
+    store.folder->forgetCalls();
     for (const bool view2 : {false, true}) {
-        script.offersView2 = view2;
+        store.script.offersView2 = view2;
         use(Misconduct());
     }
-    std::vector<ViewCall> reached;
-    for (const auto& [call, count] : script.calls) {
-        reached.push_back(call);
+    std::vector<FolderCall> reached;
+    for (int call = 0; call < static_cast<int>(FolderCall::Count); ++call) {
+        if (store.folder->calls(static_cast<FolderCall>(call)) > 0) {
+            reached.push_back(static_cast<FolderCall>(call));
+        }
     }
     EXPECT_GE(reached.size(), 10u) << "there is little that could misbehave";
     return reached;

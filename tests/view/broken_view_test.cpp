@@ -25,6 +25,7 @@ protected:
     ScopedTempFolder m_temp;
     ViewStore m_store;
     ViewScript& m_script = m_store.script;
+    FakeFolder& m_folder = *m_store.folder.get();
     ViewHost m_host;
     CNavDataArray m_data;
 };
@@ -43,14 +44,14 @@ TEST_F(BrokenView, ViewIsMadeWithTheSettingsOfTheBrowser) {
     EXPECT_TRUE(IsEqualGUID(m_script.viewId, details));
     const RECT place{10, 20, 410, 320};
     EXPECT_TRUE(EqualRect(&m_script.place, &place));
-    EXPECT_EQ(m_script.calls[ViewCall::CreateViewWindow], 0);
+    EXPECT_EQ(m_folder.calls(FolderCall::CreateViewWindow), 0);
 }
 
 TEST_F(BrokenView, ViewOfTheFirstKind_IsMadeTheOldWay) {
     m_script.offersView2 = false;
     ASSERT_TRUE(browseStore());
-    EXPECT_EQ(m_script.calls[ViewCall::CreateViewWindow], 1);
-    EXPECT_EQ(m_script.calls[ViewCall::CreateViewWindow2], 0);
+    EXPECT_EQ(m_folder.calls(FolderCall::CreateViewWindow), 1);
+    EXPECT_EQ(m_folder.calls(FolderCall::CreateViewWindow2), 0);
     m_host.buddy.MoveWindow(0, 0, 100, 50);
     HWND window = nullptr;
     m_host.browser.GetCurrentShellView()->GetWindow(&window);
@@ -72,24 +73,24 @@ TEST_F(BrokenView, ViewThatCannotBeMade_LeavesThePreviousOneInPlaceAndNothingOve
         EXPECT_THAT(m_host.rows(), ElementsAre(L"a.dwg"));
         EXPECT_EQ(m_host.children(), windows);
         EXPECT_FALSE(m_host.browseOwner.browsing);
-        EXPECT_EQ(m_script.liveObjects, 1) << "the folder alone";
+        EXPECT_EQ(m_folder.liveObjects(), 1) << "the folder alone";
     };
     for (const bool view2 : {true, false}) {
         m_script.offersView2 = view2;
-        const auto creating = view2 ? ViewCall::CreateViewWindow2 : ViewCall::CreateViewWindow;
+        const auto creating = view2 ? FolderCall::CreateViewWindow2 : FolderCall::CreateViewWindow;
         for (const Conduct conduct : kBad) {
-            m_script.conduct = {{ViewCall::CreateViewObject, conduct}};
+            m_folder.setOnly({{FolderCall::CreateViewObject, conduct}});
             expectPrevious();
             for (const bool afterwards : {false, true}) {
                 m_script.breaksAfterwards = afterwards;
                 for (const Conduct destroying : {Conduct::Works, Conduct::Faults}) {
-                    m_script.conduct = {{creating, conduct}, {ViewCall::DestroyViewWindow, destroying}};
+                    m_folder.setOnly({{creating, conduct}, {FolderCall::DestroyViewWindow, destroying}});
                     expectPrevious();
                 }
             }
             m_script.breaksAfterwards = false;
         }
-        m_script.conduct.clear();
+        m_folder.setOnly({});
         m_script.makesWindow = false;  // there would be nothing to see
         expectPrevious();
         m_script.makesWindow = true;
@@ -106,37 +107,30 @@ TEST_F(BrokenView, ViewThatDoesNotTellItsWindow_IsTakenOverAllTheSame) {
     EXPECT_NE(m_host.list(), nullptr);
 }
 
-TEST_F(BrokenView, SettingsThatCannotBeRead_AreThoseTheViewWasMadeWith) {
+TEST_F(BrokenView, QuestionsThatCannotBeAnswered_LeaveTheSettingsAndTheFirstKindOfView) {
     ASSERT_TRUE(browseStore());
     const UINT flags = m_script.settings.fFlags;
     for (const Conduct conduct : kBad) {
-        m_script.conduct = {{ViewCall::GetCurrentInfo, conduct}};
-        ASSERT_TRUE(browseStore());
-        EXPECT_EQ(m_script.settings.fFlags, flags);
-    }
-}
-
-TEST_F(BrokenView, QueryInterfaceThatMisbehaves_MeansThatThereIsNoSuchInterface) {
-    for (const Conduct conduct : kBad) {
-        m_script.conduct = {{ViewCall::QueryInterface, conduct}};
-        m_script.calls.clear();
+        m_folder.setOnly({{FolderCall::GetCurrentInfo, conduct}, {FolderCall::ViewQueryInterface, conduct}});
+        m_folder.forgetCalls();
         EXPECT_TRUE(browseStore());
-        EXPECT_EQ(m_script.calls[ViewCall::CreateViewWindow], 1);
+        EXPECT_EQ(m_script.settings.fFlags, flags);
+        EXPECT_EQ(m_folder.calls(FolderCall::CreateViewWindow), 1);
     }
 }
 
 TEST_F(BrokenView, SelectionThatCannotBeRead_GivesNoItems) {
     m_script.selection = {L"a"};
     ASSERT_TRUE(browseStore());
-    for (const ViewCall call : {ViewCall::GetFocusedItem, ViewCall::GetItemObject, ViewCall::GetData}) {
+    for (const FolderCall call : {FolderCall::GetFocusedItem, FolderCall::GetItemObject, FolderCall::GetData}) {
         for (const Conduct conduct : kBad) {
-            m_script.conduct = {{call, conduct}};
+            m_folder.setOnly({{call, conduct}});
             m_data.AddData();
             EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data));
             EXPECT_EQ(m_data.GetCount(), 0);
         }
     }
-    m_script.conduct.clear();
+    m_folder.setOnly({});
     m_script.focusedItem = -1;
     EXPECT_FALSE(m_host.browser.SendSelectionToData(m_data)) << "success without an item is none either";
     m_script.offersFolderView = false;
@@ -145,7 +139,7 @@ TEST_F(BrokenView, SelectionThatCannotBeRead_GivesNoItems) {
 
 TEST_F(BrokenView, SelectionInAnExtension_KeepsItsOrderTextsAndLogin) {
     m_script.selection = {L" b ", L"a"};
-    const auto site = ItemList::join(m_store.root(), ViewStore::item(L"site").get());
+    const auto site = ItemList::join(m_store.root(), FakeFolder::item(L"site").get());
     ASSERT_TRUE(m_host.browser.BrowseObject(site.get(), SBSP_ABSOLUTE));
     ASSERT_TRUE(m_host.browser.SendSelectionToData(m_data));
     ASSERT_EQ(m_data.GetCount(), 2);
@@ -156,7 +150,7 @@ TEST_F(BrokenView, SelectionInAnExtension_KeepsItsOrderTextsAndLogin) {
     EXPECT_STREQ(first.GetUserName(), L"anna");
     EXPECT_STREQ(first.GetPassword(), L"secret");
     EXPECT_EQ(m_host.browseOwner.askedSite, L"site");
-    EXPECT_THAT(first.GetID(), HoldsSameBytes(ItemList::join(site.get(), ViewStore::item(L" b ").get()).get()));
+    EXPECT_THAT(first.GetID(), HoldsSameBytes(ItemList::join(site.get(), FakeFolder::item(L" b ").get()).get()));
     EXPECT_STREQ(m_data.GetData(1)->GetTextInFolder(), L"a");
 
     CString user;
@@ -165,20 +159,6 @@ TEST_F(BrokenView, SelectionInAnExtension_KeepsItsOrderTextsAndLogin) {
     ASSERT_TRUE(browseStore());
     EXPECT_FALSE(m_host.browser.GetCurrentLogin(user, password)) << "the root of all sites is none";
     EXPECT_TRUE(user.IsEmpty());
-}
-
-TEST_F(BrokenView, SyncToData_DeselectsAllThenSelectsEach) {
-    ASSERT_TRUE(browseStore());
-    m_data.AddData()->SetID(ViewStore::item(L"a").release());
-    m_data.AddData();
-    m_data.AddData()->SetID(ViewStore::item(L"b").release());
-    m_host.browser.SyncToData(m_data);
-    ASSERT_EQ(m_script.selected.size(), 3u);
-    EXPECT_EQ(m_script.selected[0], std::pair(static_cast<const ITEMIDLIST*>(nullptr), UINT(SVSI_DESELECTOTHERS)));
-    EXPECT_EQ(m_script.selected[1],
-              std::pair(static_cast<const ITEMIDLIST*>(m_data.GetData(0)->GetID()), UINT(SVSI_SELECT)));
-    EXPECT_EQ(m_script.selected[2],
-              std::pair(static_cast<const ITEMIDLIST*>(m_data.GetData(2)->GetID()), UINT(SVSI_SELECT)));
 }
 
 }  // namespace

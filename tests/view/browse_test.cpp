@@ -124,16 +124,6 @@ TEST_F(Browse, SecondBrowse_SavesTheOldViewAndReplacesIt) {
     EXPECT_THAT(m_host.browseOwner.log, ElementsAre("enter", "save", "restore", "browsed", "leave"));
 }
 
-TEST_F(Browse, MultipleSelection_FollowsTheOption) {
-    ASSERT_TRUE(m_host.browse(m_folder.path()));
-    EXPECT_TRUE(m_host.browser.GetCurrentFolderSettings().fFlags & FWF_SINGLESEL);
-    EXPECT_TRUE(m_host.listCtrl.GetStyle() & LVS_SINGLESEL);
-    m_host.browser.SetMultiSelectAllowed(1);
-    ASSERT_TRUE(m_host.browser.BrowseCurrentObject());
-    EXPECT_FALSE(m_host.browser.GetCurrentFolderSettings().fFlags & FWF_SINGLESEL);
-    EXPECT_FALSE(m_host.listCtrl.GetStyle() & LVS_SINGLESEL);
-}
-
 TEST_F(Browse, ViewMode_ChangesTheListAndMakesANewView) {
     ASSERT_TRUE(m_host.browse(m_folder.path()));
     EXPECT_EQ(m_host.browser.GetViewMode(), 3u);
@@ -245,28 +235,22 @@ TEST_F(Browse, Refresh_ReadsTheFolderAgainAndKeepsTheWindows) {
     EXPECT_EQ(m_host.buddy.GetBuddy(), &m_host.viewWindow);
 }
 
-TEST_F(Browse, DestroyedView_ComesBackWithTheCurrentFolder) {
-    ASSERT_TRUE(m_host.browse(m_folder.path()));
-    m_host.browseOwner.log.clear();
-    m_host.browser.DestroyViewWindow(1);
-    EXPECT_EQ(m_host.viewHandle(), nullptr);
-    EXPECT_EQ(m_host.browser.GetCurrentShellView(), nullptr);
-    m_host.browser.DestroyViewWindow(1);
-    EXPECT_THAT(m_host.browseOwner.log, ElementsAre("save"));
-    ASSERT_TRUE(m_host.browser.BrowseCurrentObject());
-    EXPECT_EQ(m_host.rows().size(), 4u);
-}
-
-TEST_F(Browse, ListControlThatHasEnded_IsNotTouchedOnceTheViewIsGone) {
+TEST_F(Browse, DestroyedView_LetsItsListControlGoAndComesBackWithTheFolder) {
     void* const memory = VirtualAlloc(nullptr, sizeof(CNavListCtrl), MEM_COMMIT, PAGE_READWRITE);
     auto* const list = new (memory) CNavListCtrl;
     m_host.browser.SetListCtrl(list);
     ASSERT_TRUE(m_host.browse(m_folder.path()));
     EXPECT_NE(list->m_hWnd, nullptr);
+    m_host.browseOwner.log.clear();
     m_host.browser.DestroyViewWindow(1);
     list->~CNavListCtrl();
     VirtualFree(memory, 0, MEM_RELEASE);
     m_host.browser.DestroyViewWindow(1);
+    EXPECT_THAT(m_host.browseOwner.log, ElementsAre("save"));
+    EXPECT_EQ(m_host.viewHandle(), nullptr);
+    m_host.browser.SetListCtrl(&m_host.listCtrl);
+    ASSERT_TRUE(m_host.browser.BrowseCurrentObject());
+    EXPECT_EQ(m_host.rows().size(), 4u);
 }
 
 TEST_F(Browse, FiftyBrowses_LeakNothing) {

@@ -23,7 +23,6 @@ protected:
         m_host.browser.SetCurrentFilter(&m_filter);
         m_store.script.standardWindow = true;
         m_store.script.selection = {L"item"};
-        m_store.script.attributes = SFGAO_FILESYSTEM;
     }
 
     bool browseStore() { return m_host.browser.BrowseObject(m_store.root(), SBSP_ABSOLUTE) != 0; }
@@ -31,9 +30,9 @@ protected:
     /// Calls `use` for each method that it comes to, with what is to misbehave in it.
     template <class Use>
     void forEachMethod(Use&& use) {
-        for (const ViewCall call : reachedMethods(m_store.script, use)) {
+        for (const FolderCall call : reachedMethods(m_store, use)) {
             SCOPED_TRACE(static_cast<int>(call));
-            m_store.script.conduct.clear();
+            m_store.folder->setOnly({});
             use({{call, GetParam()}});
         }
     }
@@ -46,7 +45,7 @@ protected:
         data.AddData()->SetID(ItemList::copyOf(m_store.root()).release());
         browser.SyncToData(data);
         browser.RefreshView();
-        browser.GetICommDlgBrowser()->IncludeObject(nullptr, ViewStore::item(L"item").get());
+        browser.GetICommDlgBrowser()->IncludeObject(nullptr, FakeFolder::item(L"item").get());
         browser.GetICommDlgBrowser()->OnStateChange(nullptr, CDBOSC_SELCHANGE);
         IShellView* view = nullptr;
         browser.GetIShellBrowser()->QueryActiveShellView(&view);
@@ -54,7 +53,7 @@ protected:
         LVITEMW arrived{};
         ListView_InsertItem(m_host.list(), &arrived);
         browser.SetViewMode(browser.GetViewMode() == NavViewList ? NavViewDetails : NavViewList);
-        browser.BrowseObject(ViewStore::item(L"item").get(), SBSP_RELATIVE);
+        browser.BrowseObject(FakeFolder::item(L"item").get(), SBSP_RELATIVE);
     }
 
     void expectOrdinaryFolder() {
@@ -64,22 +63,22 @@ protected:
     }
 
     ScopedTempFolder m_temp;
-    ViewStore m_store;
+    ViewStore m_store{SFGAO_FILESYSTEM};
     CNavFilter m_filter;
     ViewHost m_host;
 };
 
 TEST_P(EveryMethod, OfTheViewShown_TheNextFolderIsShownAllTheSame) {
     forEachMethod([&](const Misconduct& bad) {
-        const int before = m_store.script.liveObjects;
+        const int before = m_store.folder->liveObjects();
         ASSERT_TRUE(browseStore());
-        m_store.script.conduct = bad;
+        m_store.folder->setOnly(bad);
         useView();
         expectOrdinaryFolder();
-        const bool isRelease = bad.contains(ViewCall::Release) || bad.contains(ViewCall::DataRelease) ||
-                               bad.contains(ViewCall::FolderRelease);
+        const bool isRelease = bad.contains(FolderCall::ViewRelease) || bad.contains(FolderCall::DataRelease) ||
+                               bad.contains(FolderCall::Release);
         if (!isRelease) {
-            EXPECT_EQ(m_store.script.liveObjects, before) << "the view is gone";
+            EXPECT_EQ(m_store.folder->liveObjects(), before) << "the view is gone";
         }
     });
 }
@@ -88,7 +87,7 @@ TEST_P(EveryMethod, OfAViewToBeShown_ThePreviousOneStaysOrTheNewOneIsThere) {
     forEachMethod([&](const Misconduct& bad) {
         expectOrdinaryFolder();
         IShellView* const previous = m_host.browser.GetCurrentShellView();
-        m_store.script.conduct = bad;
+        m_store.folder->setOnly(bad);
         if (browseStore()) {
             EXPECT_NE(m_host.browser.GetCurrentShellView(), previous);
             EXPECT_TRUE(m_host.list() != nullptr && IsChild(m_host.owner, m_host.list()));

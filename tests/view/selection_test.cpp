@@ -95,21 +95,4 @@ TEST_F(Selection, SyncToData_SelectsExactlyTheItemsOfTheFolder) {
     EXPECT_THAT(selectedNames(m_host), ElementsAre());
 }
 
-TEST_F(Selection, Change_IsNotifiedOnce) {
-    class Browser : public CNavCommDlgBrowser {
-    public:
-        void OnItemSelectionChange(IShellView* view) override {
-            ++changes;
-            lastView = view;
-        }
-        int changes = 0;
-        IShellView* lastView = nullptr;
-    } browser;
-    m_host.lendWindowsTo(browser);
-    ASSERT_TRUE(browser.BrowseObject(m_host.browser.GetCurrentObjectID(), SBSP_ABSOLUTE));
-    ListView_SetItemState(m_host.list(), 0, LVIS_SELECTED, LVIS_SELECTED);
-    EXPECT_EQ(browser.changes, 1);
-    EXPECT_EQ(browser.lastView, browser.GetCurrentShellView());
-}
-
 }  // namespace

@@ -37,11 +37,6 @@ std::string lettersOf(const std::vector<ItemList>& items) {
     return letters;
 }
 
-TEST(ShellIdList, WellFormedArray_GivesItemsInOrder) {
-    EXPECT_EQ(lettersOf(readShellIdList(makeArray("cab"))), "cab");
-    EXPECT_TRUE(readShellIdList(makeArray("")).empty());
-}
-
 TEST(ShellIdList, DamagedArray_NothingIsReadOutsideOfIt) {
     const auto sound = makeArray("abc");
     const auto with = [&sound](std::size_t at, UINT value) {
