@@ -60,7 +60,8 @@ NetworkAnswers::Known* NetworkAnswers::about(const CString& text) {
     const unsigned long long left = networkPatience() - std::min<unsigned long long>(m_waited, networkPatience());
     const NetworkAnswer answer = checkNetworkLocation(networkProbe(), path, static_cast<unsigned>(left));
     m_waited += GetTickCount64() - start;
-    return &m_known.emplace_back(location, answer);
+    m_known.push_back({location, answer});
+    return &m_known.back();
 }
 
 const NetworkAnswer* NetworkAnswers::refusal(const CString& text) {
