@@ -241,7 +241,9 @@ TEST_F(DialogFit, EveryControl_TellsItsNameAndRole_AndTabGoesThroughThem) {
     };
     TestDialog dialog(folder.path());
     DialogUser user(dialog);
-    user.untilShown({L"plan.dwg"}).check([&rows] {
+    // Names are given once the dialog has been painted.
+    const auto named = [] { return Told(DialogDriver::control(IDC_KNAV_LOOK_IN)).name() == "Look in"; };
+    user.untilShown({L"plan.dwg"}).until("names of the controls", named).check([&rows] {
         for (const Row& row : rows) {
             const Told told(DialogDriver::control(row.id));
             EXPECT_EQ(told.name(), utf8(row.name));
