@@ -21,10 +21,14 @@ INPUT character(wchar_t unit, DWORD flags) {
     return input;
 }
 
-INPUT button(DWORD flags) {
+// A button carries its place: the report of an earlier move that comes late would take the pointer elsewhere.
+INPUT button(DWORD flags, POINT position) {
+    const auto share = [](LONG pixel, int pixels) { return (pixel * 0x10000 + pixels - 1) / pixels; };
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
+    input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    input.mi.dx = share(position.x, GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = share(position.y, GetSystemMetrics(SM_CYSCREEN));
     return input;
 }
 
@@ -73,13 +77,16 @@ void knav::input::pressKey(WORD virtualKey, WORD modifier) {
 
 void knav::input::click(POINT position, int times, WORD modifier) {
     waitUntilClickStandsAlone(position);
-    SetCursorPos(position.x, position.y);
     std::vector<INPUT> inputs;
     for (int i = 0; i < times; ++i) {
-        inputs.push_back(button(MOUSEEVENTF_LEFTDOWN));
-        inputs.push_back(button(MOUSEEVENTF_LEFTUP));
+        inputs.push_back(button(MOUSEEVENTF_LEFTDOWN, position));
+        inputs.push_back(button(MOUSEEVENTF_LEFTUP, position));
     }
     sendWith(modifier, std::move(inputs));
+}
+
+void knav::input::parkPointer() {
+    SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
 }
 
 bool knav::input::waitUntil(const std::function<bool()>& ready, DWORD limitMs) {

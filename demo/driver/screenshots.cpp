@@ -111,7 +111,7 @@ private:
 
     // Away from the host's window, which would show at its edges, and from the pointer, which would light up a button.
     void moveAside(HWND window) const {
-        SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
+        knav::input::parkPointer();
         RECT host{};
         GetWindowRect(m_host.window(), &host);
         SetWindowPos(window, nullptr, host.right + 20, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);

@@ -24,6 +24,7 @@ using input::waitUntil;
 class DialogInput : public testing::Test {
 protected:
     DialogInput() {
+        input::parkPointer();
         m_prompts.emplace();
         m_folder.addFile(L"plan.dwg");
         m_folder.addFile(L"site plan.dwg");
