@@ -162,6 +162,12 @@ void knav::input::NavDialogWindow::dismissBox() const {
     waitUntil([&] { return GetForegroundWindow() == window; }, 3000);
     pressKey(VK_RETURN);
     waitUntil([&] { return !IsWindow(window); });
+    // What is typed before the dialog has the focus again goes nowhere.
+    waitUntil([this] { return !isOpen() || (GetForegroundWindow() == m_dialog && focusOf(m_dialog) != nullptr); },
+              3000);
+    if (isOpen()) {
+        waitUntilSettled(m_dialog);
+    }
 }
 
 HWND knav::input::NavDialogWindow::list() const {

@@ -47,7 +47,7 @@ TEST_F(CommandInput, UpAndBackThroughFiveFolders_ByButtonAndEachKey) {
         eyes.expectFolder(L"4");
         pressKey(VK_UP, VK_MENU);
         eyes.expectFolder(L"3");
-        eyes.tabTo(eyes.list());
+        eyes.tabToList();
         pressKey(VK_BACK);
         eyes.expectFolder(L"2");
         eyes.press(IDC_KNAV_UP);
@@ -139,7 +139,7 @@ TEST_F(CommandInput, ViewsToolsAndOkMenus_ByMouseAndKeys) {
         eyes.press(IDC_KNAV_VIEWS);
         eyes.chooseFromMenu({VK_ESCAPE});
         EXPECT_TRUE(window.isOpen()) << "Escape was for the menu";
-        eyes.tabTo(eyes.control(IDC_KNAV_VIEWS));
+        eyes.tabTo(IDC_KNAV_VIEWS);
         eyes.chooseByF4(IDC_KNAV_VIEWS, {VK_ESCAPE});
 
         window.typeName(L"plan");
@@ -179,7 +179,7 @@ TEST_F(CommandInput, WebFindRefreshAndNameField_ByButtonAndKey) {
         m_folder.addFile(L"last.dwg");
         eyes.press(IDC_KNAV_REFRESH);
         EXPECT_TRUE(waitUntil([&] { return eyes.shows(L"last.dwg"); }));
-        eyes.tabTo(eyes.list());
+        eyes.tabToList();
         pressKey('D', VK_MENU);
         EXPECT_TRUE(waitUntil([&] { return IsChild(eyes.control(IDC_KNAV_FILE_NAME), eyes.focus()) != FALSE; }));
         typeText(L"later");

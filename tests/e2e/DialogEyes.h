@@ -76,14 +76,11 @@ public:
         EXPECT_FALSE(isDropped()) << button;
         chooseFromMenu(keys);
     }
-    void tabTo(HWND window) const {
-        SetForegroundWindow(m_window);
-        for (int tabs = 0; tabs < 20 && focus() != window; ++tabs) {
-            const HWND before = focus();
-            pressKey(VK_TAB);
-            waitUntil([&] { return focus() != before; }, 2000);
-        }
-        EXPECT_EQ(focus(), window);
+    void tabTo(UINT id) const {
+        tabUntilOn([this, id] { return control(id); });
+    }
+    void tabToList() const {
+        tabUntilOn([this] { return list(); });
     }
     /// Types the name of an item in the list, which selects it; anew when the letters came too far apart.
     void typeAhead(const std::wstring& name) const {
@@ -93,7 +90,7 @@ public:
             return items.isSelected(items.find(name).value_or(-1));
         };
         for (int tries = 0; tries < 3 && !selected(); ++tries) {
-            tabTo(list());
+            tabToList();
             typeText(name);
             waitUntil(selected, 4000);
         }
@@ -102,10 +99,23 @@ public:
     /// Waits until the dialog is there, and listens again.
     void expectFolder(const std::wstring& name) const {
         EXPECT_TRUE(waitUntil([&] { return lookIn() == name; })) << utf8(name) << " expected, not " << utf8(lookIn());
-        SendMessageW(m_window, WM_NULL, 0, 0);
+        untilHandled();
     }
 
 private:
+    void untilHandled() const { SendMessageW(m_window, WM_NULL, 0, 0); }
+    // The list is another one after each change of folder, possibly a little late.
+    template <class Part>
+    void tabUntilOn(Part part) const {
+        SetForegroundWindow(m_window);
+        for (int tabs = 0; tabs < 20 && focus() != part(); ++tabs) {
+            const HWND before = focus();
+            pressKey(VK_TAB);
+            waitUntil([&] { return focus() != before; }, 2000);
+            untilHandled();  // the view hands the focus on to its list
+        }
+        EXPECT_EQ(focus(), part());
+    }
     GUITHREADINFO thread() const {
         GUITHREADINFO info{};
         info.cbSize = sizeof info;
