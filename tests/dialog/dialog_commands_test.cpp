@@ -293,5 +293,25 @@ TEST_F(DialogCommands, NameTypedBeforeGoingToTheView_IsFoundThere) {
     EXPECT_EQ(m_dialog.chosen(), paths({L"site.dwg"}));
 }
 
+class ListeningDialog : public TestDialog {
+public:
+    using TestDialog::TestDialog;
+    void onUp() { ++ups; }
+    int ups = 0;
+
+private:
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(ListeningDialog, TestDialog)
+ON_COMMAND(IDM_KNAV_UP, &ListeningDialog::onUp)
+END_MESSAGE_MAP()
+
+TEST_F(DialogCommands, CommandThatTheHostHandlesToo_IsDoneAllTheSame) {
+    ListeningDialog dialog(folder.addFolder(L"inner"));
+    DialogUser user(dialog);
+    EXPECT_EQ(user.command(IDM_KNAV_UP).untilFolder(folder.path()).cancel().run(), IDCANCEL);
+    EXPECT_EQ(dialog.ups, 1);
+}
+
 }  // namespace
 }  // namespace knav::test

@@ -107,5 +107,41 @@ TEST_F(DialogMeanwhile, DriveThatIsTakenOut_IsToldAndTheDialogCanBeUsedOn) {
     EXPECT_EQ(prompts.seen()[1].text, messageText(IDS_KNAV_NO_DRIVE, L"R:"));
 }
 
+std::vector<std::wstring> lookInRows() {
+    const HWND combo = DialogDriver::control(IDC_KNAV_LOOK_IN);
+    std::vector<std::wstring> rows(static_cast<std::size_t>(SendMessageW(combo, CB_GETCOUNT, 0, 0)));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        wchar_t text[MAX_PATH] = L"";
+        SendMessageW(combo, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
+        rows[i] = text;
+    }
+    return rows;
+}
+
+TEST_F(DialogMeanwhile, DriveThatIsPutIn_IsOfferedInTheLookInList) {
+    const auto drop = [](bool down) {
+        SendMessageW(DialogDriver::control(IDC_KNAV_LOOK_IN), CB_SHOWDROPDOWN, down, 0);
+    };
+    const auto listed = [&drop] {
+        drop(true);
+        const auto rows = lookInRows();
+        drop(false);
+        return std::ranges::any_of(rows, [](const auto& row) { return row.find(L"(R:)") != std::wstring::npos; });
+    };
+    TestDialog dialog(folder.path());
+    DialogUser user(dialog);
+    user.untilFolder(folder.path()).settle().check([&] {
+        EXPECT_FALSE(listed());
+        ASSERT_TRUE(DefineDosDeviceW(0, L"R:", folder.path()));
+        SendMessageW(DialogDriver::dialog(), WM_DEVICECHANGE, 0, 0);
+        EXPECT_TRUE(listed());
+        EXPECT_EQ(dialog.shownFolder(), folder.path());
+        DefineDosDeviceW(DDD_REMOVE_DEFINITION, L"R:", nullptr);
+        SendMessageW(DialogDriver::dialog(), WM_DEVICECHANGE, 0, 0);
+        EXPECT_FALSE(listed());
+    });
+    EXPECT_EQ(user.cancel().run(), IDCANCEL);
+}
+
 }  // namespace
 }  // namespace knav::test

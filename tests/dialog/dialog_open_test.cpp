@@ -233,9 +233,13 @@ TEST_F(DialogOpen, UnusableName_IsReportedAndKeptForRetyping) {
 
 TEST_F(DialogOpen, Cancel_LeavesTheProcessWhereItWas) {
     const std::filesystem::path before = std::filesystem::current_path();
+    const DWORD errorMode = GetThreadErrorMode();
     TestDialog dialog(folder.path());
-    EXPECT_EQ(DialogUser(dialog).press(VK_ESCAPE).run(), IDCANCEL);
+    DialogUser user(dialog);
+    user.check([] { EXPECT_TRUE(GetThreadErrorMode() & SEM_FAILCRITICALERRORS) << "an empty drive brings up a box"; });
+    EXPECT_EQ(user.press(VK_ESCAPE).run(), IDCANCEL);
     EXPECT_EQ(std::filesystem::current_path(), before);
+    EXPECT_EQ(GetThreadErrorMode(), errorMode);
 }
 
 TEST_F(DialogOpen, RememberedFolderThatIsGone_FallsBackToOneThatExists) {

@@ -50,17 +50,25 @@ TEST_F(DialogSave, ExistingFile_IsReplacedOnlyWhenTheUserAgrees) {
     }
 }
 
-TEST_F(DialogSave, AtTheRootOfAnExtension_NothingIsSaved) {
-    const ViewStore store;
-    prompts.answer(IDOK);
+TEST_F(DialogSave, InAnExtension_NothingIsSavedAtItsRootAndReplacingIsAsked) {
+    const ViewStore store(SFGAO_FOLDER);
+    const ItemList site = ItemList::join(store.root(), FakeFolder::item(L"site").get());
+    prompts.answer(IDOK).answer(IDNO);
     SaveDialog dialog(folder.path());
     auto& implementation = *static_cast<CNavDialogImp*>(dialog.GetImpObject());
     DialogUser user(dialog);
     user.check([&] { EXPECT_TRUE(implementation.NavigateToItemList(store.root())); });
     user.until("the root", [] { return lookInText() == L"Store"; }).type(L"new").ok().untilAsked(prompts).settle();
-    user.check([] { expectNameReadyToRetype(L"new"); }).cancel();
+    user.check([&] {
+        expectNameReadyToRetype(L"new");
+        EXPECT_TRUE(implementation.NavigateToItemList(site.get()));
+    });
+    user.until("the site", [] { return lookInText() == L"site"; }).type(L"item").ok().untilAsked(prompts, 2).settle();
+    user.check([] { expectNameReadyToRetype(L"item"); }).cancel();
     EXPECT_EQ(user.run(), IDCANCEL);
-    EXPECT_EQ(prompts.seen().back().text, messageText(IDS_KNAV_NO_SAVE_AT_ROOT));
+    ASSERT_EQ(prompts.seen().size(), 2u);
+    EXPECT_EQ(prompts.seen()[0].text, messageText(IDS_KNAV_NO_SAVE_AT_ROOT));
+    EXPECT_EQ(prompts.seen()[1].text, messageText(IDS_KNAV_REPLACE_REMOTE, L"site/item"));
 }
 
 TEST_F(DialogSave, FileHeldOpenElsewhere_IsNotOfferedForReplacement) {

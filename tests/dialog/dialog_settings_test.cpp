@@ -75,6 +75,13 @@ TEST_F(DialogSettings, InitialFolderAndFileType_AreForcedElseRememberedElseDefau
 }
 
 TEST_F(DialogSettings, OperationsOnTheRunningDialog_TakeEffectAtOnce) {
+    struct : CNavListCtrl {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            colorChanges += message == WM_SYSCOLORCHANGE;
+            return CNavListCtrl::WindowProc(message, wParam, lParam);
+        }
+        int colorChanges = 0;
+    } ownList;
     TestDialog dialog(folder.path());
     look(dialog, [&] {
         dialog.SetFilterIndex(kAllFiles);
@@ -92,8 +99,14 @@ TEST_F(DialogSettings, OperationsOnTheRunningDialog_TakeEffectAtOnce) {
         const CString later = folder.addFile(L"later.dwg");
         dialog.BrowseCurrentObject();
         EXPECT_THAT(shownNames(), testing::Contains(L"later.dwg"));
+        dialog.SetFolderListCtrl(&ownList);
         dialog.SetFolderComboCurSel(0);
         EXPECT_EQ(dialog.shownFolder(), L"Desktop");
+        EXPECT_EQ(ownList.m_hWnd, viewList()) << "it takes over the next view";
+        dialog.SetFolderListCtrl(nullptr);
+        EXPECT_EQ(dialog.GetFolderListCtrl(), &ownList);
+        SendMessageW(DialogDriver::dialog(), WM_SYSCOLORCHANGE, 0, 0);
+        EXPECT_EQ(ownList.colorChanges, 1);
     });
 }
 
@@ -242,6 +255,24 @@ TEST_F(DialogSettings, Texts_AreTheLibrarysOwnAlthoughTheHostHasSomeOfTheSameNum
     EXPECT_FALSE(messageText(IDS_KNAV_INVALID_NAME).IsEmpty());
 }
 
+POINT cornerOf(HWND window) {
+    RECT at{};
+    GetWindowRect(window, &at);
+    return {at.right, at.bottom};
+}
+
+void expectHostsControlMovesWithTheBorder(HWND dialog) {
+    const HWND hosts = GetDlgItem(dialog, 3001);
+    const POINT border = cornerOf(dialog);
+    const POINT before = cornerOf(hosts);
+    RECT at{};
+    GetWindowRect(dialog, &at);
+    SetWindowPos(dialog, nullptr, 0, 0, at.right - at.left + 70, at.bottom - at.top + 50, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(cornerOf(hosts).x - before.x, cornerOf(dialog).x - border.x);
+    EXPECT_EQ(cornerOf(hosts).y - before.y, cornerOf(dialog).y - border.y);
+    EXPECT_EQ(cornerOf(dialog).x - border.x, 70);
+}
+
 TEST_F(DialogSettings, HostTemplateWithoutALookInList_ShowsTheInitialFolderAllTheSame) {
     ResultArrays arrays;
     CNavDialog dialog(arrays.data, arrays.filters, 2001, nullptr, GetModuleHandleW(nullptr));
@@ -249,6 +280,7 @@ TEST_F(DialogSettings, HostTemplateWithoutALookInList_ShowsTheInitialFolderAllTh
     DialogDriver driver;
     driver.wait("the folder", [] { return viewList() && ListView_GetItemCount(viewList()) > 0; });
     driver.then("look", [&] {
+        expectHostsControlMovesWithTheBorder(DialogDriver::dialog());
         CString shown;
         dialog.GetCurrentFolderForPersistence(shown);
         EXPECT_EQ(shown, folder.path(L"sub"));
