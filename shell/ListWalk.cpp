@@ -34,6 +34,9 @@ ListMeasure measureList(const ITEMIDLIST* list) noexcept {
             found->count = ++count;
             found->bytes = bytes;
             found->last = element;
+            if (size < static_cast<int>(sizeof(USHORT))) {
+                found->torn = true;
+            }
             element = advance(element, size);
         }
         found->terminated = true;
@@ -42,7 +45,8 @@ ListMeasure measureList(const ITEMIDLIST* list) noexcept {
 }
 
 bool isWhole(const ITEMIDLIST* list) noexcept {
-    return list == nullptr || measureList(list).terminated;
+    const ListMeasure measure = measureList(list);
+    return list == nullptr || (measure.terminated && !measure.torn);
 }
 
 int elementSize(const ITEMIDLIST* list) noexcept {

@@ -13,12 +13,13 @@ struct ListMeasure {
     std::size_t bytes = 0;             ///< of all elements, without the terminator
     const ITEMIDLIST* last = nullptr;  ///< the last element; null when there is none
     bool terminated = false;           ///< the walk ended at a terminator, not at memory that cannot be read
+    bool torn = false;                 ///< an element is smaller than its count, which lies half in what follows it
 };
 
 /// Walks the whole list under one guard. Memory that cannot be read ends the list as a terminator would.
 ListMeasure measureList(const ITEMIDLIST* list) noexcept;
 
-/// `list` is null or can be read up to its terminator. The system's folders do not expect anything else: a fault in
+/// `list` is null or can be read up to its terminator and not torn. The system's folders do not expect anything else: a fault in
 /// them may leave their locks taken and their memory lost, so what they are given is looked at before.
 bool isWhole(const ITEMIDLIST* list) noexcept;
 

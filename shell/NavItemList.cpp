@@ -81,7 +81,11 @@ ITEMIDLIST* NavBuildItemList(IMalloc* allocator, ITEMIDLIST** lists, int count) 
     std::size_t total = 0;
     bool anyList = false;
     for (int index = 0; index < count; ++index) {
-        total += knav::measureList(lists[index]).bytes;
+        const knav::ListMeasure measure = knav::measureList(lists[index]);
+        if (measure.torn) {  // the next list would become part of its last count
+            return nullptr;
+        }
+        total += measure.bytes;
         anyList = anyList || lists[index] != nullptr;
     }
     if (!anyList) {

@@ -23,7 +23,8 @@ KNAV_API ITEMIDLIST* NavGetNextItemElement(ITEMIDLIST* list);
 KNAV_API ITEMIDLIST* NavExtractItemElement(IMalloc* allocator, ITEMIDLIST* list);
 
 /// A new list with the elements of `lists[0]` to `lists[count - 1]`, one after the other. Null entries add nothing;
-/// when all are null the result is null, and when all others are empty it is a new empty list.
+/// when all are null the result is null, and when all others are empty it is a new empty list. Null also when one of
+/// several lists has an element of one byte: what stands behind it would become part of its count.
 KNAV_API ITEMIDLIST* NavBuildItemList(IMalloc* allocator, ITEMIDLIST** lists, int count);
 
 /// A new list without the last element; null when nothing would be left.

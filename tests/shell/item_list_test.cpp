@@ -77,6 +77,10 @@ TEST(ItemList, BuildJoinsWhatItIsGiven) {
     EXPECT_FALSE(built({nullptr}));
     EXPECT_THAT(built({nullptr, empty.get()}).get(), HoldsSameBytes(empty.get()));
     EXPECT_THAT(built({b.get(), empty.get(), a.get()}).get(), HoldsSameBytes(makeList({"ccc", "a", "bb"}).get()));
+    std::vector<BYTE> torn = {1, 0, 0};  // its only element's count ends in the terminator
+    EXPECT_FALSE(built({asList(torn), a.get()})) << "would read on behind its block";
+    EXPECT_FALSE(isWhole(asList(torn)));
+    EXPECT_THAT(built({asList(torn)}).get(), HoldsSameBytes(asList(torn)));
     ITEMIDLIST* lists[] = {a.get()};
     EXPECT_EQ(NavBuildItemList(nullptr, lists, 1), nullptr);
     EXPECT_EQ(NavBuildItemList(shell, nullptr, 1), nullptr);
