@@ -3,68 +3,9 @@
 #include <atomic>
 
 #include "data/ApiEdge.h"
-#include "shell/ComPtr.h"
-#include "shell/ItemList.h"
+#include "view/ShellIdList.h"
 
 namespace knav {
-namespace {
-
-FORMATETC itemListFormat() {
-    static const auto format = static_cast<CLIPFORMAT>(RegisterClipboardFormatW(CFSTR_SHELLIDLIST));
-    FORMATETC wanted{};
-    wanted.cfFormat = format;
-    wanted.dwAspect = DVASPECT_CONTENT;
-    wanted.lindex = -1;
-    wanted.tymed = TYMED_HGLOBAL;
-    return wanted;
-}
-
-/// The data of an object in the form of the shell's item lists; freed at the end of the scope.
-class ItemListData {
-public:
-    explicit ItemListData(IDataObject* object) {
-        FORMATETC format = itemListFormat();
-        if (FAILED(guarded([&] { return object->GetData(&format, &m_medium); })))
-            m_medium = {};
-        if (m_medium.tymed == TYMED_HGLOBAL && m_medium.hGlobal)
-            m_items = static_cast<const CIDA*>(GlobalLock(m_medium.hGlobal));
-    }
-    ~ItemListData() {
-        if (m_items)
-            GlobalUnlock(m_medium.hGlobal);
-        guardedRun([this] { ReleaseStgMedium(&m_medium); });
-    }
-    ItemListData(const ItemListData&) = delete;
-    ItemListData& operator=(const ItemListData&) = delete;
-
-    UINT count() const { return m_items && fits(m_items->cidl) ? m_items->cidl : 0; }
-    ItemList at(UINT index) const { return ItemList::join(part(0), part(index + 1)); }
-
-private:
-    bool fits(UINT items) const {
-        const SIZE_T size = GlobalSize(m_medium.hGlobal);
-        if (size < sizeof(CIDA) || items > size / sizeof(UINT) || size < (items + 2) * sizeof(UINT))
-            return false;
-        for (UINT i = 0; i <= items; ++i) {
-            if (m_items->aoffset[i] + sizeof(USHORT) > size)
-                return false;
-        }
-        return true;
-    }
-    const ITEMIDLIST* part(UINT index) const {
-        return reinterpret_cast<const ITEMIDLIST*>(reinterpret_cast<const BYTE*>(m_items) + m_items->aoffset[index]);
-    }
-
-    STGMEDIUM m_medium{};
-    const CIDA* m_items = nullptr;
-};
-
-bool holdsItems(IDataObject* object) {
-    FORMATETC format = itemListFormat();
-    return object && guarded([&] { return object->QueryGetData(&format); }) == S_OK;
-}
-
-}  // namespace
 
 class PlacesDropScope::Target final : public IDropTarget {
 public:
@@ -91,7 +32,7 @@ public:
     }
 
     STDMETHODIMP DragEnter(IDataObject* object, DWORD, POINTL, DWORD* effect) override {
-        m_wanted = atApiEdge(false, [&] { return m_accept && holdsItems(object); });
+        m_wanted = atApiEdge(false, [&] { return m_accept && object && offersShellIdList(object); });
         return DragOver(0, {}, effect);
     }
     STDMETHODIMP DragOver(DWORD, POINTL, DWORD* effect) override {
@@ -118,10 +59,10 @@ private:
     ~Target() = default;
 
     bool takeAll(IDataObject* object, POINT screen) {
-        const ItemListData items(object);
+        const ShellIdList dropped = shellIdListOf(object);
         bool taken = false;
-        for (UINT i = 0; i < items.count() && m_accept; ++i)
-            taken = m_accept(items.at(i).get(), screen) || taken;
+        for (auto item = dropped.items.begin(); dropped.folder && item != dropped.items.end() && m_accept; ++item)
+            taken = m_accept(ItemList::join(dropped.folder.get(), item->get()).get(), screen) || taken;
         return taken;
     }
 

@@ -33,7 +33,7 @@ std::vector<ItemList> selectedItems(const BrowserState& state) {
     const auto object = ComPtr<IDataObject>::from([&view](IDataObject** result) {
         return view->GetItemObject(SVGIO_SELECTION, IID_IDataObject, reinterpret_cast<void**>(result));
     });
-    return object ? itemsOf(object.get()) : std::vector<ItemList>();
+    return object ? shellIdListOf(object.get()).items : std::vector<ItemList>();
 }
 
 NAV_DATA_TYPE typeOf(SiteKind location, const CString& parsingName) {

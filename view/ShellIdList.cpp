@@ -58,24 +58,37 @@ bool holdsList(std::span<const std::byte> bytes, std::size_t at) {
     return size && *size == 0;
 }
 
-}  // namespace
-
-std::vector<ItemList> readShellIdList(std::span<const std::byte> bytes) {
-    std::vector<ItemList> items;
-    const UINT count = numberAt<UINT>(bytes, 0).value_or(0);
-    for (std::size_t item = 1; item <= count; ++item) {
-        const auto offset = numberAt<UINT>(bytes, sizeof(UINT) * (item + 1));
-        if (!offset || !holdsList(bytes, *offset)) {
-            break;
-        }
-        items.push_back(ItemList::copyOf(reinterpret_cast<const ITEMIDLIST*>(bytes.data() + *offset)));
-    }
-    return items;
+// The list that an offset of the array, the folder's before those of the items, leads to; null when it does not lie in
+// the bytes.
+ItemList listAt(std::span<const std::byte> bytes, std::size_t index) {
+    const auto offset = numberAt<UINT>(bytes, sizeof(UINT) * (index + 1));
+    return offset && holdsList(bytes, *offset)
+               ? ItemList::copyOf(reinterpret_cast<const ITEMIDLIST*>(bytes.data() + *offset))
+               : ItemList();
 }
 
-std::vector<ItemList> itemsOf(IDataObject* object) {
-    static const auto shellIdList = static_cast<CLIPFORMAT>(RegisterClipboardFormatW(CFSTR_SHELLIDLIST));
-    FORMATETC format{shellIdList, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
+FORMATETC shellIdListFormat() {
+    static const auto format = static_cast<CLIPFORMAT>(RegisterClipboardFormatW(CFSTR_SHELLIDLIST));
+    return {format, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
+}
+
+}  // namespace
+
+ShellIdList readShellIdList(std::span<const std::byte> bytes) {
+    ShellIdList array{listAt(bytes, 0), {}};
+    const UINT count = numberAt<UINT>(bytes, 0).value_or(0);
+    for (std::size_t index = 1; index <= count; ++index) {
+        ItemList item = listAt(bytes, index);
+        if (!item) {
+            break;
+        }
+        array.items.push_back(std::move(item));
+    }
+    return array;
+}
+
+ShellIdList shellIdListOf(IDataObject* object) {
+    FORMATETC format = shellIdListFormat();
     StorageMedium storage;
     if (FAILED(guarded([&] { return object->GetData(&format, &storage.medium); })) ||
         storage.medium.tymed != TYMED_HGLOBAL) {
@@ -83,6 +96,11 @@ std::vector<ItemList> itemsOf(IDataObject* object) {
     }
     const LockedMemory memory(storage.medium.hGlobal);
     return readShellIdList(memory.bytes());
+}
+
+bool offersShellIdList(IDataObject* object) {
+    FORMATETC format = shellIdListFormat();
+    return guarded([&] { return object->QueryGetData(&format); }) == S_OK;
 }
 
 }  // namespace knav

@@ -9,11 +9,18 @@
 
 namespace knav {
 
-/// The items in the format's bytes, in order, each relative to the folder that the array names first. Nothing is read
-/// outside of the bytes: an item that does not lie in them ends the array.
-std::vector<ItemList> readShellIdList(std::span<const std::byte> bytes);
+struct ShellIdList {
+    ItemList folder;              ///< qualified; null when its list does not lie in the bytes
+    std::vector<ItemList> items;  ///< in order, each relative to the folder
+};
 
-/// The items of a data object; none when it does not offer the format.
-std::vector<ItemList> itemsOf(IDataObject* object);
+/// Reads the format's bytes and nothing outside of them: an item that does not lie in them ends the array.
+ShellIdList readShellIdList(std::span<const std::byte> bytes);
+
+/// The array of a data object; an empty one when it does not offer the format.
+ShellIdList shellIdListOf(IDataObject* object);
+
+/// Whether a data object offers the format.
+bool offersShellIdList(IDataObject* object);
 
 }  // namespace knav

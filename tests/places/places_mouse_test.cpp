@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "PlacesFixture.h"
+#include "shell/ComPtr.h"
 
 namespace knav::test {
 namespace {
@@ -60,6 +61,47 @@ TEST_F(PlacesMouse, dragGivenUp_changesNothing) {
     m_list.PostMessage(WM_CANCELMODE);
     m_list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, inRow(0));
     EXPECT_EQ(0, m_window.chosen) << "the capture was lost";
+}
+
+/// A source that lets go as soon as it is over a target.
+class LetsGo final : public IDropSource {
+public:
+    STDMETHODIMP QueryInterface(REFIID, void** object) override {
+        *object = nullptr;
+        return E_NOINTERFACE;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return 2; }
+    STDMETHODIMP_(ULONG) Release() override { return 1; }
+    STDMETHODIMP QueryContinueDrag(BOOL, DWORD) override { return m_over ? DRAGDROP_S_DROP : S_OK; }
+    STDMETHODIMP GiveFeedback(DWORD) override {
+        m_over = true;
+        return DRAGDROP_S_USEDEFAULTCURSORS;
+    }
+
+private:
+    bool m_over = false;
+};
+
+TEST_F(PlacesMouse, foldersDroppedFromTheShell_becomeRows) {
+    ASSERT_TRUE(m_list.RegisterDropTarget());
+    const ItemList lists[] = {ItemList::adopt(ILCreateFromPathW(m_folder.addFolder(L"one"))),
+                              ItemList::adopt(ILCreateFromPathW(m_folder.addFile(L"plan.dwg"))),
+                              ItemList::adopt(ILCreateFromPathW(m_folder.addFolder(L"two")))};
+    const ItemList folder = ItemList::parentOf(lists[0].get());
+    const ITEMIDLIST* items[] = {ILFindLastID(lists[0].get()), ILFindLastID(lists[1].get()),
+                                 ILFindLastID(lists[2].get())};
+    ComPtr<IDataObject> object;
+    ASSERT_EQ(S_OK, CIDLData_CreateFromIDArray(folder.get(), 3, items, object.put()));
+    POINT at{20, 455};
+    m_list.ClientToScreen(&at);
+    SetCursorPos(at.x, at.y);
+    LetsGo source;
+    DWORD effect = 0;
+    EXPECT_EQ(DRAGDROP_S_DROP, DoDragDrop(object.get(), &source, DROPEFFECT_COPY | DROPEFFECT_LINK, &effect));
+    EXPECT_EQ(DWORD{DROPEFFECT_LINK}, effect);
+    ASSERT_EQ(6, m_list.GetCount()) << "the file is no place";
+    EXPECT_EQ(CString(L"one"), m_list.GetItemDisplayText(4));
+    EXPECT_EQ(CString(L"two"), m_list.GetItemDisplayText(5));
 }
 
 TEST_F(PlacesMouse, pointer_marksTheRowUnderIt) {

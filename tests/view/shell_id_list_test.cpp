@@ -48,14 +48,16 @@ TEST(ShellIdList, DamagedArray_NothingIsReadOutsideOfIt) {
         const char* why;
         std::vector<std::byte> bytes;
         const char* letters;
+        bool hasFolder = true;
     } rows[] = {
-        {"no bytes at all", {}, ""},
-        {"cut in the count", {sound.begin(), sound.begin() + 2}, ""},
-        {"cut in the offsets", {sound.begin(), sound.begin() + 14}, ""},
+        {"no bytes at all", {}, "", false},
+        {"cut in the count", {sound.begin(), sound.begin() + 2}, "", false},
+        {"cut in the offsets", {sound.begin(), sound.begin() + 14}, "", false},
         {"cut before the last terminator", {sound.begin(), sound.end() - 2}, "ab"},
         {"a count far too large", with(0, 0xFFFFFFFF), "abc"},
         {"an offset behind the end", with(12, 10000), "a"},
         {"an offset near the largest number", with(8, 0xFFFFFFFE), ""},
+        {"the folder's offset behind the end", with(4, 10000), "abc", false},
         {"an element longer than the rest", with(sound.size() - 5, 0x61FFFF), "ab"},
     };
     knav::test::PageEnd page;
@@ -63,7 +65,9 @@ TEST(ShellIdList, DamagedArray_NothingIsReadOutsideOfIt) {
         SCOPED_TRACE(row.why);
         const auto* const start = reinterpret_cast<const std::byte*>(
             page.put(reinterpret_cast<const BYTE*>(row.bytes.data()), row.bytes.size()));
-        EXPECT_EQ(lettersOf(readShellIdList({start, row.bytes.size()})), row.letters);
+        const ShellIdList array = readShellIdList({start, row.bytes.size()});
+        EXPECT_EQ(lettersOf(array.items), row.letters);
+        EXPECT_EQ(static_cast<bool>(array.folder), row.hasFolder);
     }
 }
 
