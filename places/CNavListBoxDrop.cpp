@@ -3,33 +3,29 @@
 #include <knav/CNavPathname.h>
 #include <knav/NavFolders.h>
 #include <knav/NavNames.h>
-
-#include <wininet.h>
+#include <knav/NavUrl.h>
 
 #include "places/PlaceRecord.h"
 #include "places/PlacesDropTarget.h"
 #include "places/PlacesHost.h"
 #include "shell/ExtensionItems.h"
 #include "shell/FolderCalls.h"
-#include "shell/TextRules.h"
 
 using namespace knav;
 
 namespace {
 
 DWORD attributesOfQualified(const ITEMIDLIST* list, DWORD mask) {
-    const auto parent = ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(ItemList::parentOf(list).get()));
-    const ITEMIDLIST* child = ILFindLastID(list);
-    return attributesOf(parent ? parent.get() : desktopFolder().get(), child, mask).value_or(0);
+    const ITEMIDLIST* const child = measureList(list).last;
+    const ItemList parent = ItemList::parentOf(list);
+    const auto folder = parent ? ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(parent.get())) : desktopFolder();
+    return folder ? attributesOf(folder.get(), child ? child : emptyList(), mask).value_or(0) : 0;
 }
 
 // Readable, where it is a URL that fits the buffer; as it is otherwise.
-CString readableName(const CString& name) {
-    if (!NavIsURL(name))
-        return name;
-    wchar_t readable[MAX_PATH];
-    DWORD size = MAX_PATH;
-    return InternetCanonicalizeUrlW(name, readable, &size, ICU_DECODE | ICU_NO_ENCODE) ? CString(readable) : name;
+CString readableName(CString name) {
+    NavDecodeURL(name, name);
+    return name;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "resources/ids.h"
 #include "shell/ItemList.h"
 #include "shell/RegisteredExtensions.h"
+#include "support/ItemLists.h"
 #include "support/ObjectCounts.h"
 
 namespace knav::test {
@@ -256,6 +257,9 @@ TEST_F(PlacesModel, droppedFolder_goesUnderThePointer) {
     EXPECT_EQ(-1, m_list.AddDroppedItem(file, POINT{5, 5})) << "a file is no place";
     EXPECT_EQ(-1, m_list.AddDroppedItem(ItemList::adopt(ILCreateFromPathW(file)).get(), POINT{5, 5}));
     EXPECT_EQ(-1, m_list.AddDroppedItem(static_cast<const ITEMIDLIST*>(nullptr), POINT{5, 5}));
+    PageEnd page;
+    const BYTE cut[] = {4, 0, 1, 2};
+    EXPECT_EQ(-1, m_list.AddDroppedItem(page.put(cut, sizeof(cut)), POINT{5, 5})) << "no terminator";
     EXPECT_EQ(1, m_window.changed);
     const auto more = ItemList::adopt(ILCreateFromPathW(m_folder.addFolder(L"more")));
     EXPECT_EQ(5, m_list.AddDroppedItem(more.get(), POINT{5, 10'000})) << "beyond the rows: at the end";
