@@ -245,8 +245,8 @@ private:
     OkHandlerErr finishItem(CNavData& item);
     void resolveShortcut(CNavData& item, CString& text);
     void classifyItem(CNavData& item, const CString& text);
-    bool folderOutOfReach(CString& folder);
     void reportNameError(OkHandlerErr error);
+    bool firstIsFolder();
     void rememberName();
     void processOk();
     std::optional<CString> folderTextForNames(CNavNode* node, CString& prefix, bool& unnamed);

@@ -177,8 +177,11 @@ CNavNode* CNavDialogImp::lookInNode() const {
     return currentFolderNode();
 }
 
+/// False also for a folder on a server that has gone meanwhile: to make a path name is to ask the disk.
 bool CNavDialogImp::selectedFolderPathname(CNavPathname& folder) {
-    return m_lookIn.GetSafeHwnd() && m_lookIn.GetPathname(folder);
+    CString shown;
+    GetCurrentFolderForPersistence(shown);
+    return m_lookIn.GetSafeHwnd() && withinReach(shown) && m_lookIn.GetPathname(folder);
 }
 
 int CNavDialogImp::GetPersonalFolderPath(CString& path) {

@@ -141,8 +141,8 @@ void CNavDialogImp::PrepareToolsMenu(CMenu* menu) {
     facts.hasName = !knav::trimmed(fileNameText().view()).empty();
     facts.hasPlaces = m_places.GetSafeHwnd() && !m_policies.noPlacesList;
     facts.isPlace = facts.hasPlaces && m_places.GetCurSel() >= 0;
-    CNavPathname folder;
-    facts.isRemote = selectedFolderPathname(folder) && folder.GetIsURL();
+    const CNavNode* node = currentFolderNode();
+    facts.isRemote = node && (node->IsInternetType() || node->IsWebFoldersType());
     GetCurrentFolder(facts.folder);
     facts.selected = selectedCount();
     knav::prepareToolsMenu(*menu, facts);

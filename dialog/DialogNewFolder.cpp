@@ -64,6 +64,12 @@ void CNavDialogImp::CmdNewFolder() {
         OnFTPConfig();
         return;
     }
+    const knav::NetworkAnswers::Scope asked(m_ok.network);
+    CString shown;
+    GetCurrentFolderForPersistence(shown);
+    if (!validateUNC(shown)) {
+        return;
+    }
     const CString name = GetNewFolderNameToAdd();
     if (name.IsEmpty()) {
         return;
@@ -78,7 +84,7 @@ void CNavDialogImp::CmdNewFolder() {
 void CNavDialogImp::createFolderOnDisk(const CString& name) {
     CNavPathname folder;
     CString path;
-    const bool hasPath = selectedFolderPathname(folder) && folder.GetFullPath(path) && withinReach(path);
+    const bool hasPath = selectedFolderPathname(folder) && folder.GetFullPath(path);
     const CString full = path.TrimRight(L'\\') + L"\\" + name;
     if (!hasPath || !CreateDirectoryW(full, nullptr)) {
         knav::showMessage(m_facade, IDS_KNAV_NEW_FOLDER_FAILED, name);

@@ -14,6 +14,11 @@ bool sameLocation(const NetworkName& a, const NetworkName& b) {
     return a.place == b.place && equalNoCase(a.server, b.server) && equalNoCase(a.share, b.share);
 }
 
+/// The system knows the kind of a drive without asking it.
+bool isLocalDrive(const NetworkName& location) {
+    return location.place == NetworkPlace::Drive && GetDriveTypeW((location.server + L"\\").c_str()) != DRIVE_REMOTE;
+}
+
 /// A text as the file system takes it: without the blanks and quotes around it, with backslashes, and without the mark
 /// of a path that may be long.
 std::wstring plainPath(std::wstring_view text) {
@@ -42,26 +47,30 @@ void NetworkAnswers::forget() {
     m_waited = 0;
 }
 
-/// What is known about the location of a text, asked now if it was not; null for a text that is no path on a network.
+/// What is known about the location of a text, asked now if it was not; null for a text that has none.
 NetworkAnswers::Known* NetworkAnswers::about(const CString& text) {
     const CString path(plainPath(text.view()));
-    if (!NavIsUNCPath(path)) {
+    const NetworkName location = splitNetworkName(path.view());
+    if (location.place == NetworkPlace::None && !NavIsUNCPath(path)) {
         return nullptr;
     }
     const Scope alone(*this);
-    const NetworkName location = splitNetworkName(path.view());
     const auto known =
         std::ranges::find_if(m_known, [&](const Known& entry) { return sameLocation(entry.location, location); });
     if (known != m_known.end()) {
         return &*known;
     }
+    m_known.push_back({location, isLocalDrive(location) ? NetworkAnswer{true, false, 0, {}} : ask(path)});
+    return &m_known.back();
+}
+
+NetworkAnswer NetworkAnswers::ask(const CString& path) {
     const CWaitCursor wait;
     const ULONGLONG start = GetTickCount64();
     const unsigned long long left = networkPatience() - std::min<unsigned long long>(m_waited, networkPatience());
     const NetworkAnswer answer = checkNetworkLocation(networkProbe(), path, static_cast<unsigned>(left));
     m_waited += GetTickCount64() - start;
-    m_known.push_back({location, answer});
-    return &m_known.back();
+    return answer;
 }
 
 const NetworkAnswer* NetworkAnswers::refusal(const CString& text) {
@@ -72,7 +81,7 @@ const NetworkAnswer* NetworkAnswers::refusal(const CString& text) {
 const NetworkAnswer* NetworkAnswers::refusalAfterLogin(HWND owner, const CString& text) {
     const Scope asked(*this);
     Known* known = about(text);
-    // A server itself has nothing that one could log in to.
+    // Only a share can be logged in to.
     if (known && known->answer.wantsLogin && !known->location.share.empty()) {
         known->answer = networkLogin(networkProbe(), owner, known->location);
     }

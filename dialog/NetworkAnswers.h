@@ -7,9 +7,9 @@
 
 namespace knav {
 
-/// Asks about each location once, and about nothing on a disk: a server that is not there would hold whoever asks the
-/// file system. All questions of one scope together take no longer than the user is expected to wait (networkPatience).
-/// User-interface thread only.
+/// Asks about each location once, and about nothing on a disk of this machine: a server that is not there, under its
+/// name or that of a drive, would hold whoever asks the file system. All questions of one scope together take no longer
+/// than the user is expected to wait (networkPatience). User-interface thread only.
 class NetworkAnswers {
 public:
     /// One thing that the user or the host does: answers are kept as long as the outermost of these lives. Without
@@ -39,6 +39,7 @@ private:
         const NetworkAnswer* refusal() const { return answer.reachable ? nullptr : &answer; }
     };
     Known* about(const CString& text);
+    NetworkAnswer ask(const CString& path);
     void forget();
 
     std::deque<Known> m_known;

@@ -1,6 +1,7 @@
 #include "dialog/NetworkCheck.h"
 
 #include "dialog/AskInTime.h"
+#include "dialog/NameRules.h"
 #include "shell/TextRules.h"
 
 namespace knav {
@@ -27,6 +28,8 @@ unsigned long ask(NetworkProbe& probe, const NetworkName& name, const std::wstri
         case NetworkPlace::Path:
             error = probe.path(text, message);
             break;
+        case NetworkPlace::Drive:
+            return probe.drive(name.server);
         case NetworkPlace::None:
             return ERROR_INVALID_NAME;
     }
@@ -48,7 +51,7 @@ unsigned codeOf(unsigned long error) {
         return kNetworkLoginCancelled;
     }
     const bool invalid = error == ERROR_INVALID_NAME || error == ERROR_BAD_PATHNAME;
-    return invalid ? kNetworkNameInvalid : 1;
+    return invalid ? kNetworkNameInvalid : kNetworkUnreachable;
 }
 
 }  // namespace
@@ -62,6 +65,9 @@ void setNetworkPatience(unsigned milliseconds) {
 }
 
 NetworkName splitNetworkName(std::wstring_view text) {
+    if (const auto drive = driveOf(text)) {
+        return {NetworkPlace::Drive, *drive, {}};
+    }
     if (!text.starts_with(L"\\\\") || text.starts_with(L"\\\\\\")) {
         return {};
     }
@@ -93,7 +99,7 @@ NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, uns
         },
         limit);
     if (!outcome) {
-        return {false, false, 1, {}};
+        return {false, false, kNetworkUnreachable, {}};
     }
     const bool asksWho = wantsLogin(outcome->error);
     return {outcome->error == NO_ERROR || asksWho, asksWho, codeOf(outcome->error), CString(outcome->message)};

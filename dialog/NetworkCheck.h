@@ -11,12 +11,14 @@ namespace knav {
 inline constexpr unsigned kNetworkNameInvalid = 16;
 /// Result code of a login that the user gave up.
 inline constexpr unsigned kNetworkLoginCancelled = 2;
+/// Result code of every other refusal.
+inline constexpr unsigned kNetworkUnreachable = 1;
 
 struct NetworkAnswer {
     bool reachable = false;
     bool wantsLogin = false;  ///< it is there, but not for a user whom it does not know
-    unsigned code = 0;
-    CString message;  ///< the network's own words, when it has any
+    unsigned code = 0;        ///< of a refusal
+    CString message;          ///< the network's own words, when it has any
 };
 
 /// Asks the network. It may block, and is called on a worker thread except where it says so.
@@ -28,6 +30,8 @@ public:
     virtual unsigned long server(const std::wstring& server, std::wstring& message) = 0;
     virtual unsigned long share(const std::wstring& server, const std::wstring& share, std::wstring& message) = 0;
     virtual unsigned long path(const std::wstring& path, std::wstring& message) = 0;
+    /// A drive, "X:", that stands for a place on the network.
+    virtual unsigned long drive(const std::wstring& drive) = 0;
     /// Lets the user log in to a share, "\\server\share", in a window over `owner`; on the user-interface thread.
     /// ERROR_CANCELLED when the user does not want to.
     virtual unsigned long logIn(HWND owner, const std::wstring& share, std::wstring& message) = 0;
@@ -38,11 +42,11 @@ public:
 NetworkProbe& networkProbe();
 void setNetworkProbe(NetworkProbe* probe);
 
-/// What kind of network location a text names.
-enum class NetworkPlace { None, Server, Share, Path };
+/// What kind of network location a text names. Any drive can be one.
+enum class NetworkPlace { None, Server, Share, Path, Drive };
 struct NetworkName {
     NetworkPlace place = NetworkPlace::None;
-    std::wstring server;  ///< with its two backslashes
+    std::wstring server;  ///< with its two backslashes; the drive and its colon
     std::wstring share;   ///< without separators
 };
 NetworkName splitNetworkName(std::wstring_view text);

@@ -54,7 +54,9 @@ OkHandlerErr CNavDialogImp::finishItem(CNavData& item) {
     if (!item.GetID()) {
         UpdateFileExtension(text, 0);
     }
-    resolveShortcut(item, text);
+    if (withinReach(text)) {
+        resolveShortcut(item, text);
+    }
     item.SetText(text);
     if (!withinReach(text)) {
         item.SetDataType(NAV_DATA_NETWORK);
@@ -121,12 +123,6 @@ std::optional<CString> CNavDialogImp::folderTextForNames(CNavNode* node, CString
     return folder;
 }
 
-/// Whether the folder shown lies on a server that has gone meanwhile; its text is then in `folder`.
-bool CNavDialogImp::folderOutOfReach(CString& folder) {
-    GetCurrentFolderForPersistence(folder);
-    return !withinReach(folder);
-}
-
 OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CString& text) {
     text = item->GetText();
     CNavNode* node = currentFolderNode();
@@ -136,9 +132,6 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
     }
     if (isPickedFile(*item)) {
         return OkErrNone;
-    }
-    if (CString shown; folderOutOfReach(shown)) {
-        return knav::appendPath(text, shown) ? OkErrNone : OkErrNameTooLong;
     }
     CString prefix;
     bool unnamed = false;

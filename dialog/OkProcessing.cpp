@@ -78,15 +78,18 @@ int CNavDialogImp::SendCurrentFolderToData() {
     return 1;
 }
 
+bool CNavDialogImp::firstIsFolder() {
+    const CNavData* first = m_data.GetData(0);
+    const CNavPathname* path = first ? first->GetPathname() : nullptr;
+    return path && path->GetType() == CZoUiPathname::Directory && withinReach(first->GetText()) && path->Exists();
+}
+
 int CNavDialogImp::OnFileNameOK() {
     const bool asksBeforeReplacing = m_options.creatingFile && m_options.confirmReplace;
 
     if (FileDialogAllowReturnFolderEnabler::status()) {
-        if (m_data.GetCount() == 0) {
-            SendCurrentFolderToData();
-        }
-        CNavData* first = m_data.GetData(0);
-        if (first && first->GetPathname()->GetType() == CZoUiPathname::Directory && first->GetPathname()->Exists()) {
+        SendCurrentFolderToData();
+        if (firstIsFolder()) {
             SaveCurrentStates();
             return 1;
         }

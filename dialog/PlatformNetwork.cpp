@@ -118,6 +118,12 @@ public:
         return resourceInformation(path, message);
     }
 
+    /// Whoever asks a drive connects it again where that is needed; the network would have to be told to.
+    unsigned long drive(const std::wstring& drive) override {
+        const bool isThere = GetFileAttributesW((drive + L"\\").c_str()) != INVALID_FILE_ATTRIBUTES;
+        return isThere ? NO_ERROR : GetLastError();
+    }
+
     unsigned long logIn(HWND owner, const std::wstring& share, std::wstring& message) override {
         std::wstring name = share;
         NETRESOURCEW resource{};

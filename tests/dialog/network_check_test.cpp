@@ -2,14 +2,19 @@
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
+#include <knav/FileDialogAllowReturnFolderEnabler.h>
+#include <winioctl.h>
 
 #include <atomic>
 #include <mutex>
 
 #include "dialog/DialogUser.h"
 #include "dialog/FolderTexts.h"
+#include "dialog/Messages.h"
 #include "dialog/NetworkAnswers.h"
+#include "shell/ScopedHandle.h"
 #include "support/Printers.h"
+#include "support/RealNamespace.h"
 
 namespace knav {
 namespace {
@@ -28,7 +33,7 @@ constexpr struct {
     {"a path", L"\\\\srv\\plans\\a\\b.dwg", NetworkPlace::Path, L"\\\\srv", L"plans"},
     {"nothing behind the backslashes", L"\\\\", NetworkPlace::None, L"", L""},
     {"three backslashes", L"\\\\\\srv", NetworkPlace::None, L"", L""},
-    {"a local path", L"C:\\plans", NetworkPlace::None, L"", L""},
+    {"a path on a drive", L"c:\\plans", NetworkPlace::Drive, L"C:", L""},
     {"nothing", L"", NetworkPlace::None, L"", L""},
 };
 
@@ -46,7 +51,7 @@ TEST(NetworkCheck, SplitNetworkName_TellsServerShareAndPath) {
 class FakeNetwork : public NetworkProbe {
 public:
     explicit FakeNetwork(unsigned long error, std::wstring message = {})
-        : m_error(error), m_message(std::move(message)) {}
+        : answer(error), m_message(std::move(message)) {}
 
     unsigned long server(const std::wstring& server, std::wstring& message) override {
         return note(L"server " + server, message);
@@ -56,6 +61,10 @@ public:
     }
     unsigned long path(const std::wstring& path, std::wstring& message) override {
         return note(L"path " + path, message);
+    }
+    unsigned long drive(const std::wstring& drive) override {
+        std::wstring unused;
+        return note(L"drive " + drive, unused);
     }
     unsigned long logIn(HWND, const std::wstring& share, std::wstring&) override {
         m_loggedInTo = share;
@@ -67,6 +76,7 @@ public:
     }
     const std::wstring& loggedInTo() const { return m_loggedInTo; }
 
+    unsigned long answer;
     unsigned long loginAnswer = NO_ERROR;
 
 protected:
@@ -74,11 +84,10 @@ protected:
         const std::scoped_lock lock(m_mutex);
         m_asked = std::move(question);
         message = m_message;
-        return m_error;
+        return answer;
     }
 
 private:
-    const unsigned long m_error;
     const std::wstring m_message;
     mutable std::mutex m_mutex;
     std::wstring m_asked;
@@ -267,6 +276,78 @@ TEST(NetworkCheck, OptionsOnAServerThatIsGone_AreTakenByTheirTextAlone) {
     EXPECT_EQ(dialog.NavigateToFolder(L"\\\\gone\\plans"), 0);
     EXPECT_EQ(gone.asked(), L"") << "nobody has an answer yet";
     gone.letGo();
+}
+
+/// A folder of this machine under a drive letter of the network.
+class MappedDrive {
+public:
+    explicit MappedDrive(CString folder) {
+        folder.Replace(L"C:\\", L"../drive_c/");
+        folder.Replace(L"\\", L"/");
+        define(test::utf8(folder.view()));
+    }
+    ~MappedDrive() { define({}); }
+    MappedDrive(const MappedDrive&) = delete;
+    MappedDrive& operator=(const MappedDrive&) = delete;
+
+private:
+    struct Request {
+        ULONG size = sizeof(Request);
+        ULONG type = DRIVE_REMOTE;
+        ULONG fileSystem[2] = {};
+        ULONGLONG device = 0;
+        WCHAR letter = L'x';
+        USHORT mountPoint = 0;
+        USHORT unused[2] = {};
+        char text[MAX_PATH] = {};
+    };
+    /// Without a folder the drive goes.
+    static void define(const std::string& folder) {
+        Request request;
+        request.mountPoint = folder.empty() ? 0 : offsetof(Request, text);
+        folder.copy(request.text, MAX_PATH - 1);
+        const ScopedHandle manager(CreateFileW(L"\\\\.\\MountPointManager", GENERIC_READ | GENERIC_WRITE,
+                                               FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr));
+        constexpr DWORD kDefineDrive = CTL_CODE('m', 32, METHOD_BUFFERED, FILE_READ_ACCESS | FILE_WRITE_ACCESS);
+        DWORD got = 0;
+        EXPECT_TRUE(DeviceIoControl(manager.get(), kDefineDrive, &request, sizeof request, nullptr, 0, &got, nullptr));
+    }
+};
+
+class DialogOnANetworkDrive : public test::DialogTest {
+protected:
+    /// Shows the drive, loses its server, picks an item, and chooses OK.
+    void expectRefused(test::TestDialog& dialog, std::vector<std::wstring> picked, const wchar_t* name) {
+        static FakeNetwork network(NO_ERROR);
+        network.answer = NO_ERROR;
+        const NetworkInPlace inPlace(network, kLongEnough);
+        const std::size_t before = prompts.seen().size();
+        prompts.answer(IDOK);
+        dialog.SetDefaultInitialFolder(L"X:\\");
+        dialog.SetForceFilterIndex(test::kAllFiles);
+        test::DialogUser user(dialog);
+        user.untilFolder(L"X:\\").pick(std::move(picked)).check([] { network.answer = ERROR_BAD_NETPATH; }).ok();
+        user.untilAsked(prompts, before + 1).settle().type(test::wide(folder.path(L"local.dwg"))).ok();
+        EXPECT_EQ(user.run(), IDOK) << "what is on this machine can be chosen from there";
+        EXPECT_EQ(dialog.chosen(), paths({L"local.dwg"}));
+        ASSERT_EQ(prompts.seen().size(), before + 1);
+        EXPECT_EQ(prompts.seen().back().text, messageText(IDS_KNAV_NETWORK_UNREACHABLE, name));
+        EXPECT_EQ(network.asked(), L"drive X:");
+    }
+};
+
+// The files of the drive are still there in these tests, so that whoever asks for them shows.
+TEST_F(DialogOnANetworkDrive, WhoseServerHasGone_IsNotReadOnOk) {
+    folder.addFile(L"local.dwg");
+    folder.addFolder(L"share\\sub");
+    test::addShortcut(folder, L"share\\away.lnk", folder.addFolder(L"elsewhere"));
+    const MappedDrive drive(folder.path(L"share"));
+    test::TestDialog dialog;
+    expectRefused(dialog, {L"away"}, L"X:\\away.lnk");
+
+    const FileDialogAllowReturnFolderEnabler returnsFolders;
+    test::TestDialog folders;
+    expectRefused(folders, {L"sub"}, L"X:\\sub");
 }
 
 }  // namespace
