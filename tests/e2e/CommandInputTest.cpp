@@ -80,6 +80,7 @@ TEST_F(CommandInput, NewFolderTwice_ByButtonAndKey_GivesTheNumberedName) {
         EXPECT_TRUE(waitUntil(renaming));
         pressKey(VK_ESCAPE);
         EXPECT_TRUE(waitUntil([&] { return !renaming() && eyes.shows(L"New Folder (2)"); }));
+        eyes.untilHandled();
         EXPECT_TRUE(eyes.shows(L"New Folder"));
         pressKey(VK_F2);
         EXPECT_TRUE(waitUntil(renaming));
@@ -123,6 +124,7 @@ TEST_F(CommandInput, ViewsToolsAndOkMenus_ByMouseAndKeys) {
     std::wstring favorites(MAX_PATH, L'\0');
     SHGetFolderPathW(nullptr, CSIDL_FAVORITES, nullptr, 0, favorites.data());
     const std::wstring favorite = std::wstring(favorites.c_str()) + L"\\" + leaf() + L".lnk";
+    const std::wstring favoriteItem = std::wstring(favorites.c_str()) + L"\\plan.dwg.lnk";
     const auto person = [&](const NavDialogWindow& window) {
         const Eyes eyes(window);
         constexpr std::tuple<WORD, WORD, unsigned> modes[] = {{'L', '1', 3}, {'D', '2', 4}, {'T', '3', 5}};
@@ -151,6 +153,9 @@ TEST_F(CommandInput, ViewsToolsAndOkMenus_ByMouseAndKeys) {
             waitUntil([&] { return SendMessageW(eyes.control(IDC_KNAV_PLACES), LB_GETCOUNT, 0, 0) == places + 1; }));
         eyes.chooseFromMenu('L', {'V', 'F'});
         EXPECT_TRUE(waitUntil([&] { return PathFileExistsW(favorite.c_str()) != FALSE; }));
+        window.select({L"plan.dwg"});
+        eyes.chooseFromMenu('L', {'V', 'I'});
+        EXPECT_TRUE(waitUntil([&] { return PathFileExistsW(favoriteItem.c_str()) != FALSE; }));
 
         window.typeName(L"plan.dwg");
         RECT ok{};
@@ -162,6 +167,17 @@ TEST_F(CommandInput, ViewsToolsAndOkMenus_ByMouseAndKeys) {
     EXPECT_EQ(run(m_host, person), IDOK);
     EXPECT_TRUE(m_host.GetReadOnlySpecified());
     DeleteFileW(favorite.c_str());
+    DeleteFileW(favoriteItem.c_str());
+
+    const auto opener = [](const NavDialogWindow& window) {
+        const Eyes eyes(window);
+        window.typeName(L"site plan");
+        eyes.tabTo(IDOK);
+        eyes.chooseByF4(IDOK, {'O'});
+    };
+    EXPECT_EQ(run(m_host, opener), IDOK);
+    EXPECT_EQ(chosen(0), m_folder.path(L"site plan.dwg"));
+    EXPECT_FALSE(m_host.GetReadOnlySpecified());
 }
 
 TEST_F(CommandInput, WebFindRefreshAndNameField_ByButtonAndKey) {

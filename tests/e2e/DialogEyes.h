@@ -96,6 +96,8 @@ public:
         }
         EXPECT_TRUE(selected()) << "type-ahead to " << utf8(name);
     }
+    /// Until the dialog listens again, having dealt with the input that was noticed so far.
+    void untilHandled() const { SendMessageW(m_window, WM_NULL, 0, 0); }
     /// Waits until the dialog is there, and listens again.
     void expectFolder(const std::wstring& name) const {
         EXPECT_TRUE(waitUntil([&] { return lookIn() == name; })) << utf8(name) << " expected, not " << utf8(lookIn());
@@ -103,7 +105,6 @@ public:
     }
 
 private:
-    void untilHandled() const { SendMessageW(m_window, WM_NULL, 0, 0); }
     // The list is another one after each change of folder, possibly a little late.
     template <class Part>
     void tabUntilOn(Part part) const {
