@@ -63,8 +63,7 @@ knav::input::NavDialogWindow knav::input::NavDialogWindow::waitFor(DWORD process
         throw std::runtime_error(found == nullptr ? "the dialog did not appear" : "the dialog shows no folder");
     }
     const NavDialogWindow dialog(found);
-    waitUntil([&] { return GetForegroundWindow() == found; }, 3000);
-    waitUntilSettled(found);  // the window manager gives it the focus late, which ends a click that is under way
+    dialog.waitUntilInFront();
     dialog.waitUntilHandled();
     return dialog;
 }
@@ -162,11 +161,8 @@ void knav::input::NavDialogWindow::dismissBox() const {
     waitUntil([&] { return GetForegroundWindow() == window; }, 3000);
     pressKey(VK_RETURN);
     waitUntil([&] { return !IsWindow(window); });
-    // What is typed before the dialog has the focus again goes nowhere.
-    waitUntil([this] { return !isOpen() || (GetForegroundWindow() == m_dialog && focusOf(m_dialog) != nullptr); },
-              3000);
     if (isOpen()) {
-        waitUntilSettled(m_dialog);
+        waitUntilInFront();
     }
 }
 
@@ -198,6 +194,15 @@ POINT knav::input::NavDialogWindow::itemPoint(const std::wstring& name) const {
     }
     waitUntilHandled();
     return *point;
+}
+
+// The window manager gives a window the focus late, and may take it away once more. What is typed meanwhile goes
+// nowhere, and a click that is under way ends.
+void knav::input::NavDialogWindow::waitUntilInFront() const {
+    const auto isInFront = [this] { return GetForegroundWindow() == m_dialog && focusOf(m_dialog) != nullptr; };
+    waitUntil(isInFront, 3000);
+    waitUntilSettled(m_dialog);
+    waitUntil(isInFront, 3000);
 }
 
 // Input is handled in order with other messages, so a message that comes back has seen the input before it.

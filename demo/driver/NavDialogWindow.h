@@ -41,6 +41,7 @@ private:
     explicit NavDialogWindow(HWND dialog) : m_dialog(dialog) {}
     HWND list() const;
     HWND box() const;
+    void waitUntilInFront() const;
     POINT itemPoint(const std::wstring& name) const;
 
     HWND m_dialog;
