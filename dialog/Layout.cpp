@@ -92,12 +92,12 @@ void Layout::closeGap(UINT id) {
     if (!gap)
         return;
     const auto inRow = [gap](const LaidOut& item) { return &item != gap && meets(spanDown(item), spanDown(*gap)); };
-    LONG next = gap->at.right;  // where the row goes on
+    std::optional<LONG> next;  // where the row goes on
     for (const LaidOut& item : m_items) {
-        if (inRow(item) && item.at.left >= gap->at.right && (next == gap->at.right || item.at.left < next))
+        if (inRow(item) && item.at.left >= gap->at.right && (!next || item.at.left < *next))
             next = item.at.left;
     }
-    const LONG gained = next - gap->at.left;
+    const LONG gained = next.value_or(gap->at.right) - gap->at.left;
     for (LaidOut& item : m_items) {
         if (!inRow(item) || item.at.right > gap->at.left || item.across == Grow::Stay)
             continue;

@@ -117,12 +117,13 @@ TEST(Layout, closedGap_goesToWhatStretchesBeforeIt) {
     Layout layout(kTemplate, kRows, kBodyId, kBody);
     layout.add(kLookIn, {120, 8, 400, 28});
     layout.add(kOk, {410, 8, 430, 28});
-    layout.add(kUp, {440, 8, 460, 28});
+    layout.add(kUp, {430, 8, 450, 28});
+    layout.add(kStranger, {450, 8, 470, 28});
     layout.add(kStranger, {470, 8, 490, 28});
     layout.closeGap(kUp);
-    expectRect({120, 8, 430, 28}, layout.rectOf(0, kTemplate), "what stretches");
-    expectRect({440, 8, 460, 28}, layout.rectOf(1, kTemplate), "what stands between moves up to the next");
-    expectRect({470, 8, 490, 28}, layout.rectOf(3, kTemplate), "what stands behind stays");
+    expectRect({120, 8, 420, 28}, layout.rectOf(0, kTemplate), "what stretches");
+    expectRect({430, 8, 450, 28}, layout.rectOf(1, kTemplate), "what stands between moves up to the next");
+    expectRect({450, 8, 470, 28}, layout.rectOf(3, kTemplate), "what stands behind stays");
 }
 
 TEST(Layout, closingAColumnThatIsNotThere_changesNothing) {

@@ -264,9 +264,12 @@ TEST_F(CommandInput, Policies_TakeAwayPlacesBackAndTheHistory) {
         EXPECT_FALSE(IsWindowVisible(eyes.control(IDC_KNAV_BACK)));
         RECT lookIn{};
         RECT back{};
+        RECT up{};
         GetWindowRect(eyes.control(IDC_KNAV_LOOK_IN), &lookIn);
         GetWindowRect(eyes.control(IDC_KNAV_BACK), &back);
+        GetWindowRect(eyes.control(IDC_KNAV_UP), &up);
         EXPECT_GT(lookIn.right, back.left) << "its room is used";
+        EXPECT_LE(lookIn.right, up.left);
         window.open(L"Details");
         eyes.expectFolder(L"Details");
         pressKey(VK_LEFT, VK_MENU);  // does nothing: the next key is for the same folder
