@@ -4,9 +4,10 @@
 #include <knav/NavFolders.h>
 #include <knav/NavNames.h>
 #include <platform/CWaitCursor.h>
+#include <ry/RyBackground.h>
 
-#include "dialog/AskInTime.h"
 #include "dialog/NetworkCheck.h"
+#include "dialog/ResourceModule.h"
 #include "shell/ComPtr.h"
 #include "shell/FolderPaths.h"
 
@@ -23,7 +24,9 @@ bool isThere(ITEMIDLIST* list) {
         return isPathThere(path);
     }
     const CWaitCursor wait;
-    return askInTime<bool>([path] { return isPathThere(path); }, networkPatience()).value_or(false);
+    return ryAskInTime<bool>(
+               libraryModule(), [path] { return isPathThere(path); }, networkPatience())
+        .value_or(false);
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include "dialog/NetworkCheck.h"
 
-#include "dialog/AskInTime.h"
+#include <ry/RyBackground.h>
+
 #include "dialog/NameRules.h"
+#include "dialog/ResourceModule.h"
 #include "shell/TextRules.h"
 
 namespace knav {
@@ -91,8 +93,9 @@ NetworkName splitNetworkName(std::wstring_view text) {
 }
 
 NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, unsigned limit) {
-    const auto outcome = askInTime<Outcome>(
-        [&probe, text = std::wstring(trimmed(name.view()))] {
+    const auto outcome = ryAskInTime<Outcome>(
+        libraryModule(),
+        [&probe, text = std::wstring(name.view())] {
             Outcome found;
             found.error = ask(probe, splitNetworkName(text), text, found.message);
             return found;

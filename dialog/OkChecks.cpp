@@ -3,6 +3,7 @@
 #include <knav/CNavDataArray.h>
 #include <platform/Prompt.h>
 #include <platform/ScopedErrorMode.h>
+#include <platform/ScopedHandle.h>
 #include <platform/Url.h>
 #include <wininet.h>
 
@@ -10,7 +11,6 @@
 #include "dialog/Messages.h"
 #include "dialog/NameRules.h"
 #include "resources/ids.h"
-#include "shell/ScopedHandle.h"
 
 namespace {
 
@@ -43,13 +43,9 @@ bool exists(const CString& name) {
 }
 
 bool isInUse(const CString& path) {
-    const HANDLE file =
-        CreateFileW(path, GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        return true;
-    }
-    CloseHandle(file);
-    return false;
+    const ScopedHandle file(
+        CreateFileW(path, GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return !file;
 }
 
 }  // namespace

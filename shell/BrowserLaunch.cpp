@@ -1,11 +1,10 @@
 #include "shell/BrowserLaunch.h"
 
+#include <platform/ScopedHandle.h>
 #include <ry/RyRegKey.h>
 
 #include <string>
 #include <string_view>
-
-#include "shell/ScopedHandle.h"
 
 namespace {
 

@@ -2,9 +2,7 @@
 #include <ry/FileSystem.h>
 #include <ry/RyBackground.h>
 
-#include <chrono>
-#include <future>
-#include <memory>
+#include <optional>
 
 #include "ry/ModuleFolder.h"
 
@@ -13,32 +11,6 @@ namespace {
 using Kelvara::Tessary::PAL::FileSystem::FolderProbe;
 
 constexpr DWORD kLimit = 2000;
-
-enum class Answer { folder, noFolder, none };
-
-Answer askInTime(const std::wstring& path, FolderProbe probe, DWORD limit) {
-    // Shared: it outlives whichever of the two threads is done first.
-    const auto promise = std::make_shared<std::promise<bool>>();
-    std::future<bool> answer = promise->get_future();
-    const auto ask = [promise, path, probe = std::move(probe)] {
-        try {
-            promise->set_value(probe(path));
-        } catch (...) {
-            promise->set_exception(std::current_exception());
-        }
-    };
-    if (!ryRunInBackground(zoui::ownModule(), ask)) {
-        return Answer::none;
-    }
-    if (answer.wait_for(std::chrono::milliseconds(limit)) != std::future_status::ready) {
-        return Answer::none;
-    }
-    try {
-        return answer.get() ? Answer::folder : Answer::noFolder;
-    } catch (...) {
-        return Answer::noFolder;
-    }
-}
 
 // The path without reference to the current directory, which may change while the prober is still at work.
 std::wstring fullPath(const wchar_t* path) {
@@ -63,8 +35,9 @@ bool isFolder(const std::wstring& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-Answer askDisk(const std::wstring& path) {
-    return isFolder(path) ? Answer::folder : Answer::noFolder;
+std::optional<bool> askInTime(const std::wstring& path, FolderProbe probe, DWORD limit) {
+    return ryAskInTime<bool>(
+        zoui::ownModule(), [path, probe = std::move(probe)] { return probe(path); }, limit);
 }
 
 template <class Ask>
@@ -76,14 +49,11 @@ std::wstring changeDir(const wchar_t* path, bool isDesktopKeyword, Ask ask) {
     if (wanted.empty()) {
         return {};
     }
-    switch (ask(wanted)) {
-        case Answer::folder:
+    if (const std::optional<bool> answer = ask(wanted)) {
+        if (*answer) {
             SetCurrentDirectoryW(wanted.c_str());
-            return {};
-        case Answer::noFolder:
-            return {};
-        case Answer::none:
-            break;
+        }
+        return {};
     }
     std::wstring programFolder = zoui::folderOfModule(nullptr);
     SetCurrentDirectoryW(programFolder.c_str());
@@ -97,7 +67,7 @@ namespace Kelvara::Tessary::PAL::FileSystem {
 std::wstring networkAwareChangeDir(const wchar_t* path, bool isDesktopKeyword) {
     // A disk of this machine answers at once, and needs no thread for it.
     return changeDir(path, isDesktopKeyword, [](const std::wstring& wanted) {
-        return isOnFixedDisk(wanted) ? askDisk(wanted) : askInTime(wanted, &isFolder, kLimit);
+        return isOnFixedDisk(wanted) ? isFolder(wanted) : askInTime(wanted, &isFolder, kLimit);
     });
 }
 

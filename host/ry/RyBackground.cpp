@@ -1,5 +1,6 @@
 #include <ry/RyBackground.h>
 
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <utility>
@@ -34,6 +35,14 @@ private:
     TP_CALLBACK_ENVIRON m_environment;
 };
 
+void paintWindows() {
+    MSG message;
+    // One round only: a window that never has enough must not keep us here.
+    for (int i = 0; i < 64 && PeekMessageW(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE); ++i) {
+        DispatchMessageW(&message);
+    }
+}
+
 }  // namespace
 
 bool ryRunInBackground(HINSTANCE module, std::function<void()> work) noexcept {
@@ -43,4 +52,22 @@ bool ryRunInBackground(HINSTANCE module, std::function<void()> work) noexcept {
     }
     static_cast<void>(owned.release());  // the callback owns it now
     return true;
+}
+
+bool ryWaitWhilePainting(HANDLE event, DWORD limit) {
+    // The system takes a window whose thread looks for no message for some seconds for one that hangs.
+    constexpr ULONGLONG kLongestSilence = 500;
+    const ULONGLONG end = GetTickCount64() + limit;
+    while (true) {
+        const ULONGLONG now = GetTickCount64();
+        const auto left = static_cast<DWORD>(now < end ? std::min(end - now, kLongestSilence) : 0);
+        const DWORD woken = MsgWaitForMultipleObjects(1, &event, FALSE, left, QS_PAINT | QS_SENDMESSAGE);
+        if (woken == WAIT_OBJECT_0) {
+            return true;
+        }
+        if (woken == WAIT_FAILED || now >= end) {
+            return false;
+        }
+        paintWindows();
+    }
 }

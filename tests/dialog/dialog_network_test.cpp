@@ -1,12 +1,12 @@
 // Network names typed into the dialog, with a network provider of the tests' own behind the platform's functions.
 #include <knav/NavFolders.h>
 #include <knav/NavNames.h>
+#include <platform/ScopedHandle.h>
 
 #include "dialog/DialogUser.h"
 #include "dialog/Messages.h"
 #include "dialog/NetworkCheck.h"
 #include "shell/ItemList.h"
-#include "shell/ScopedHandle.h"
 #include "support/ChildTests.h"
 
 namespace knav::test {

@@ -1,11 +1,11 @@
 // Choosing a name to save under, several files, and folders.
 #include <knav/CNavPathname.h>
 #include <knav/FileDialogAllowReturnFolderEnabler.h>
+#include <platform/ScopedHandle.h>
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
 #include "dialog/RecordingDialog.h"
-#include "shell/ScopedHandle.h"
 #include "support/RealNamespace.h"
 #include "view/ViewStore.h"
 

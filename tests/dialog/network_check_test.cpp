@@ -3,6 +3,7 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 #include <knav/FileDialogAllowReturnFolderEnabler.h>
+#include <platform/ScopedHandle.h>
 #include <winioctl.h>
 
 #include <atomic>
@@ -12,7 +13,6 @@
 #include "dialog/FolderTexts.h"
 #include "dialog/Messages.h"
 #include "dialog/NetworkAnswers.h"
-#include "shell/ScopedHandle.h"
 #include "support/Printers.h"
 #include "support/RealNamespace.h"
 

@@ -1,9 +1,9 @@
 // What the dialog answers to what a person types, with its boxes on the screen.
 #include <knav/FileDialogAllowReturnFolderEnabler.h>
+#include <platform/ScopedHandle.h>
 
 #include "e2e/DialogInput.h"
 #include "resources/ids.h"
-#include "shell/ScopedHandle.h"
 
 namespace knav::test {
 namespace {

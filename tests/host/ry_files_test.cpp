@@ -1,3 +1,4 @@
+#include <platform/ScopedHandle.h>
 #include <ry/FileSystem.h>
 #include <ry/RyUt.h>
 #include <ry/RyUtResource.h>
@@ -103,19 +104,13 @@ TEST_F(FilesTest, ChangeDirEntersFoldersOnly) {
     for (const wchar_t* none : {static_cast<const wchar_t*>(nullptr), L"", L"none", L"plan.dwg"}) {
         EXPECT_EQ(networkAwareChangeDir(none, false), L"");
     }
-    const auto throwingProbe = [](const std::wstring&) -> bool { throw 1; };
-    EXPECT_EQ(networkAwareChangeDir(folder, false, throwingProbe, 2'000), L"");
     EXPECT_EQ(currentDirectory().CompareNoCase(m_folder.path()), 0);
 }
 
-struct HandleCloser {
-    void operator()(HANDLE handle) const noexcept { CloseHandle(handle); }
-};
-
 TEST_F(FilesTest, ChangeDirAbandonsALocationThatDoesNotAnswer) {
     struct Shared {
-        std::unique_ptr<void, HandleCloser> go{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
-        std::unique_ptr<void, HandleCloser> done{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
+        const ScopedHandle go{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
+        const ScopedHandle done{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
         std::atomic<bool> probed = false;
     };
     const auto shared = std::make_shared<Shared>();
@@ -141,6 +136,9 @@ TEST_F(FilesTest, ChangeDirAbandonsALocationThatDoesNotAnswer) {
     EXPECT_EQ(WaitForSingleObject(shared->done.get(), 20'000), WAIT_OBJECT_0);
     EXPECT_TRUE(shared->probed);
     EXPECT_EQ(currentDirectory().CompareNoCase(m_folder.path()), 0);
+
+    const auto throwingProbe = [](const std::wstring&) -> bool { throw 1; };
+    EXPECT_EQ(networkAwareChangeDir(m_folder.path(), false, throwingProbe, 20'000), instead);
 }
 
 }  // namespace

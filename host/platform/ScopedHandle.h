@@ -1,11 +1,9 @@
 // An owned kernel handle: a file, a process, an event.
 #pragma once
 
-#include <platform/Windows.h>
-
 #include <utility>
 
-namespace knav {
+#include <platform/Windows.h>
 
 /// Closes its handle when it goes. Null and INVALID_HANDLE_VALUE both mean none.
 class ScopedHandle {
@@ -30,5 +28,3 @@ public:
 private:
     HANDLE m_handle = nullptr;
 };
-
-}  // namespace knav
