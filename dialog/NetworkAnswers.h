@@ -29,7 +29,8 @@ public:
     /// shows while the answer is awaited. Valid until the next question.
     const NetworkAnswer* refusal(const CString& text);
 
-    /// The same, once the user has had the opportunity to log in to a share that wants it.
+    /// The same, once the user has had the opportunity to log in to a share that wants it. The login takes as long as
+    /// the system and the user need for it.
     const NetworkAnswer* refusalAfterLogin(HWND owner, const CString& text);
 
 private:

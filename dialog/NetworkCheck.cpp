@@ -48,6 +48,13 @@ bool wantsLogin(unsigned long error) {
     return error == ERROR_ACCESS_DENIED || error == ERROR_LOGON_FAILURE || error == ERROR_INVALID_PASSWORD;
 }
 
+/// The system's words for an error.
+std::wstring systemMessage(unsigned long error) {
+    wchar_t text[512] = L"";
+    FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0, text, 512, nullptr);
+    return std::wstring(trimmed(text));
+}
+
 unsigned codeOf(unsigned long error) {
     if (error == ERROR_CANCELLED) {
         return kNetworkLoginCancelled;
@@ -110,8 +117,16 @@ NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, uns
 
 NetworkAnswer networkLogin(NetworkProbe& probe, HWND owner, const NetworkName& location) {
     std::wstring message;
-    const unsigned long error = probe.logIn(owner, location.server + kSeparator + location.share, message);
-    return {error == NO_ERROR, false, codeOf(error), CString(message)};
+    const std::wstring share = location.server + kSeparator + location.share;
+    const unsigned long error = probe.logIn(owner, share, message);
+    // Connected to the server under another name: whether that one may in is for the file system to say.
+    if (error == NO_ERROR || error == ERROR_SESSION_CREDENTIAL_CONFLICT) {
+        return {true, false, 0, {}};
+    }
+    if (message.empty() && error != ERROR_CANCELLED) {
+        message = share + L"\n\n" + systemMessage(error);
+    }
+    return {false, false, codeOf(error), CString(message)};
 }
 
 }  // namespace knav

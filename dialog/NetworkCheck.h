@@ -1,4 +1,5 @@
-// Whether a network location can be reached, asked of the network without ever blocking the dialog for long.
+// Whether a network location can be reached, asked of the network without ever blocking the dialog for long; and the
+// system's login to it, which blocks as long as it takes.
 #pragma once
 
 #include <platform/CString.h>
@@ -32,8 +33,9 @@ public:
     virtual unsigned long path(const std::wstring& path, std::wstring& message) = 0;
     /// A drive, "X:", that stands for a place on the network.
     virtual unsigned long drive(const std::wstring& drive) = 0;
-    /// Lets the user log in to a share, "\\server\share", in a window over `owner`; on the user-interface thread.
-    /// ERROR_CANCELLED when the user does not want to.
+    /// Lets the user log in to a share, "\\server\share", in a window over `owner`; on the user-interface thread. It
+    /// has no limit: given up, it could still bring up its window later. ERROR_CANCELLED when the user does not want
+    /// to.
     virtual unsigned long logIn(HWND owner, const std::wstring& share, std::wstring& message) = 0;
 };
 
@@ -59,7 +61,8 @@ void setNetworkPatience(unsigned milliseconds);
 /// calling thread's windows paint themselves meanwhile.
 NetworkAnswer checkNetworkLocation(NetworkProbe& probe, const CString& name, unsigned limit = networkPatience());
 
-/// Lets the user log in to the share of a location.
+/// Lets the user log in to the share of a location. It counts as reachable, too, for a user who is connected to the
+/// server under another name; a login that fails is told in the network's words, or else the system's.
 NetworkAnswer networkLogin(NetworkProbe& probe, HWND owner, const NetworkName& location);
 
 }  // namespace knav

@@ -131,7 +131,7 @@ constexpr unsigned kLongEnough = 50'000;
 TEST(NetworkCheck, ReachableLocation_IsAskedForByItsKind) {
     const std::pair<const wchar_t*, const wchar_t*> rows[] = {
         {L"\\\\srv", L"server \\\\srv"},
-        {L" \\\\srv\\plans ", L"share \\\\srv plans"},
+        {L"\\\\srv\\plans", L"share \\\\srv plans"},
         {L"\\\\srv\\plans\\a.dwg", L"path \\\\srv\\plans\\a.dwg"},
     };
     for (const auto& [name, question] : rows) {
@@ -171,7 +171,11 @@ TEST(NetworkCheck, LocationThatWantsALogin_IsThereForWhoLogsIn) {
     static FakeNetwork network(ERROR_LOGON_FAILURE);
     const NetworkInPlace inPlace(network, kLongEnough);
     const std::pair<unsigned long, std::optional<unsigned>> rows[] = {
-        {NO_ERROR, std::nullopt}, {ERROR_CANCELLED, kNetworkLoginCancelled}, {ERROR_BAD_NETPATH, 1u}};
+        {NO_ERROR, std::nullopt},
+        {ERROR_CANCELLED, kNetworkLoginCancelled},
+        {ERROR_ACCOUNT_DISABLED, 1u},
+        {ERROR_SESSION_CREDENTIAL_CONFLICT, std::nullopt},
+    };
     for (const auto& [error, code] : rows) {
         network.loginAnswer = error;
         NetworkAnswers answers;
@@ -179,6 +183,7 @@ TEST(NetworkCheck, LocationThatWantsALogin_IsThereForWhoLogsIn) {
         EXPECT_EQ(answers.refusalAfterLogin(nullptr, L"\\\\srv"), nullptr) << "a server that lists nothing";
         const NetworkAnswer* const refusal = answers.refusalAfterLogin(nullptr, L"\\\\srv\\plans\\a.dwg");
         EXPECT_EQ(refusal ? std::optional(refusal->code) : std::nullopt, code) << error;
+        EXPECT_EQ(refusal && !refusal->message.IsEmpty(), code == 1u) << "what went wrong is told";
         EXPECT_EQ(network.loggedInTo(), L"\\\\srv\\plans");
     }
 }
