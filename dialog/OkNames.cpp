@@ -124,6 +124,7 @@ std::optional<CString> CNavDialogImp::folderTextForNames(CNavNode* node, CString
 }
 
 OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CString& text) {
+    const knav::NetworkAnswers::Scope asked(m_ok.network);
     text = item->GetText();
     CNavNode* node = currentFolderNode();
     const NAV_DATA_TYPE type = item->GetDataType();

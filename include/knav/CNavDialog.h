@@ -51,7 +51,8 @@ public:
     CNavFilterArray& GetFilterArray() const;
     /// Id of the dialog template in use: 131 when 0 was passed to the constructor.
     UINT GetIDD() const;
-    /// Full path of the single chosen item, or empty when there is not exactly one.
+    /// Full path of the single chosen item; empty when there is not exactly one, or when no path can be made of its
+    /// name in the folder shown.
     void GetSingleDataFullPath(CString& path);
     /// Set when the user chose "open read-only"; read it after the dialog. What the host sets stays until the user
     /// chooses OK in one way or the other. Default 0.
