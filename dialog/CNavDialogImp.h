@@ -328,6 +328,6 @@ private:
         CString name;
         ULONGLONG until = 0;
         HWND focus = nullptr;
-    } m_newFolder;  // waits to be shown and named until that time, or until the focus moves
+    } m_newFolder;  // waits to be shown and named until that time, or until focus or selection change
     int m_appendCompletion = 1;
 };

@@ -85,8 +85,8 @@ void CNavDialogImp::createFolderOnDisk(const CString& name) {
     CNavPathname folder;
     CString path;
     const bool hasPath = selectedFolderPathname(folder) && folder.GetFullPath(path);
-    const CString full = path.TrimRight(L'\\') + L"\\" + name;
-    if (!hasPath || !CreateDirectoryW(full, nullptr)) {
+    const CString full = hasPath ? path.TrimRight(L'\\') + L"\\" + name : CString();
+    if (full.IsEmpty() || !CreateDirectoryW(full, nullptr)) {
         knav::showMessage(m_facade, IDS_KNAV_NEW_FOLDER_FAILED, name);
         return;
     }
@@ -120,9 +120,12 @@ void CNavDialogImp::CreateNewWebFolder(const CString& name) {
 }
 
 /// Selects the new folder and lets the user type its name over the one it was made with. A view that has not heard of
-/// it yet is refreshed; one that takes its time over that is asked again for a while, as long as the user does nothing
-/// else.
+/// it yet is refreshed; one that takes its time over that is asked again for a while, as long as the user selects
+/// nothing else and stays in the same control.
 void CNavDialogImp::renameWhenShown(const CString& name) {
+    if (const HWND list = m_listInUse->GetSafeHwnd()) {
+        ListView_SetItemState(list, -1, 0, LVIS_SELECTED);  // what is selected from now on is new
+    }
     if (beginRename(name)) {
         return;
     }
@@ -137,7 +140,7 @@ void CNavDialogImp::renameNewFolder() {
     if (m_newFolder.name.IsEmpty()) {
         return;
     }
-    const bool over = GetTickCount64() > m_newFolder.until || ::GetFocus() != m_newFolder.focus;
+    const bool over = GetTickCount64() > m_newFolder.until || ::GetFocus() != m_newFolder.focus || selectedCount() > 0;
     if (over || beginRename(m_newFolder.name)) {
         m_newFolder = {};
     }
@@ -157,7 +160,7 @@ bool CNavDialogImp::beginRename(const CString& name) {
     const UINT how = canRename ? select | SVSI_EDIT : select;
     knav::guarded([&] { return view->SelectItem(item.get(), how); });
     // Views answer with success for an item that they do not show.
-    return !canRename || ListView_GetEditControl(list) != nullptr;
+    return canRename ? ListView_GetEditControl(list) != nullptr : selectedCount() > 0;
 }
 
 knav::ItemList CNavDialogImp::FindIdInCurrentFolder(const CString& name) {
