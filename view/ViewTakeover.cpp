@@ -1,5 +1,6 @@
 #include "view/ViewTakeover.h"
 
+#include "data/ApiEdge.h"
 #include "view/BrowseOwner.h"
 #include "view/BrowserState.h"
 
@@ -102,41 +103,47 @@ FocusInView::~FocusInView() {
 }  // namespace knav
 
 void CNavCommDlgBrowser::SubclassView(HWND window) {
-    CNavCommDlgView* const view = m_state->viewWindow;
-    if (view != nullptr && knav::isStandardView(window)) {
-        view->SubclassWindow(window);
-        view->SetBrowser(this);
-        view->SetZoUiParent(m_state->owner);
-        view->SetTabNext(knav::kPlaceholderId);
-        SubclassListCtrl(window);
-    }
+    knav::atApiEdge([this, window] {
+        CNavCommDlgView* const view = m_state->viewWindow;
+        if (view != nullptr && knav::isStandardView(window)) {
+            view->SubclassWindow(window);
+            view->SetBrowser(this);
+            view->SetZoUiParent(m_state->owner);
+            view->SetTabNext(knav::kPlaceholderId);
+            SubclassListCtrl(window);
+        }
+    });
 }
 
 void CNavCommDlgBrowser::SubclassListCtrl(HWND viewWindow) {
-    CNavListCtrl* const list = m_state->listCtrl;
-    if (list == nullptr) {
-        return;
-    }
-    list->UnsubclassWindow();
-    const HWND window = FindWindowExW(viewWindow, nullptr, knav::kListClass, nullptr);
-    if (window == nullptr || !list->SubclassWindow(window)) {
-        return;
-    }
-    list->SetBrowser(this);
-    list->SetZoUiParent(m_state->owner);
-    list->SetWindowContextHelpId(knav::kListHelpId);
-    list->ModifyStyle(0, LVS_SHOWSELALWAYS);
-    ListView_SetExtendedListViewStyleEx(window, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+    knav::atApiEdge([this, viewWindow] {
+        CNavListCtrl* const list = m_state->listCtrl;
+        if (list == nullptr) {
+            return;
+        }
+        list->UnsubclassWindow();
+        // No window stands for the whole desktop there.
+        const HWND window =
+            viewWindow != nullptr ? FindWindowExW(viewWindow, nullptr, knav::kListClass, nullptr) : nullptr;
+        if (window == nullptr || !list->SubclassWindow(window)) {
+            return;
+        }
+        list->SetBrowser(this);
+        list->SetZoUiParent(m_state->owner);
+        list->SetWindowContextHelpId(knav::kListHelpId);
+        list->ModifyStyle(0, LVS_SHOWSELALWAYS);
+        ListView_SetExtendedListViewStyleEx(window, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+    });
 }
 
 void CNavCommDlgBrowser::SaveListCtrlState() {
-    if (m_state->browseOwner != nullptr) {
-        m_state->browseOwner->saveListState(m_state->view.get());
+    if (m_state->browseOwner != nullptr && m_state->view) {
+        knav::atApiEdge([this] { m_state->browseOwner->saveListState(m_state->view.get()); });
     }
 }
 
 void CNavCommDlgBrowser::RestoreListCtrlState() {
-    if (m_state->browseOwner != nullptr) {
-        m_state->browseOwner->restoreListState(m_state->view.get());
+    if (m_state->browseOwner != nullptr && m_state->view) {
+        knav::atApiEdge([this] { m_state->browseOwner->restoreListState(m_state->view.get()); });
     }
 }

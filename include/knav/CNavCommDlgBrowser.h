@@ -120,7 +120,7 @@ public:
     /// in it, after giving back the one it holds. Every browse does so.
     void SubclassView(HWND window);
     void SubclassListCtrl(HWND viewWindow);
-    /// Have the owner keep the columns of the current view and put them back.
+    /// Have the owner keep the columns of the current view and put them back; nothing without a view.
     void SaveListCtrlState();
     void RestoreListCtrlState();
 
