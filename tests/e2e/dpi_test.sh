@@ -3,9 +3,8 @@
 # covered. Wine reads the resolution when its server starts, so each needs a server of its own.
 set -u
 
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 # shellcheck source-path=SCRIPTDIR
-. "$root/tools/lib/steps.sh"
+. "$(dirname "${BASH_SOURCE[0]}")/../../tools/lib/steps.sh"
 . "$root/tools/lib/display.sh"
 run="$root/tools/run-under-wine"
 export KNAV_GRAPHICS=x11 KNAV_TEST_LANGUAGE=xr
@@ -26,7 +25,7 @@ start_display 3840x2160
 trap leave EXIT
 for dpi in 96 120 144 192; do
     use_dpi "$dpi"
-    if ! KNAV_TEST_DPI=$dpi "$run" "$root/build/release/bin/test_dialog.exe" --gtest_brief=1 \
+    if ! KNAV_TEST_DPI=$dpi "$run" "$build/bin/test_dialog.exe" --gtest_brief=1 \
         --gtest_filter='DialogFit.EveryTextHasRoom*:DialogFit.Language*'; then
         echo "FAILED: at $dpi DPI"
         failures=$((failures + 1))

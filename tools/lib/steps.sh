@@ -1,7 +1,7 @@
 # What the scripts have in common: where things are, and steps that report themselves. Sourced, not run.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
-build=$root/build/release
+build=${KNAV_BUILD:-$root/build/release}
 logs=$root/build/logs
 export CMAKE_BUILD_PARALLEL_LEVEL=${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)}
 
