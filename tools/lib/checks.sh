@@ -1,8 +1,8 @@
 # Formatting and static analysis. Needs steps.sh; the analysis needs a finished build.
 
 check_format() {
-    # The tracked files that are there: one that was deleted stays tracked until that is committed.
-    git -C "$root" grep -l -z -e '' -- '*.h' '*.cpp' | (cd "$root" && xargs -0 clang-format --dry-run --Werror)
+    (cd "$root" && find . -path './build*' -prune -o \( -name '*.h' -o -name '*.cpp' \) -print0 |
+        xargs -0 clang-format --dry-run --Werror)
 }
 
 # A source has passed when build/analysis holds the hash of all that went into it: the source, the project's headers
