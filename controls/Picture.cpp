@@ -94,14 +94,14 @@ HINSTANCE moduleOf(HINSTANCE module, const wchar_t* name, const wchar_t* type) {
     return module ? module : AfxFindResourceHandle(name, type);
 }
 
-// The luminance weights of red, green and blue, given to each channel alike; `light` turns the result round.
+// The luminance weights of red, green and blue, given to each channel alike; `light` leaves nothing dark.
 Gdiplus::ColorMatrix greyMatrix(float alpha, bool light) {
-    const float sign = light ? -1.0f : 1.0f;
-    const float r = 0.2126f * sign;
-    const float g = 0.7152f * sign;
-    const float b = 0.0722f * sign;
-    const float from = light ? 1.0f : 0.0f;
-    return {{{r, r, r, 0, 0}, {g, g, g, 0, 0}, {b, b, b, 0, 0}, {0, 0, 0, alpha, 0}, {from, from, from, 0, 1}}};
+    const float least = light ? 0.6f : 0.0f;
+    const float share = 1.0f - least;
+    const float r = 0.2126f * share;
+    const float g = 0.7152f * share;
+    const float b = 0.0722f * share;
+    return {{{r, r, r, 0, 0}, {g, g, g, 0, 0}, {b, b, b, 0, 0}, {0, 0, 0, alpha, 0}, {least, least, least, 0, 1}}};
 }
 
 // Takes the mirroring off a device context for a while. What is drawn then is not turned round, and stands where it

@@ -25,12 +25,12 @@ enum class PictureTone {
     Plain,
     Grey,        ///< the same brightness without colour
     Faded,       ///< grey and half transparent: cannot be used now
-    Light,       ///< grey, with dark and light exchanged
+    Light,       ///< grey, and light throughout
     LightFaded,  ///< the same, half transparent
 };
 
-/// The pictures are drawn for a light background. On a dark one, as in a high contrast scheme, dark and light are
-/// exchanged, so that every part stands out as much as it was meant to.
+/// The pictures are drawn for a light background. On a dark one, as in a high contrast scheme, they are light, so that
+/// nothing that can be used looks as if it could not.
 PictureTone toneOn(COLORREF background, PictureTone tone);
 
 /// Draws into the device context, scaled to `to`. Mirrored windows show pictures as they are. In a picture without

@@ -11,17 +11,20 @@ namespace {
 constexpr DWORD kRed = 0xFF0000;
 constexpr DWORD kBlue = 0x0000FF;
 
-TEST(PictureTones, onADarkBackground_darkAndLightAreExchanged) {
+TEST(PictureTones, onADarkBackground_everyPictureIsLighterThanOneThatCannotBeUsed) {
     EXPECT_EQ(PictureTone::Plain, toneOn(RGB(240, 240, 240), PictureTone::Plain));
     EXPECT_EQ(PictureTone::Faded, toneOn(RGB(255, 255, 255), PictureTone::Faded));
-    EXPECT_EQ(PictureTone::Light, toneOn(RGB(0, 0, 0), PictureTone::Plain));
-    EXPECT_EQ(PictureTone::LightFaded, toneOn(RGB(0, 0, 0), PictureTone::Faded));
     const GdiPlusSession session;
-    Gdiplus::Bitmap dark(1, 1, PixelFormat32bppARGB);
-    dark.SetPixel(0, 0, Gdiplus::Color(255, 0x20, 0x20, 0x20));
-    const Canvas canvas(1, 1);
-    drawPicture(canvas.dc(), dark, {0, 0, 1, 1}, PictureTone::Light);
-    EXPECT_GT(canvas.at(0, 0) & 0xFF, 0xC0u);
+    const auto drawn = [](BYTE grey, PictureTone tone) {
+        Gdiplus::Bitmap picture(1, 1, PixelFormat32bppARGB);
+        picture.SetPixel(0, 0, Gdiplus::Color(255, grey, grey, grey));
+        const Canvas canvas(1, 1);
+        BitBlt(canvas.dc(), 0, 0, 1, 1, nullptr, 0, 0, BLACKNESS);
+        drawPicture(canvas.dc(), picture, {0, 0, 1, 1}, toneOn(RGB(0, 0, 0), tone));
+        return canvas.at(0, 0) & 0xFF;
+    };
+    EXPECT_GT(drawn(0x20, PictureTone::Plain), 0x90u);
+    EXPECT_GT(drawn(0x20, PictureTone::Plain), drawn(0xFF, PictureTone::Faded));
 }
 
 // In a mirrored context the picture stands where its rectangle is, and is not turned round.
