@@ -96,7 +96,7 @@ HINSTANCE moduleOf(HINSTANCE module, const wchar_t* name, const wchar_t* type) {
 
 // The luminance weights of red, green and blue, given to each channel alike; `light` leaves nothing dark.
 Gdiplus::ColorMatrix greyMatrix(float alpha, bool light) {
-    const float least = light ? 0.6f : 0.0f;
+    const float least = light ? 0.45f : 0.0f;
     const float share = 1.0f - least;
     const float r = 0.2126f * share;
     const float g = 0.7152f * share;
