@@ -6,28 +6,6 @@ namespace {
 
 using testing::ElementsAre;
 
-struct Base : CObject {
-    DECLARE_DYNAMIC(Base)
-};
-IMPLEMENT_DYNAMIC(Base, CObject)
-
-struct Derived : Base {
-    DECLARE_DYNAMIC(Derived)
-};
-IMPLEMENT_DYNAMIC(Derived, Base)
-
-TEST(Array, GrowsToTheIndexWithDefaultElements) {
-    CDWordArray numbers;
-    numbers.SetAtGrow(2, 7);
-    numbers.SetAtGrow(1, 5);
-    numbers.InsertAt(1, 9, 2);
-    numbers.InsertAt(6, 1);
-    EXPECT_THAT(numbers, ElementsAre(0, 9, 9, 5, 7, 0, 1));
-    numbers.SetSize(2);
-    EXPECT_EQ(numbers.GetUpperBound(), 1);
-    EXPECT_EQ(numbers.Add(3), 2);
-}
-
 TEST(Array, TakesElementsOfItself) {
     CStringArray texts;
     texts.Add(L"a");
@@ -56,16 +34,6 @@ TEST(Array, IndexOutsideIsAnErrorAndChangesNothing) {
     EXPECT_THROW(numbers.RemoveAt(1, INTPTR_MAX), std::out_of_range);
     numbers.RemoveAt(1, 0);
     EXPECT_THAT(numbers, ElementsAre(1));
-}
-
-TEST(RuntimeClass, KnowsItsBasesAndNothingElse) {
-    Derived derived;
-    Base base;
-    CObject* const object = &derived;
-    EXPECT_FALSE(base.IsKindOf(nullptr));
-    EXPECT_EQ(DYNAMIC_DOWNCAST(Base, object), &derived);
-    EXPECT_EQ(DYNAMIC_DOWNCAST(Derived, static_cast<CObject*>(&base)), nullptr);
-    EXPECT_EQ(DYNAMIC_DOWNCAST(Base, static_cast<CObject*>(nullptr)), nullptr);
 }
 
 }  // namespace

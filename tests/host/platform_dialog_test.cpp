@@ -2,25 +2,21 @@
 #include <platform/CDialog.h>
 #include <platform/CEdit.h>
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <stdexcept>
-#include <vector>
 
 #include "support/DialogTemplate.h"
 
 namespace {
 
 using knav::test::DialogTemplate;
-using testing::ElementsAre;
 
-constexpr WORD kEditId = 10;
 constexpr UINT WM_STEP = WM_APP + 1;
 
 const DialogTemplate& sampleTemplate() {
-    static const DialogTemplate made =
-        DialogTemplate(L"sample").control(WC_EDITW, L"", kEditId, WS_TABSTOP, 5).okAndCancel();
+    static const DialogTemplate made = DialogTemplate(L"sample").okAndCancel();
     return made;
 }
 
@@ -41,10 +37,6 @@ public:
 
     std::function<void()> onInit = [] {};
     std::function<void()> onStep = [] {};
-    std::function<bool(LPARAM)> onIdle = [](LPARAM) { return false; };
-    CEdit m_edit;
-    CString m_text;
-    bool m_refuseText = false;
 
     // Runs the dialog and calls `step` from a posted message when it is up.
     INT_PTR runWith(std::function<void()> step) {
@@ -59,23 +51,14 @@ protected:
         onInit();
         return TRUE;
     }
-    void DoDataExchange(CDataExchange* exchange) override {
-        DDX_Control(exchange, kEditId, m_edit);
-        DDX_Text(exchange, kEditId, m_text);
-        if (exchange->m_bSaveAndValidate && m_refuseText) {
-            exchange->Fail(kEditId);
-        }
-    }
     LRESULT onStepMessage(WPARAM, LPARAM) {
         onStep();
         return 0;
     }
-    LRESULT onKickIdle(WPARAM, LPARAM count) { return onIdle(count); }
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(SampleDialog, CDialog)
 ON_MESSAGE(WM_STEP, &SampleDialog::onStepMessage)
-ON_MESSAGE(WM_KICKIDLE, &SampleDialog::onKickIdle)
 END_MESSAGE_MAP()
 
 TEST(ModalDialog, DisablesItsOwnerAndPutsEverythingBack) {
@@ -136,57 +119,10 @@ TEST(ModalDialog, WhateverGoesWrongFailsItAndLeavesTheOwnerEnabled) {
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
-TEST(ModalDialog, EndedWhileInitialisingIsNeverShown) {
-    OwnerWindow owner;
-    SampleDialog dialog(&owner);
-    bool shown = false;
-    dialog.onIdle = [&](LPARAM) { return shown = true; };
-    dialog.onInit = [&] { dialog.EndDialog(12); };
-    EXPECT_EQ(dialog.DoModal(), 12);
-    EXPECT_FALSE(shown);
-}
-
 TEST(ModalDialog, SurvivesTheEndOfItsOwner) {
     auto owner = std::make_unique<OwnerWindow>();
     SampleDialog dialog(owner.get());
     EXPECT_EQ(dialog.runWith([&] { owner.reset(); }), kDialogFailed);
-}
-
-TEST(ModalDialog, KicksIdleUntilThereIsNothingToDo) {
-    SampleDialog dialog;
-    std::vector<LPARAM> counts;
-    bool alwaysVisible = true;
-    dialog.onIdle = [&](LPARAM count) {
-        counts.push_back(count);
-        alwaysVisible = alwaysVisible && dialog.IsWindowVisible();
-        if (counts.size() == 3) {
-            dialog.PostMessage(WM_STEP);  // a message starts the count anew
-        } else if (counts.size() == 4) {
-            dialog.EndDialog(IDOK);
-        }
-        return count < 2;
-    };
-    EXPECT_EQ(dialog.DoModal(), IDOK);
-    EXPECT_THAT(counts, ElementsAre(0, 1, 2, 0));
-    EXPECT_TRUE(alwaysVisible);
-}
-
-TEST(DialogData, MovesBetweenControlsAndMembersUnlessItIsRefused) {
-    SampleDialog dialog;
-    dialog.m_text = L"before";
-    dialog.m_refuseText = true;
-    dialog.runWith([&] {
-        CString shown;
-        dialog.m_edit.GetWindowText(shown);
-        EXPECT_STREQ(shown, L"before");
-        dialog.m_edit.SetWindowText(L"after");
-        dialog.NextDlgCtrl();
-        dialog.SendMessage(WM_COMMAND, IDOK);
-        EXPECT_EQ(::GetFocus(), dialog.m_edit.m_hWnd) << "still open, with the focus on what was refused";
-        dialog.m_refuseText = false;
-        dialog.PostMessage(WM_COMMAND, IDOK);
-    });
-    EXPECT_STREQ(dialog.m_text, L"after");
 }
 
 }  // namespace

@@ -6,26 +6,6 @@
 
 namespace {
 
-TEST(Prompt, HandlerAnswersAndSeesWhatWouldBeShown) {
-    ZoPrompt seen;
-    const ZoPromptHandler before = ZoSetPromptHandler([&](const ZoPrompt& prompt) {
-        seen = prompt;
-        return IDRETRY;
-    });
-    EXPECT_EQ(ZoMessageBox(GetDesktopWindow(), L"Replace it?", L"Caption", MB_YESNO | MB_DEFBUTTON2), IDRETRY);
-    EXPECT_EQ(seen.kind, ZoPromptKind::MessageBox);
-    EXPECT_STREQ(seen.text, L"Replace it?");
-    EXPECT_STREQ(seen.caption, L"Caption");
-    EXPECT_EQ(seen.owner, GetDesktopWindow());
-    EXPECT_EQ(seen.flags, UINT{MB_YESNO | MB_DEFBUTTON2 | MB_ICONQUESTION});
-    AfxMessageBox(L"Done", MB_OK);
-    EXPECT_STREQ(seen.caption, L"test_host");
-    EXPECT_EQ(seen.flags, UINT{MB_OK | MB_ICONEXCLAMATION});
-    AfxMessageBox(L"Done", MB_OK | MB_ICONINFORMATION);
-    EXPECT_EQ(seen.flags, UINT{MB_OK | MB_ICONINFORMATION});
-    ZoSetPromptHandler(before);
-}
-
 TEST(Prompt, IsShownWhenTheHandlerPassesOrFails) {
     const ZoPromptHandler handlers[] = {
         nullptr,

@@ -110,32 +110,6 @@ TEST(WindowLifetime, ObjectMayBeDeletedInItsOwnHandler) {
     EXPECT_EQ(SendMessageW(raw, WM_APP, 0, 0), 0);
 }
 
-// Refuses to be created, and deletes itself whenever its window ends.
-class SelfDeleting : public CWnd {
-public:
-    explicit SelfDeleting(int& deleted) : m_deleted(deleted) {}
-    int OnCreate(CREATESTRUCTW*) { return -1; }
-
-protected:
-    void PostNcDestroy() override {
-        ++m_deleted;
-        delete this;
-    }
-    DECLARE_MESSAGE_MAP()
-
-private:
-    int& m_deleted;
-};
-BEGIN_MESSAGE_MAP(SelfDeleting, CWnd)
-ON_WM_CREATE()
-END_MESSAGE_MAP()
-
-TEST(WindowLifetime, RefusedCreationEndsASelfDeletingObjectOnce) {
-    int deleted = 0;
-    EXPECT_FALSE(createPopup(*new SelfDeleting(deleted)));
-    EXPECT_EQ(deleted, 1);
-}
-
 TEST(Subclassing, IsRefusedForTakenDeadAndForeignWindows) {
     const RawWindow raw;
     CWnd first;
@@ -211,47 +185,34 @@ TEST(WindowFromHandle, GivesTheObjectOrOneTemporary) {
     EXPECT_EQ(CWnd::FromHandlePermanent(ended), nullptr);
 }
 
-class Consumer : public CWnd {
+class Translator : public CWnd {
 public:
-    explicit Consumer(int& log) : m_log(log) {}
     std::function<BOOL()> answer = [] { return FALSE; };
-    BOOL PreTranslateMessage(MSG*) override {
-        m_log = 10 * m_log + GetDlgCtrlID();
-        return answer();
-    }
-
-private:
-    int& m_log;  // a digit for each window that was asked
+    BOOL PreTranslateMessage(MSG*) override { return answer(); }
 };
 
-TEST(PreTranslate, WalksFromTheWindowUpToTheStop) {
-    int log = 0;
+TEST(PreTranslate, WindowMayThrowOrEndOnTheWayUp) {
     CWnd top;
-    Consumer outer(log);
-    Consumer middle(log);
-    Consumer inner(log);
+    Translator outer;
+    Translator inner;
     createPopup(top);
     outer.Create(nullptr, L"", 0, kPlace, &top, 1);
-    middle.Create(nullptr, L"", 0, kPlace, &outer, 2);
-    inner.Create(nullptr, L"", 0, kPlace, &middle, 3);
-    const RawWindow withoutObject(L"Static", inner);
-    MSG message{withoutObject, WM_KEYDOWN, VK_TAB, 0, 0, {}};
-    const auto walk = [&](HWND stop) {
-        log = 0;
-        return CWnd::WalkPreTranslateTree(stop, &message);
-    };
-    EXPECT_FALSE(walk(outer));
-    EXPECT_EQ(log, 321);
-    EXPECT_FALSE(walk(middle));
-    EXPECT_EQ(log, 32);
-    middle.answer = [] { return TRUE; };
-    EXPECT_TRUE(walk(outer));
-    EXPECT_EQ(log, 32);
+    inner.Create(nullptr, L"", 0, kPlace, &outer, 2);
+    MSG message{inner, WM_KEYDOWN, VK_TAB, 0, 0, {}};
     inner.answer = []() -> BOOL { throw std::runtime_error("broken"); };
-    EXPECT_TRUE(walk(outer));
-    EXPECT_EQ(log, 3);
-    inner.answer = [&] { return middle.DestroyWindow() ? FALSE : TRUE; };
-    EXPECT_FALSE(walk(outer));
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(top, &message));
+    inner.answer = [&] { return outer.DestroyWindow() ? FALSE : TRUE; };
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(top, &message));
+}
+
+TEST(MessageMap, HandlerThatThrowsLeavesTheWindowUsable) {
+    Probe probe;
+    createPopup(probe);
+    probe.action = [] { throw std::runtime_error("handler"); };
+    EXPECT_EQ(probe.SendMessage(WM_APP), 0);
+    EXPECT_EQ(probe.GetCurrentMessage().message, UINT{WM_NULL});
+    probe.action = [] {};
+    EXPECT_EQ(probe.SendMessage(WM_APP), 5);
 }
 
 }  // namespace

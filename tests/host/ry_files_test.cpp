@@ -1,6 +1,5 @@
 #include <platform/ScopedHandle.h>
 #include <ry/FileSystem.h>
-#include <ry/RyUt.h>
 #include <ry/RyUtResource.h>
 
 #include <gtest/gtest.h>
@@ -31,27 +30,6 @@ protected:
     CString m_previous = currentDirectory();
     ScopedTempFolder m_folder;
 };
-
-// --- RyUt ----------------------------------------------------------------------------------------------------------
-
-TEST_F(FilesTest, GetFileStatusTellsWhatIsThereUnderItsFullName) {
-    const CString path = m_folder.addFile(L"sub\\Plan.dwg", "12345");
-    RyFileStatus status;
-    ASSERT_NE(RyUt::GetFileStatus(L"SUB/..\\sub/PLAN.DWG", status), 0);
-    EXPECT_EQ(status.m_fullName.CompareNoCase(path), 0) << status.m_fullName.GetString();
-    EXPECT_EQ(status.m_size, 5u);
-    EXPECT_EQ(status.m_attributes & FILE_ATTRIBUTE_DIRECTORY, 0u);
-    EXPECT_NE(status.m_modified.dwHighDateTime, 0u);
-    for (const wchar_t* none : {static_cast<const wchar_t*>(nullptr), L"", L"none.dwg", L"*.dwg", L"a|b"}) {
-        EXPECT_EQ(RyUt::GetFileStatus(none, status), 0);
-    }
-    EXPECT_EQ(status.m_size, 5u) << "left as it was";
-    ASSERT_NE(RyUt::GetFileStatus(m_folder.path(), status), 0);
-    EXPECT_NE(status.m_attributes & FILE_ATTRIBUTE_DIRECTORY, 0u);
-    EXPECT_EQ(status.m_size, 0u);
-}
-
-// --- RyUtResource --------------------------------------------------------------------------------------------------
 
 CString systemModule() {
     wchar_t folder[MAX_PATH];
@@ -88,23 +66,6 @@ TEST_F(FilesTest, LoadDllFindsRelativeNamesOnlyBesideTheModules) {
         EXPECT_EQ(RyUtResource::freeDll(loaded) != 0, row.found) << row.why;
     }
     EXPECT_EQ(RyUtResource::loadDll(nullptr), nullptr);
-}
-
-// --- networkAwareChangeDir -----------------------------------------------------------------------------------------
-
-TEST_F(FilesTest, ChangeDirEntersFoldersOnly) {
-    const CString folder = m_folder.addFolder(L"sub");
-    m_folder.addFile(L"plan.dwg");
-    m_folder.addFolder(L"Desktop");
-    EXPECT_EQ(networkAwareChangeDir(folder, false), L"");
-    EXPECT_EQ(currentDirectory().CompareNoCase(folder), 0);
-    EXPECT_EQ(networkAwareChangeDir(L"..", false), L"");
-    EXPECT_EQ(currentDirectory().CompareNoCase(m_folder.path()), 0);
-    EXPECT_EQ(networkAwareChangeDir(L"Desktop", true), L"");
-    for (const wchar_t* none : {static_cast<const wchar_t*>(nullptr), L"", L"none", L"plan.dwg"}) {
-        EXPECT_EQ(networkAwareChangeDir(none, false), L"");
-    }
-    EXPECT_EQ(currentDirectory().CompareNoCase(m_folder.path()), 0);
 }
 
 TEST_F(FilesTest, ChangeDirAbandonsALocationThatDoesNotAnswer) {

@@ -1,7 +1,4 @@
-#include <zoui/CZoUiComboBox.h>
 #include <zoui/CZoUiDialog.h>
-#include <zoui/CZoUiTabMainDialog.h>
-#include <zoui/CZoUiTabPage.h>
 
 #include <gtest/gtest.h>
 
@@ -34,8 +31,6 @@ bool isInside(const RECT& inner, const RECT& outer) {
     IntersectRect(&common, &inner, &outer);
     return common == inner;
 }
-
-// --- place ---------------------------------------------------------------------------------------------------------
 
 class PlacedDialog : public CZoUiDialog {
 public:
@@ -133,120 +128,6 @@ TEST_F(DialogPlaceTest, StoredPlaceIsFittedAndASenselessOneIgnored) {
         EXPECT_TRUE(isInside(opened, room)) << opened;
         EXPECT_EQ(opened == dialog.m_atInit, row.ignored) << opened;
         EXPECT_EQ(opened, row.opened.value_or(opened));
-    }
-}
-
-// --- notifications ---------------------------------------------------------------------------------------------------
-
-class NotifiedDialog : public CZoUiDialog {
-public:
-    NotifiedDialog() : CZoUiDialog(0) { CreateIndirect(m_template.get()); }
-    ZOUI_REPLY OnNotifyControlChange(unsigned int id, __int64 code) override {
-        m_notes.emplace_back(id, code);
-        return m_reply;
-    }
-    ZOUI_REPLY OnNotifyGeneric(unsigned int code, __int64 parameter) override {
-        return OnNotifyControlChange(code, parameter);
-    }
-
-    std::vector<std::pair<unsigned int, __int64>> m_notes;
-    ZOUI_REPLY m_reply = ZOUI_REPLY_NOT_HANDLED;
-
-private:
-    const DialogTemplate m_template{L"Notified"};
-};
-
-TEST(DialogNotify, EachReachesTheDialogOnceAndEndsThereWhenHandled) {
-    NotifiedDialog dialog;
-    CZoUiComboBox combo;
-    combo.Create(CBS_DROPDOWN, RECT{0, 0, 50, 50}, &dialog, 100);
-    EXPECT_EQ(dialog.AutoLoadControl(combo), 0) << "has nothing to load";
-    EXPECT_EQ(combo.GetZoUiParent(), &dialog);
-    const WPARAM change = MAKEWPARAM(100, CBN_SELCHANGE);
-    for (const ZOUI_REPLY reply : {ZOUI_REPLY_NOT_HANDLED, ZOUI_REPLY_HANDLED}) {
-        dialog.m_reply = reply;
-        LRESULT result = 0;
-        EXPECT_EQ(CWnd::ReflectMessage(combo, WM_COMMAND, change, 0, &result) != FALSE, reply == ZOUI_REPLY_HANDLED);
-        EXPECT_EQ(ZoUiNotify(&dialog, 0xFFFFFFF0u, 0x123456789ABCDEF0), reply);
-    }
-    using Note = std::pair<unsigned int, __int64>;
-    const Note selection{100, CBN_SELCHANGE};
-    const Note other{0xFFFFFFF0u, 0x123456789ABCDEF0};
-    EXPECT_EQ(dialog.m_notes, (std::vector<Note>{selection, other, selection, other}));
-    EXPECT_EQ(ZoUiNotify(&combo, 16), ZOUI_REPLY_NOT_HANDLED) << "any other window";
-    EXPECT_EQ(ZoUiNotify(nullptr, 16), ZOUI_REPLY_NOT_HANDLED);
-}
-
-// --- tabs ------------------------------------------------------------------------------------------------------------
-
-constexpr UINT kTabs = 200;
-
-class Page : public CZoUiTabPage {
-public:
-    explicit Page(WORD editId) : CZoUiTabPage(0), m_template(L"", WS_CHILD | DS_CONTROL, 100, 30) {
-        m_template.control(WC_EDITW, L"", editId, WS_BORDER | WS_TABSTOP, 2);
-    }
-    BOOL OnLeave() override { return m_mayLeave && CZoUiTabPage::OnLeave(); }
-    DialogTemplate m_template;
-    bool m_mayLeave = true;
-};
-
-class TabbedDialog : public CZoUiTabMainDialog {
-public:
-    TabbedDialog() : CZoUiTabMainDialog(0, kTabs), m_template(L"Tabbed") {
-        m_template.control(WC_TABCONTROLW, L"", kTabs, WS_TABSTOP | WS_CLIPSIBLINGS, 5, 50).okAndCancel();
-        InitModalIndirect(m_template.get());
-    }
-    BOOL OnInitDialog() override {
-        m_first.CreateIndirect(m_first.m_template.get(), this);
-        m_second.CreateIndirect(m_second.m_template.get(), this);
-        EXPECT_EQ(AddPage(m_first, L"First"), 0);
-        EXPECT_EQ(AddPage(m_second, L"Second"), 1);
-        return CZoUiTabMainDialog::OnInitDialog();
-    }
-    // What is in front, by what the user sees.
-    int visiblePage() { return m_first.IsWindowVisible() ? (m_second.IsWindowVisible() ? -2 : 0) : 1; }
-    void chooseTab(int index) {
-        SendDlgItemMessage(kTabs, TCM_SETCURSEL, static_cast<WPARAM>(index));
-        NMHDR header{GetDlgItem(kTabs)->m_hWnd, kTabs, static_cast<UINT>(TCN_SELCHANGE)};
-        SendMessage(WM_NOTIFY, kTabs, reinterpret_cast<LPARAM>(&header));
-    }
-
-    Page m_first{301};
-    Page m_second{302};
-
-private:
-    DialogTemplate m_template;
-};
-
-TEST(TabDialog, PagesChangeAndOkEndsUnlessAPageRefuses) {
-    TabbedDialog dialog;
-    for (int round = 0; round < 2; ++round) {  // it can be run again with the same pages
-        DialogDriver driver;
-        driver.then("tabs", [&] {
-            EXPECT_EQ(dialog.visiblePage(), 0);
-            dialog.chooseTab(1);
-            EXPECT_EQ(dialog.visiblePage(), 1);
-            EXPECT_TRUE(isInside(rectOf(dialog.m_second), rectOf(*dialog.GetDlgItem(kTabs))));
-            dialog.m_second.m_mayLeave = false;
-            dialog.chooseTab(0);
-            EXPECT_EQ(dialog.visiblePage(), 1);
-            EXPECT_EQ(dialog.SendDlgItemMessage(kTabs, TCM_GETCURSEL), 1) << "the tab goes back";
-            dialog.m_second.m_mayLeave = true;
-            EXPECT_FALSE(dialog.SetActivePage(2));
-            EXPECT_TRUE(dialog.SetActivePage(0));
-            dialog.m_second.m_mayLeave = false;
-        });
-        driver.click(IDOK);
-        driver.wait("the page that refuses", [&] { return dialog.visiblePage() == 1; });
-        // Enter in a field of a page is the main dialog's.
-        driver.then("enter", [&] {
-            dialog.m_second.m_mayLeave = true;
-            const HWND edit = *dialog.m_second.GetDlgItem(302);
-            SetFocus(edit);
-            PostMessageW(edit, WM_KEYDOWN, VK_RETURN, 1);
-        });
-        EXPECT_EQ(driver.run([&] { return dialog.DoModal(); }), IDOK);
     }
 }
 

@@ -224,9 +224,6 @@ TEST_F(PathnameTest, ChangesKeepPathAndTypeTogether) {
     path.Parse(L"plan", false);
     path.AddExtensionAlways(L".dwg");
     EXPECT_EQ(path.GetType(), Type::ExistingFile);
-    path.AddExtensionAlways(L"bak");
-    EXPECT_EQ(fullPath(path).CompareNoCase(expand(L"{T}\\plan.dwg.bak")), 0);
-    EXPECT_EQ(path.GetType(), Type::NewFile);
     path.Parse(L"sub\\", false);
     path.TrimSlash();
     path.AddExtensionAlways(L"dwg");

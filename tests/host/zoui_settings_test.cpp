@@ -24,24 +24,6 @@ protected:
     CZoUiDialog m_dialog{0};
 };
 
-TEST_F(SettingsTest, ValuesComeBackAsStoredUntilDeleted) {
-    EXPECT_NE(m_dialog.SetDialogData(L"value", CString(L"C:\\work")), 0);
-    EXPECT_EQ(stored(L"value"), L"C:\\work");
-    EXPECT_EQ(m_dialog.SetDialogData(L"value", CString(L'x', ryRegMaxText + 1)), 0);
-    EXPECT_EQ(stored(L"value"), L"C:\\work") << "an overlong text is refused";
-    unsigned long number = 77;
-    EXPECT_EQ(m_dialog.GetDialogData(L"value", number), 0) << "of the other kind";
-    EXPECT_EQ(m_dialog.GetDialogData(L"missing", number), 0);
-    EXPECT_EQ(number, 77u);
-    EXPECT_NE(m_dialog.SetDialogData(L"value", 4ul), 0);
-    EXPECT_NE(m_dialog.GetDialogData(L"value", number), 0);
-    EXPECT_EQ(number, 4u);
-    EXPECT_EQ(stored(L"value"), L"(absent)");
-    EXPECT_NE(m_dialog.DelDialogData(L"value"), 0);
-    EXPECT_NE(m_dialog.DelDialogData(L"value"), 0) << "deleting it again is no failure";
-    EXPECT_EQ(m_dialog.GetDialogData(L"value", number), 0);
-}
-
 TEST_F(SettingsTest, DialogWithoutANameStoresNothing) {
     m_dialog.SetDialogName(L"");
     EXPECT_EQ(m_dialog.SetDialogData(L"value", 1ul), 0);
