@@ -11,7 +11,17 @@
 namespace knav::test {
 namespace {
 
-class DialogOpen : public DialogTest {};
+class DialogOpen : public DialogTest {
+protected:
+    /// Files by number, from "plan00000.dwg" on.
+    void addNumbered(int files) {
+        folder.addFiles(files, [](int number) {
+            CString name;
+            name.Format(L"plan%05d.dwg", number);
+            return name;
+        });
+    }
+};
 
 TEST_F(DialogOpen, TypedName_GivesOneItemWithItsFullPath) {
     const CString file = folder.addFile(L"plan.dwg");
@@ -262,11 +272,7 @@ TEST_F(DialogOpen, SameObjectRunsAgain_AndStartsEmpty) {
 
 TEST_F(DialogOpen, TenThousandFiles_OpenAndPick) {
     constexpr int kFiles = 10'000;
-    folder.addFiles(kFiles, [](int number) {
-        CString name;
-        name.Format(L"plan%05d.dwg", number);
-        return name;
-    });
+    addNumbered(kFiles);
     TestDialog dialog(folder.path());
     DialogUser user(dialog);
     user.until("all files", [] { return ListView_GetItemCount(viewList()) == kFiles; }).check([] {
@@ -279,11 +285,7 @@ TEST_F(DialogOpen, TenThousandFiles_OpenAndPick) {
 
 TEST_F(DialogOpen, AllOfAThousandFiles_AreNamedAndOpened) {
     constexpr int kFiles = 1'000;
-    folder.addFiles(kFiles, [](int number) {
-        CString name;
-        name.Format(L"plan%03d.dwg", number);
-        return name;
-    });
+    addNumbered(kFiles);
     TestDialog dialog(folder.path());
     dialog.SetMultiSelectAllowed(1);
     DialogUser user(dialog);
@@ -291,12 +293,12 @@ TEST_F(DialogOpen, AllOfAThousandFiles_AreNamedAndOpened) {
         ListView_SetItemState(viewList(), 0, LVIS_FOCUSED, LVIS_FOCUSED);
         ListView_SetItemState(viewList(), -1, LVIS_SELECTED, LVIS_SELECTED);
     });
-    constexpr std::size_t kLength = kFiles * std::string_view("\"plan000.dwg\" ").size() - 1;
+    constexpr std::size_t kLength = kFiles * std::string_view("\"plan00000.dwg\" ").size() - 1;
     user.until("all names", [] { return fileNameText().size() == kLength; }).ok();
     EXPECT_EQ(user.run(), IDOK);
     const std::vector<std::wstring> chosen = dialog.chosen();
     EXPECT_EQ(std::set(chosen.begin(), chosen.end()).size(), std::size_t{kFiles});
-    EXPECT_THAT(chosen, testing::Contains(wide(folder.path(L"plan999.dwg"))));
+    EXPECT_THAT(chosen, testing::Contains(wide(folder.path(L"plan00999.dwg"))));
 }
 
 }  // namespace
