@@ -16,16 +16,20 @@ std::wstring textOf(HWND window) {
     return text;
 }
 
+bool opensMenu(long role) {
+    return role == ROLE_SYSTEM_BUTTONMENU || role == ROLE_SYSTEM_SPLITBUTTON;
+}
+
 bool isButton(long role) {
-    return role == ROLE_SYSTEM_PUSHBUTTON || role == ROLE_SYSTEM_BUTTONMENU || role == ROLE_SYSTEM_SPLITBUTTON;
+    return role == ROLE_SYSTEM_PUSHBUTTON || opensMenu(role);
 }
 
 /// What the keyboard calls the key.
 std::wstring altKey() {
     const auto code = static_cast<LONG>(MapVirtualKeyW(VK_MENU, MAPVK_VK_TO_VSC));
     wchar_t name[32] = L"";
-    GetKeyNameTextW(code << 16, name, static_cast<int>(std::size(name)));
-    return name;
+    const bool named = GetKeyNameTextW(code << 16, name, static_cast<int>(std::size(name))) > 0;
+    return named ? name : L"Alt";
 }
 
 /// Answers with the text that `make` gives.
@@ -92,7 +96,7 @@ public:
     }
     STDMETHOD(get_accState)(VARIANT child, VARIANT* state) override {
         const HRESULT result = ask(&IAccessible::get_accState, child, state);
-        if (result == S_OK && isSelf(child) && state->vt == VT_I4 && m_facts.dropsMenu) {
+        if (result == S_OK && isSelf(child) && state->vt == VT_I4 && opensMenu(m_facts.role)) {
             state->lVal |= STATE_SYSTEM_HASPOPUP;
         }
         return result;

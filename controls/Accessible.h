@@ -12,7 +12,6 @@ namespace knav {
 struct AccessibleFacts {
     long role;                                  ///< ROLE_SYSTEM_...
     HWND label = nullptr;                       ///< its text is the name; null: the control's own text
-    bool dropsMenu = false;                     ///< it is a button that opens a menu
     std::function<std::wstring()> description;  ///< asked while the control lives; may be empty
 };
 

@@ -21,19 +21,19 @@ void nameControls(DialogControls& controls, HWND dialog) {
     };
     const auto windowOf = [dialog](UINT id) { return GetDlgItem(dialog, static_cast<int>(id)); };
     for (const Row& row : rows) {
-        makeAccessible(windowOf(row.id), {row.role, windowOf(row.label), false, {}});
+        makeAccessible(windowOf(row.id), {row.role, windowOf(row.label), {}});
     }
     // Not every system tells what a plain button is.
     const bool drops = controls.m_okButton.GetMenuExists() != 0;
-    makeAccessible(windowOf(IDOK), {drops ? ROLE_SYSTEM_SPLITBUTTON : ROLE_SYSTEM_PUSHBUTTON, nullptr, drops, {}});
-    makeAccessible(windowOf(IDCANCEL), {ROLE_SYSTEM_PUSHBUTTON, nullptr, false, {}});
+    makeAccessible(windowOf(IDOK), {drops ? ROLE_SYSTEM_SPLITBUTTON : ROLE_SYSTEM_PUSHBUTTON, nullptr, {}});
+    makeAccessible(windowOf(IDCANCEL), {ROLE_SYSTEM_PUSHBUTTON, nullptr, {}});
     for (CNavBitmapButton* button : {&controls.m_backButton, &controls.m_upButton, &controls.m_webButton,
                                      &controls.m_refreshButton, &controls.m_deleteButton, &controls.m_newFolderButton,
                                      static_cast<CNavBitmapButton*>(&controls.m_toolsButton),
                                      static_cast<CNavBitmapButton*>(&controls.m_viewsButton)}) {
         const bool isMenu = button == &controls.m_toolsButton || button == &controls.m_viewsButton;
         makeAccessible(button->GetSafeHwnd(), {isMenu ? ROLE_SYSTEM_BUTTONMENU : ROLE_SYSTEM_PUSHBUTTON, nullptr,
-                                               isMenu, [button] { return std::wstring(button->GetTipText()); }});
+                                               [button] { return std::wstring(button->GetTipText()); }});
     }
 }
 

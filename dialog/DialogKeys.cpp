@@ -21,7 +21,7 @@ bool DialogKeys::translate(MSG& message, HWND dialog) {
     }
     return swallowHeldEnter(message) || keepForLabelEdit(message) || goUpFromView(message, dialog) ||
            translateForView(message) ||
-           (m_table && !isForDropped(message) && TranslateAcceleratorW(dialog, m_table, &message));
+           (m_table && !isForControl(message) && TranslateAcceleratorW(dialog, m_table, &message));
 }
 
 /// The Enter that opened this dialog may still be held down, and repeats; it was not meant for this dialog.
@@ -65,7 +65,7 @@ bool DialogKeys::translateForView(MSG& message) {
 }
 
 /// While a list is dropped down, the keys are for it: Alt+Up closes it, F4 too. F4 on a button with a menu opens that.
-bool DialogKeys::isForDropped(const MSG& message) const {
+bool DialogKeys::isForControl(const MSG& message) const {
     const HWND at = message.message == WM_KEYDOWN && message.wParam == VK_F4 ? message.hwnd : nullptr;
     if (at && (at == m_controls.m_viewsButton.m_hWnd || at == m_controls.m_toolsButton.m_hWnd ||
                (at == m_controls.m_okButton.m_hWnd && m_controls.m_okButton.GetMenuExists()))) {

@@ -11,7 +11,8 @@ public:
     DialogKeys(const DialogKeys&) = delete;
     DialogKeys& operator=(const DialogKeys&) = delete;
 
-    /// The dialog is about to be shown: loads the table of keys, once, and takes Enter for held down.
+    /// The dialog is about to be shown: loads the table of keys, once. An Enter that is held down already is not for
+    /// it.
     void begin();
 
     /// True when the message was a key of the dialog or of the view in it, and has been worked off.
@@ -22,7 +23,7 @@ private:
     bool keepForLabelEdit(MSG& message) const;
     bool goUpFromView(const MSG& message, HWND dialog) const;
     bool translateForView(MSG& message);
-    bool isForDropped(const MSG& message) const;
+    bool isForControl(const MSG& message) const;
 
     DialogControls& m_controls;
     HACCEL m_table = nullptr;
