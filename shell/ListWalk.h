@@ -19,8 +19,8 @@ struct ListMeasure {
 /// Walks the whole list under one guard. Memory that cannot be read ends the list as a terminator would.
 ListMeasure measureList(const ITEMIDLIST* list) noexcept;
 
-/// `list` is null or can be read up to its terminator and not torn. The system's folders do not expect anything else: a fault in
-/// them may leave their locks taken and their memory lost, so what they are given is looked at before.
+/// `list` is null or can be read up to its terminator and not torn. The system's folders do not expect anything else: a
+/// fault in them may leave their locks taken and their memory lost, so what they are given is looked at before.
 bool isWhole(const ITEMIDLIST* list) noexcept;
 
 /// The bytes of the first element, its count included; 0 when there is none or it cannot be read.
