@@ -11,10 +11,10 @@
 namespace {
 
 /// The item is this path from now on. A text such as "\name" depends on the folder that was shown when it was typed;
-/// the full path does not.
+/// the full path does not. Places that are no path keep their text and kind.
 void takePath(CNavData& item, CNavPathname& path) {
     item.SetPathname(&path);
-    if (item.GetDataType() == NAV_DATA_FTP || path.GetIsExtension()) {
+    if (item.GetDataType() == NAV_DATA_FTP || path.GetIsExtension() || path.GetIsURL()) {
         return;
     }
     if (CString full; path.GetFullPath(full)) {

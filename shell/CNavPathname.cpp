@@ -80,7 +80,9 @@ PathErr CNavPathname::Parse(const wchar_t* text, bool allowWildcards) {
     return knav::atApiEdge(PathErr::NotFileSystem, [&] {
         m_location.Empty();
         if (text != nullptr && knav::isUrlLocation(text)) {
-            setLocation(text);
+            m_location = text;
+            m_isExtension = true;
+            m_isUrl = true;
             return PathErr::NotFileSystem;
         }
         return CZoUiPathname::Parse(text, allowWildcards);
@@ -130,15 +132,6 @@ PathErr CNavPathname::takeItem(const ITEMIDLIST* item, IShellFolder* folder, con
     const bool isFolder = hasAttribute(folder, item, SFGAO_FOLDER | SFGAO_FILESYSTEM, SFGAO_FOLDER);
     m_type = isFolder ? Directory : ExistingFile;
     return PathErr::None;
-}
-
-// Stores a location text; that of a URL sets both flags.
-void CNavPathname::setLocation(const CString& location) {
-    m_location = location;
-    if (knav::isUrlLocation(location.view())) {
-        m_isExtension = true;
-        m_isUrl = true;
-    }
 }
 
 void CNavPathname::ownID(ITEMIDLIST* id) {

@@ -79,9 +79,7 @@ PathErr CNavPathname::parseInSite(const wchar_t* text, const CNavPathname* base,
     if (place->empty() || !location) {
         return PathErr::NotFileSystem;
     }
-    if (!knav::sitePrefix(*location).empty()) {
-        location = knav::canonicalLocation(*location);
-    }
+    location = knav::canonicalLocation(*location, *place);
     if (location && site.IsWebFoldersType()) {  // they hand out escaped URLs; people read and store plain ones
         location = knav::decodedUrl(location->c_str());
         place = knav::decodedUrl(place->c_str());
@@ -89,7 +87,7 @@ PathErr CNavPathname::parseInSite(const wchar_t* text, const CNavPathname* base,
     if (!location || !place || location->size() >= MAX_PATH) {
         return PathErr::TooLong;
     }
-    setLocation(CString(*location));
+    m_location = CString(*location);
     findInSite(site, qualified.get(), std::wstring(knav::nameBelowSite(*place, *location)).c_str());
     return PathErr::None;
 }
@@ -112,11 +110,9 @@ bool CNavPathname::parseAtRoot(const wchar_t* text, CNavNode& root) {
         return false;
     }
     const auto qualified = knav::ItemList::adopt(root.CalculateQualifiedItemList());
-    CString location;
-    if (!NavGetItemDisplayName(SHGDN_FORPARSING, root.GetFolder(), site.get(), location)) {
-        location = text;
+    if (!NavGetItemDisplayName(SHGDN_FORPARSING, root.GetFolder(), site.get(), m_location)) {
+        m_location = text;
     }
-    setLocation(location);
     ownID(knav::ItemList::join(qualified.get(), site.get()).release());
     m_type = Directory;
     return true;

@@ -3,6 +3,7 @@
 #include <platform/Windows.h>
 
 #include <algorithm>
+#include <span>
 
 #include <wininet.h>
 
@@ -18,11 +19,13 @@ bool isSeparator(wchar_t character) {
     return kSeparators.find(character) != std::wstring_view::npos;
 }
 
+std::wstring_view withoutEndSeparators(std::wstring_view place) {
+    return place.substr(0, place.find_last_not_of(kSeparators) + 1);
+}
+
 // `location` is `place` or lies below it.
 bool liesIn(std::wstring_view location, std::wstring_view place) {
-    while (!place.empty() && isSeparator(place.back())) {
-        place.remove_suffix(1);
-    }
+    place = withoutEndSeparators(place);
     return knav::startsWithNoCase(location, place) &&
            (location.size() == place.size() || isSeparator(location[place.size()]));
 }
@@ -74,13 +77,14 @@ std::wstring_view lastName(std::wstring_view location) noexcept {
     return end != std::wstring_view::npos ? location.substr(end + 1) : location;
 }
 
-std::optional<std::wstring> canonicalLocation(std::wstring_view location) {
+std::optional<std::wstring> canonicalLocation(std::wstring_view location, std::wstring_view site) {
     const std::wstring_view prefix = sitePrefix(location);
-    if (prefix.empty()) {
+    const std::wstring_view root = prefix.empty() ? location.substr(0, withoutEndSeparators(site).size()) : prefix;
+    if (prefix.empty() && site.empty()) {
         return std::nullopt;
     }
     std::wstring path(kFakeRoot);
-    path += location.substr(prefix.size());
+    path += location.substr(root.size());
     std::ranges::replace(path, L'/', L'\\');
     wchar_t canonical[MAX_PATH];
     if (path.size() >= MAX_PATH || !PathCanonicalizeW(canonical, path.c_str())) {
@@ -92,9 +96,9 @@ std::optional<std::wstring> canonicalLocation(std::wstring_view location) {
     if (!rest.empty() && rest.front() != L'\\') {
         return std::nullopt;  // names of three dots and more can confuse the path functions; the host must not change
     }
-    std::wstring result(prefix);
+    std::wstring result(root);
     result += rest;
-    std::ranges::replace(result, L'\\', L'/');
+    std::ranges::replace(std::span(result).subspan(prefix.empty() ? root.size() : 0), L'\\', L'/');
     return result.size() < MAX_PATH ? std::optional(std::move(result)) : std::nullopt;
 }
 
@@ -107,10 +111,7 @@ std::optional<std::wstring> locationInSite(std::wstring_view site, std::wstring_
         return std::nullopt;
     }
     const bool fromRoot = !text.empty() && isSeparator(text.front());
-    std::wstring location(fromRoot && !prefix.empty() ? prefix : site);
-    while (!location.empty() && isSeparator(location.back())) {
-        location.pop_back();
-    }
+    std::wstring location(withoutEndSeparators(fromRoot && !prefix.empty() ? prefix : site));
     if (!fromRoot) {
         location += L'/';
     }

@@ -25,9 +25,10 @@ std::wstring_view serverName(std::wstring_view sitePrefix) noexcept;
 /// What follows the last "/", or without one the last "\", or the whole text.
 std::wstring_view lastName(std::wstring_view location) noexcept;
 
-/// The location with "." and ".." resolved and every separator a "/"; ".." stops at the site's root. Nothing when it
-/// has no site prefix or does not fit 259 characters.
-std::optional<std::wstring> canonicalLocation(std::wstring_view location);
+/// The location with "." and ".." resolved and every separator a "/"; ".." stops at the site's root. That is its site
+/// prefix, or without one the `site` that it begins with, which stays as it is. Nothing when there is no root or the
+/// result does not fit 259 characters.
+std::optional<std::wstring> canonicalLocation(std::wstring_view location, std::wstring_view site = {});
 
 /// The location that a typed text names inside a site, not yet canonical. Nothing when it is a URL of another site.
 std::optional<std::wstring> locationInSite(std::wstring_view site, std::wstring_view text);

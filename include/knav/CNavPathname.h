@@ -11,9 +11,9 @@ class CNavNode;
 /// navigation extension, an internet site or a Web Folders site.
 ///
 /// A path in the file system lives in the base class. Anything else is held as text, with one of the flags IsExtension
-/// and IsURL set; both are set for a URL. Parsing sets flags and never clears them, except where it says so: parse into
-/// a fresh object. The kind of the path is GetType(); for a location held as text that is ExistingFile, Directory, or
-/// what it was before when the text of a URL was all there was to go by.
+/// and IsURL set; both for a URL that was taken as text alone. Parsing sets flags and never clears them, except where
+/// it says so: parse into a fresh object. The kind of the path is GetType(); for a location held as text that is
+/// ExistingFile, Directory, or what it was before when the text of a URL was all there was to go by.
 ///
 /// Nothing here throws. Calls into folders are guarded. Used on the user-interface thread.
 class KNAV_API CNavPathname : public CZoUiPathname {
@@ -43,7 +43,8 @@ public:
     /// says so.
     virtual PathErr Parse(ITEMIDLIST* item, IShellFolder* folder, ITEMIDLIST* parent, CString& displayName);
 
-    /// Parses what was typed while `node` was the current folder (null: none). The flags are set anew.
+    /// Parses what was typed while `node` was the current folder (null: none). The flags are set anew, by the
+    /// kind of the node: IsExtension in an extension, IsURL in an internet or Web Folders site.
     ///
     /// - In an ordinary folder only an absolute path is taken; any other text gives PathErr::NotFileSystem. So join
     ///   folder and name first. `base` supplies the drive for "\name".
@@ -79,8 +80,10 @@ public:
     /// with an invalid path. Callers rely on the opposite of what the name says.
     bool hasTrailingSlash() const;
 
+    /// The location is held as text: a place inside an extension, or a URL that was taken as text alone.
     bool GetIsExtension() const { return m_isExtension; }
     void SetIsExtension(bool isExtension) { m_isExtension = isExtension; }
+    /// The location is held as text: a URL, or a place inside an internet or Web Folders site.
     bool GetIsURL() const { return m_isUrl; }
     void SetIsURL(bool isUrl) { m_isUrl = isUrl; }
     /// The parsed item is a shortcut.
@@ -113,7 +116,6 @@ private:
     };
 
     bool isText() const { return m_isExtension || m_isUrl; }
-    void setLocation(const CString& location);
     void ownID(ITEMIDLIST* id);
     void dropOwnedID();
     PathErr takeItem(const ITEMIDLIST* item, IShellFolder* folder, const CString& displayName);

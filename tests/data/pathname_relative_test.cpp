@@ -96,6 +96,7 @@ TEST(CNavPathnameRelative, ResolvesTextsInsideASite) {
         {"another site", L"ftp://host", L"ftp://host2/f", PathErr::NotFileSystem, L"", L""},
         {"an extension's own scheme", L"store://shelf", L"a/../b", PathErr::None, L"store://shelf/b", L"b"},
         {"a site without a scheme", L"Shelf", L"a/b", PathErr::None, L"Shelf/a/b", L"a/b"},
+        {"dots in one", L"A\\Shelf\\", L"x\\..\\..\\b/./c", PathErr::None, L"A\\Shelf/b/c", L"b/c"},
         {"nothing", L"ftp://host", L"", PathErr::Empty, L"", L""},
         {"a text that is too long", L"ftp://host", std::wstring(260, L'a'), PathErr::TooLong, L"", L""},
         {"too long when joined", L"ftp://host/0123456789", long240, PathErr::TooLong, L"", L""},
@@ -107,7 +108,7 @@ TEST(CNavPathnameRelative, ResolvesTextsInsideASite) {
             CNavPathname pathname;
             EXPECT_EQ(pathname.ParseRelative(row.text.c_str(), nullptr, node, 1), row.result);
             EXPECT_EQ(fullPath(pathname), row.location.c_str());
-            EXPECT_TRUE(pathname.GetIsExtension());
+            EXPECT_TRUE(pathname.GetIsExtension() && !pathname.GetIsURL());
             EXPECT_EQ(hierarchy.siteFolder->lastParsed(), row.asked);
             if (row.result == PathErr::None) {
                 EXPECT_EQ(pathname.GetType(), CZoUiPathname::ExistingFile) << "the folder does not know it";
@@ -158,9 +159,9 @@ TEST(CNavPathnameRelative, DecodesLocationsInWebFolders) {
     EXPECT_EQ(hierarchy.siteFolder->lastParsed(), L"a b");
     EXPECT_TRUE(pathname.GetIsURL());
 
-    SiteHierarchy internet(NavNodeInternetRoot, L"store://shelf");
+    SiteHierarchy internet(NavNodeInternetRoot, L"http://host");
     EXPECT_EQ(pathname.ParseRelative(L"a%20b", nullptr, &internet.site, 1), PathErr::None);
-    EXPECT_EQ(fullPath(pathname), L"store://shelf/a%20b");
+    EXPECT_EQ(fullPath(pathname), L"http://host/a%20b");
     EXPECT_TRUE(pathname.GetIsURL());
     EXPECT_FALSE(pathname.GetIsExtension());
 }
