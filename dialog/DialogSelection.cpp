@@ -174,7 +174,7 @@ void CNavDialogImp::UpdateUIState() {
         }
     };
     enable(m_backButton, m_previous.canGoBack() && !m_policies.noBackButton);
-    enable(m_upButton, current && current->mkid.cb != 0);
+    enable(m_upButton, NavGetItemElementSize(current) > 0);
     const bool inHistory = m_currentPlace.CompareNoCase(L"History") == 0;
     enable(m_newFolderButton, !inHistory && node && (node->IsInFileSystem() || node->IsDropTarget() || node->IsFTP()));
     enable(m_deleteButton, selectedCount() > 0);

@@ -11,6 +11,7 @@
 #include "dialog/Messages.h"
 #include "dialog/NameRules.h"
 #include "resources/ids.h"
+#include "shell/SiteLocation.h"
 
 namespace {
 
@@ -94,10 +95,8 @@ void CNavDialogImp::canonicalizeSiteItem(CNavData& item) {
     if (text.Find(L"://") < 1 || !AfxParseURL(text, service, server, object, port)) {
         return;
     }
-    wchar_t canonical[260];
-    DWORD length = 260;
-    if (InternetCanonicalizeUrlW(text, canonical, &length, ICU_DECODE | ICU_NO_ENCODE)) {
-        item.SetText(canonical);
+    if (const auto readable = knav::decodedUrl(text)) {
+        item.SetText(CString(*readable));
     }
 }
 

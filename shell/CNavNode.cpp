@@ -63,15 +63,9 @@ int CNavNode::IsFTP() const {
     return extension != nullptr && extension->IsFTP();
 }
 
-int CNavNode::nameInParent(DWORD shgdn, CString& name) const {
-    IShellFolder* const folder = GetParentFolder();
-    return folder != nullptr ? NavGetItemDisplayName(shgdn, folder, m_id, name)
-                             : NavGetItemDisplayNameInDesktop(shgdn, m_id, name);
-}
-
 int CNavNode::GetNameInFolder(CString& name) const {
     if (m_type != NavNodeExtensionRoot) {
-        return nameInParent(SHGDN_INFOLDER, name);
+        return NavGetItemNameInFolder(GetParentFolder(), m_id, name);
     }
     if (m_folder != nullptr) {
         return NavGetItemDisplayName(SHGDN_NORMAL, m_folder, knav::listArgument(knav::emptyList()), name);
@@ -83,7 +77,7 @@ int CNavNode::GetNameInFolder(CString& name) const {
 }
 
 int CNavNode::GetNameForParsing(CString& name) const {
-    return nameInParent(SHGDN_FORPARSING, name);
+    return NavGetItemNameForParsing(GetParentFolder(), m_id, name);
 }
 
 ITEMIDLIST* CNavNode::CalculateQualifiedItemList() const {

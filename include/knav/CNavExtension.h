@@ -6,7 +6,8 @@
 /// A navigation extension: an extra root of the namespace that a component registers, shown in the Places list and at
 /// the top of the folder hierarchy.
 ///
-/// Objects belong to the process-wide list of registered extensions. User-interface thread only. Nothing throws.
+/// Objects belong to the process-wide list of registered extensions. Setters keep a copy of a text.
+/// User-interface thread only. Nothing throws.
 class KNAV_API CNavExtension {
 public:
     CNavExtension();
@@ -36,7 +37,8 @@ public:
     const GUID& GetRootFolderCLSID() const;
     void SetRootFolderCLSID(const GUID& clsid);
 
-    /// Nonzero: the component is created only when the extension is first clicked.
+    /// Nonzero: the component is created only when the extension is first clicked. Until then the folder hierarchy
+    /// shows an icon only with 1.
     int GetDelayInit() const;
     void SetDelayInit(int delay);
 

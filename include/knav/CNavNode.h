@@ -102,10 +102,12 @@ public:
     static CNavNode* EnumerateNextNode(CNavNode* node);
 
     /// The name shown in the parent's folder, and the full name (in the desktop, without a parent that has a folder).
-    /// The root of an extension is named by its own folder. Zero, and an empty text, when there is no name.
+    /// The root of an extension is named by its own folder, or by the extension while that is not loaded. Zero, and an
+    /// empty text, when there is no name.
     int GetNameInFolder(CString& name) const;
     int GetNameForParsing(CString& name) const;
-    /// A new qualified list of the node, which the caller frees; null when memory is short.
+    /// A new qualified list of the node, which the caller frees; null when memory is short, and when neither the node
+    /// nor one that it lies below has a list.
     ITEMIDLIST* CalculateQualifiedItemList() const;
 
     /// Asks the shell for the attributes and has the icon taken anew. Zero, with everything as it was, when it fails.
@@ -141,7 +143,6 @@ public:
 
 private:
     HICON takeIcon() const;
-    int nameInParent(DWORD shgdn, CString& name) const;
     std::unique_ptr<CNavNode> makeChild(ITEMIDLIST* item);
     CNavNode* appendElement(ITEMIDLIST* element);
     bool bindAsFolder();

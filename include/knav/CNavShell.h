@@ -10,8 +10,11 @@
 /// one. Not to be created on several threads at once.
 class KNAV_API CNavShell {
 public:
+    /// Takes a reference to the allocator, which the first object gets from the shell.
     CNavShell();
+    /// Takes no reference.
     CNavShell(const CNavShell& other);
+    /// Does nothing.
     CNavShell& operator=(const CNavShell& other);
     virtual ~CNavShell();
 

@@ -5,7 +5,8 @@
 #include <platform/CString.h>
 #include <platform/Windows.h>
 
-/// Brings the process-wide list of navigation extensions up to date. Every dialog calls it when it starts, before it
+/// Brings the process-wide list of navigation extensions up to date. Components cannot be registered yet: for now the
+/// call changes nothing, and the list holds what code has put into it. Every dialog calls it when it starts, before it
 /// shows a folder; an add-in that has just registered an extension may call it as well. `window` owns whatever an
 /// extension has to show meanwhile; `subkey`, the host's product name, may be empty. Returns 1. User-interface thread
 /// only. Nothing throws.
