@@ -192,7 +192,8 @@ CNavNode* CNavNode::FindItemList(ITEMIDLIST* list) {
     return FindOrAddItemList(list, 0, nullptr);
 }
 
-CNavNode* CNavNode::FindOrAddItemList(ITEMIDLIST* list, int add, CNavNode** first) {
+// Among this node and its next siblings, the one that the list's first element names; null when there is none.
+CNavNode* CNavNode::findElement(ITEMIDLIST* list) {
     const auto element = knav::ItemList::firstOf(list);
     if (!element) {
         return nullptr;
@@ -207,10 +208,19 @@ CNavNode* CNavNode::FindOrAddItemList(ITEMIDLIST* list, int add, CNavNode** firs
     while (match != nullptr && !isMatch(*match)) {
         match = match->m_next;
     }
-    ITEMIDLIST* const rest = NavGetNextItemElement(list);
+    return match;
+}
+
+CNavNode* CNavNode::FindOrAddItemList(ITEMIDLIST* list, int add, CNavNode** first) {
+    CNavNode* match = nullptr;
+    ITEMIDLIST* rest = list;
+    for (CNavNode* next = findElement(list); next != nullptr;) {
+        match = next;
+        rest = NavGetNextItemElement(rest);
+        next = match->m_child != nullptr ? match->m_child->findElement(rest) : nullptr;
+    }
     if (match == nullptr || rest == nullptr) {
         return match;
     }
-    CNavNode* const below = match->m_child != nullptr ? match->m_child->FindOrAddItemList(rest, add, first) : nullptr;
-    return below != nullptr || !add ? below : match->ExpandNode(rest, first);
+    return add ? match->ExpandNode(rest, first) : nullptr;
 }

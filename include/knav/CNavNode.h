@@ -145,6 +145,7 @@ private:
     HICON takeIcon() const;
     std::unique_ptr<CNavNode> makeChild(ITEMIDLIST* item);
     CNavNode* appendElement(ITEMIDLIST* element);
+    CNavNode* findElement(ITEMIDLIST* list);
     bool bindAsFolder();
 
     IShellFolder* m_folder;

@@ -1,5 +1,6 @@
 // Lists that somebody stored, damaged or cut off: whatever the shell makes of them, the process and its memory survive.
 #include <knav/CNavPathname.h>
+#include <knav/CNavTree.h>
 #include <knav/NavFolders.h>
 #include <knav/NavLinks.h>
 #include <knav/NavNames.h>
@@ -60,6 +61,8 @@ protected:
         NavIsNetwork(list);
         NavIsInternetSiteItem(list);
         NavIsWebFoldersItem(list);
+        m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, list);
+        m_tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, nullptr);
         for (ITEMIDLIST* const parent : {list, m_drives.get()}) {
             CNavPathname pathname;
             CString name = L"C:\\plan.dwg";
@@ -77,6 +80,12 @@ protected:
         }
         bindFolder(m_desktop.get(), list).reset();
         uiObjectOf<IShellFolder>(m_desktop.get(), list).reset();
+        ComPtr<IShellFolder> folder = m_desktop;
+        for (ITEMIDLIST* element = list; element != nullptr && folder; element = NavGetNextItemElement(element)) {
+            const ItemList single = ItemList::firstOf(element);
+            attributesOf(folder.get(), single.get(), SFGAO_FOLDER);
+            folder = ComPtr<IShellFolder>::adopt(NavGetFolderFromItem(folder.get(), single.get()));
+        }
         return AllocationSpy::live() == before;
     }
 
@@ -87,6 +96,7 @@ protected:
     ItemList m_drives = special(CSIDL_DRIVES);
     std::vector<std::vector<BYTE>> m_wholes;
     CNavShell m_shell;
+    CNavTree m_tree;
     CString m_name;
     wchar_t* m_text = nullptr;
     PageEnd m_page;

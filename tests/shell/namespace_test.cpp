@@ -40,6 +40,7 @@ TEST_F(Namespace, FoldersAreBoundWhereTheyCanBe) {
     const auto drives = ComPtr<IShellFolder>::adopt(NavGetDrivesFolder());
     EXPECT_TRUE(isSame(placeOf(desktop.get()), makeList({})));
     EXPECT_TRUE(isSame(placeOf(drives.get()), special(CSIDL_DRIVES)));
+    expectNoTaskMemoryLeft(NavUpdateShellCache);
     EXPECT_EQ(NavGetFolderFromDesktop(nullptr), nullptr);
     EXPECT_EQ(NavGetFolderFromItem(nullptr, parsed(m_deep).get()), nullptr);
     EXPECT_EQ(NavGetFolderFromItem(desktop.get(), nullptr), nullptr);

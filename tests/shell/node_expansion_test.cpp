@@ -177,6 +177,9 @@ TEST_F(NodeChain, IsAddedOnlyBelowAMatch) {
     m_first = nullptr;
     EXPECT_EQ(children->FindOrAddItemList(m_leaf.get(), 1, &m_first), leaf);
     EXPECT_EQ(m_first, nullptr) << "nothing was made the second time";
+    EXPECT_EQ(children->FindOrAddItemList(FakeFolder::item(L"outer/inner/leaf/below").get(), 1, &m_first), nullptr);
+    EXPECT_TRUE(outer->GetChild() == outer->GetChild()->GetLast()) << "known nodes are not made again";
+    EXPECT_EQ(leaf->GetNext(), nullptr);
 }
 
 TEST_F(NavNode, ChainDeeperThanAnyPlaceIsRefused) {
