@@ -85,18 +85,19 @@ void takeIcon(ITEMIDLIST* qualified) {
     zoui::UniqueIcon(ImageList_GetIcon(images, info.iIcon, 0)).reset();
 }
 
-/// What no tree of folders can do without for one item: attributes, folder, and its icon when it is to be shown.
-knav::ComPtr<IShellFolder> touch(IShellFolder* parent, ITEMIDLIST* child, ITEMIDLIST* qualified, Icons icons) {
+/// What no tree of folders can do without for one item: attributes, and the folder and icon of one that it shows.
+knav::ComPtr<IShellFolder> touch(IShellFolder* parent, ITEMIDLIST* id, ITEMIDLIST* child, Icons icons) {
     ULONG attributes = kAttributes;
     PCUITEMID_CHILD item = child;
     parent->GetAttributesOf(1, &item, &attributes);
-    if (icons == Icons::Taken) {
-        takeIcon(qualified);
-    }
     knav::ComPtr<IShellFolder> folder;
-    if (attributes & SFGAO_FOLDER) {
-        parent->BindToObject(child, nullptr, IID_IShellFolder, reinterpret_cast<void**>(folder.put()));
+    if ((attributes & SFGAO_FOLDER) == 0 || (attributes & (SFGAO_FILESYSTEM | SFGAO_FILESYSANCESTOR)) == 0) {
+        return folder;
     }
+    if (icons == Icons::Taken) {
+        takeIcon(knav::ItemList::join(id, child).get());
+    }
+    parent->BindToObject(child, nullptr, IID_IShellFolder, reinterpret_cast<void**>(folder.put()));
     return folder;
 }
 
@@ -109,24 +110,40 @@ int touchChildren(IShellFolder* folder, ITEMIDLIST* id, SHCONTF what, Icons icon
     ITEMIDLIST* raw = nullptr;
     while (items->Next(1, &raw, nullptr) == S_OK) {
         const auto item = knav::ItemList::adopt(raw);
-        touch(folder, item.get(), knav::ItemList::join(id, item.get()).get(), icons);
+        touch(folder, id, item.get(), icons);
         ++count;
     }
     return count;
 }
 
-void touchChain(ITEMIDLIST* target, Icons icons) {
-    auto folder = knav::ComPtr<IShellFolder>::adopt(NavGetDesktopFolder());
-    knav::ItemList parent;
-    for (ITEMIDLIST* at = target; at && folder; at = NavGetNextItemElement(at)) {
+/// A place below a drive, which the tree knows when it comes to the rest.
+struct Target {
+    explicit Target(ITEMIDLIST* whole)
+        : list(whole),
+          below(NavGetNextItemElement(NavGetNextItemElement(whole))),
+          drive(knav::ItemList::join(knav::ItemList::firstOf(whole).get(),
+                                     knav::ItemList::firstOf(NavGetNextItemElement(whole)).get())),
+          driveFolder(knav::ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(drive.get()))) {}
+
+    ITEMIDLIST* list;
+    ITEMIDLIST* below;
+    knav::ItemList drive;
+    knav::ComPtr<IShellFolder> driveFolder;
+};
+
+void touchChain(const Target& target, Icons icons) {
+    auto folder = target.driveFolder;
+    auto id = icons == Icons::Taken ? knav::ItemList::copyOf(target.drive.get()) : knav::ItemList();
+    for (ITEMIDLIST* at = target.below; at && folder; at = NavGetNextItemElement(at)) {
         const auto element = knav::ItemList::firstOf(at);
-        auto qualified = knav::ItemList::join(parent.get(), element.get());
-        folder = touch(folder.get(), element.get(), qualified.get(), icons);
-        parent = std::move(qualified);
+        folder = touch(folder.get(), id.get(), element.get(), icons);
+        if (icons == Icons::Taken) {
+            id = knav::ItemList::join(id.get(), element.get());
+        }
     }
 }
 
-void bareHierarchy(ITEMIDLIST* target, Icons icons) {
+void bareHierarchy(const Target& target, Icons icons) {
     const auto desktop = knav::ComPtr<IShellFolder>::adopt(NavGetDesktopFolder());
     touchChildren(desktop.get(), nullptr, SHCONTF_FOLDERS, icons);
     const auto drives = knav::ItemList::adopt(NavGetDrivesFolderItem(nullptr));
@@ -135,7 +152,7 @@ void bareHierarchy(ITEMIDLIST* target, Icons icons) {
         touchChildren(drivesFolder.get(), drives.get(), SHCONTF_FOLDERS, icons);
     }
     std::array<wchar_t, MAX_PATH> path{};  // a location may be a shortcut, which only its file tells
-    if (SHGetPathFromIDListW(target, path.data())) {
+    if (SHGetPathFromIDListW(target.list, path.data())) {
         g_sink = static_cast<int>(GetFileAttributesW(path.data()));
     }
     touchChain(target, icons);
@@ -154,10 +171,10 @@ std::wstring makeDeepFolder() {
 }
 
 // A tree takes the icon of a node when it is first shown, so both sides are measured with and without icons.
-void benchHierarchy(const std::string& name, ITEMIDLIST* target, Icons icons) {
+void benchHierarchy(const std::string& name, const Target& target, Icons icons) {
     const auto ours = [&] {
         CNavTree tree;
-        g_sink = tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, target);
+        g_sink = tree.BuildStandardHierarchy(nullptr, nullptr, 0, 0, target.list);
         for (CNavNode* node = tree.GetRootNode(); icons == Icons::Taken && node != nullptr;
              node = CNavNode::EnumerateNextNode(node)) {
             g_sink = node->GetIcon() != nullptr;
@@ -208,8 +225,9 @@ int main() {
         std::fputs("the folder for the measurements cannot be made\n", stderr);
         return 1;
     }
-    benchHierarchy("build_standard_hierarchy", target.get(), Icons::LeftOut);
-    benchHierarchy("build_standard_hierarchy_with_icons", target.get(), Icons::Taken);
+    const Target place(target.get());
+    benchHierarchy("build_standard_hierarchy", place, Icons::LeftOut);
+    benchHierarchy("build_standard_hierarchy_with_icons", place, Icons::Taken);
     benchLists(target.get());
     return 0;
 }
