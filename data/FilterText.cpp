@@ -19,12 +19,11 @@ std::size_t pairLength(const wchar_t* text) {
 
 knav::FilterPair knav::readFilterPair(const wchar_t* text) noexcept {
     const std::wstring_view pair(text, pairLength(text));
-    const std::size_t descriptionLength = std::min(pair.find(L'\0'), pair.size());
-    const std::size_t start = descriptionLength + 1;
+    const std::size_t start = std::min(pair.find(L'\0'), pair.size()) + 1;
     if (start >= pair.size()) {
-        return {pair.substr(0, descriptionLength), {}, start};
+        return {{}, start};
     }
-    return {pair.substr(0, descriptionLength), pair.substr(start), pair.size() + 1};
+    return {pair.substr(start), pair.size() + 1};
 }
 
 std::vector<std::wstring_view> knav::splitPatterns(std::wstring_view patterns) {

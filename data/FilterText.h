@@ -10,11 +10,10 @@ namespace knav {
 /// Characters of a pair that are looked at; the character behind them is taken for its end.
 inline constexpr std::size_t kFilterPairLimit = 520;
 
-/// One pair, as views into the text it was read from.
+/// What follows the description of a pair, as a view into the text it was read from.
 struct FilterPair {
-    std::wstring_view description;  ///< at most kFilterPairLimit characters of it
-    std::wstring_view patterns;     ///< separated by ";"; empty when there are none
-    std::size_t consumed;           ///< characters up to the start of the next pair
+    std::wstring_view patterns;  ///< separated by ";"; empty when there are none
+    std::size_t consumed;        ///< characters up to the start of the next pair
 };
 
 /// Reads the pair at the start of `text`, which ends in two zeros.

@@ -16,7 +16,7 @@ public:
     /// Replaces all file types by those of `list`: pairs as CNavFilter::SetFrom describes them, one after the other,
     /// and one more zero at the end, for example L"Text\0*.txt;*.csv\0All files\0*.*\0". They are tagged 1, 2, 3 ... An
     /// empty list, or null, gives one file type that allows every name. What cannot be made for lack of memory is
-    /// left out together with all that follow.
+    /// left out together with all that follow; the last file type then may lack patterns.
     void SetFrom(const wchar_t* list, int fullDescription);
 
     /// Index of the first file type that has a pattern equal to `pattern`, ignoring case; -1 when there is none, and
