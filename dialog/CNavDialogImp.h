@@ -107,6 +107,9 @@ public:
     // --- OK (OkProcessing.cpp, OkNames.cpp, OkCommit.cpp, OkChecks.cpp) ------------------------------------------
     void OnOK();
     void OnCancel();
+    void SetFileNameEditDirty(int dirty) { m_fileNameEditDirty = dirty != 0; }
+    void SetInShellViewRegen(int regenerating) { m_inShellViewRegen = regenerating != 0; }
+    void SetPlacesListDirty(int dirty) { m_placesListDirty = dirty != 0; }
     OkHandlerErr PreprocessData(CNavDataArray& data);
     OkHandlerErr CombineDataTextWithFolderName(CNavData* item, CString& text);
     int UpdateFileExtension(CString& name, int replace);
@@ -117,6 +120,7 @@ public:
     int ReportURLTransferStatus(CDWordArray& codes, CStringArray& urls, CStringArray& files);
     int IsExistingFolder(const CString& name);
     int ReplaceEnvironmentStrings(CString& text);
+    void TrimWhiteSpace(CString& name, int trimBaseEnd);
     int ExtractDirectoryFromURL(const CString& url, CString& directory);
     int validateDrive(const CString& name);
     int validateUNC(const CString& name);
@@ -242,14 +246,20 @@ private:
     void leaveIfFocused(CWnd& control, bool staysEnabled);
 
     // OK
-    OkHandlerErr finishItem(CNavData& item);
+    struct FolderText {
+        CString text;
+        CString prefix;  ///< of the site that the folder belongs to
+    };
+    OkHandlerErr finishItem(CNavDataArray& data, int index);
+    void finishText(CNavData& item, CString& text);
     void resolveShortcut(CNavData& item, CString& text);
     void classifyItem(CNavData& item, const CString& text);
     void reportNameError(OkHandlerErr error);
     bool firstIsFolder();
+    void refuseFolderShown();
     void rememberName();
     void processOk();
-    std::optional<CString> folderTextForNames(CNavNode* node, CString& prefix, bool& unnamed);
+    std::optional<FolderText> folderTextForNames(CNavNode* node);
     int commitParsed(CNavData& item, CNavPathname& path, CNavNode* node);
     int commitUnparsed(CNavData& item, const CString& text, bool inSite);
     int acceptFile(CNavData& item, CNavPathname& path, CNavNode* node);
@@ -260,8 +270,8 @@ private:
     bool mayReplaceAll();
     bool mayReplace(const CString& text);
     bool refuseFileInUse(const CString& name);
-    bool refuseMissing(CNavData& item);
-    void parseOtherItems();
+    bool refuseMissing(const CNavData& item);
+    void finishPaths(int first);
     void saveFileNameHistory();
     std::optional<CString> historyEntry(const CString& name);
 

@@ -186,7 +186,7 @@ void CNavDialog::AddDataToHistory() {
 }
 
 void CNavDialog::TrimWhiteSpace(CString& name, int trimBaseEnd) {
-    knav::atApiEdge([&] { name = knav::trimName(name.view(), trimBaseEnd != 0); });
+    knav::atApiEdge([&] { m_imp->TrimWhiteSpace(name, trimBaseEnd); });
 }
 
 CNavListBox* knaviGetPlacesList(CNavDialog* dialog) {

@@ -115,12 +115,12 @@ bool CNavDialogImp::enterBrowse() {
     if (m_inShellViewRegen) {
         return false;
     }
-    m_inShellViewRegen = true;
+    SetInShellViewRegen(1);
     return true;
 }
 
 void CNavDialogImp::leaveBrowse() {
-    m_inShellViewRegen = false;
+    SetInShellViewRegen(0);
 }
 
 void CNavDialogImp::browsed(ITEMIDLIST* folder, UINT) {

@@ -24,7 +24,7 @@ void CNavDialogImp::savePlaces() {
 }
 
 void CNavDialogImp::placesChanged() {
-    m_placesListDirty = true;
+    SetPlacesListDirty(1);
     m_placesListCustomized = true;
 }
 
@@ -65,7 +65,7 @@ void CNavDialogImp::SavePlacesList() {
     }
     knav::writePlacesOrder(
         m_places, [this](const CString& name, const CString& value) { m_facade.SetAllDialogsData(name, value); });
-    m_placesListDirty = false;
+    SetPlacesListDirty(0);
 }
 
 CString CNavDialogImp::GetHistoryDirectoryForCurrentDialog() {

@@ -8,6 +8,7 @@
 #include "dialog/NameRules.h"
 #include "dialog/ScopedFlag.h"
 #include "resources/ids.h"
+#include "shell/TextRules.h"
 
 namespace {
 
@@ -69,7 +70,7 @@ void CNavDialogImp::SyncEditFieldToBrowser() {
     m_fileName.SyncToData(m_data);
     // The name that is to be saved under stands: nobody means to save over what a shortcut leads to.
     m_fileName.SetFileNameComboBoxDirty(m_options.creatingFile && !fileNameText().IsEmpty() && isShortcut(m_data));
-    m_fileNameEditDirty = false;
+    SetFileNameEditDirty(0);
     m_nameCameFromSelection = m_nameCameFromSelection || before != fileNameText();
 }
 
@@ -102,7 +103,7 @@ void CNavDialogImp::SyncBrowserToEditField() {
 }
 
 void CNavDialogImp::OnFileNameChange() {
-    m_fileNameEditDirty = true;
+    SetFileNameEditDirty(1);
     m_nameCameFromSelection = false;
 }
 
@@ -143,10 +144,10 @@ void CNavDialogImp::OnFilterChange() {
 }
 
 /// A drawing that is to be saved as another type gets that type's extension at once, so that the user sees the name
-/// that will be written. A name without an extension gets it on OK.
+/// that will be written. A name without an extension gets it on OK, and so do names in quotes.
 void CNavDialogImp::updateExtensionForType() {
     CString name = fileNameText();
-    if (!knav::extensionDot(name.view())) {
+    if (!knav::extensionDot(name.view()) || knav::trimmed(name.view()).starts_with(L'"')) {
         return;
     }
     const CString before = name;
@@ -154,7 +155,7 @@ void CNavDialogImp::updateExtensionForType() {
     if (name != before) {
         const bool dirty = m_fileNameEditDirty;
         setFileNameText(name);
-        m_fileNameEditDirty = dirty;
+        SetFileNameEditDirty(dirty);
         m_fileName.SetFileNameComboBoxDirty(1);
     }
 }

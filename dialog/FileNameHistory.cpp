@@ -5,6 +5,7 @@
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
+#include "dialog/NameRules.h"
 #include "resources/ids.h"
 #include "shell/TextRules.h"
 
@@ -87,7 +88,7 @@ void CNavDialogImp::AddDataToHistory() {
     }
     for (int i = 0; i < std::min(m_data.GetCount(), kMostRecentDocuments); ++i) {
         const CNavData* item = m_data.GetData(i);
-        if (item && (item->GetDataType() == NAV_DATA_FILE || item->GetDataType() == NAV_DATA_NETWORK)) {
+        if (item && knav::isFileKind(*item)) {
             SHAddToRecentDocs(SHARD_PATHW, item->GetText());
         }
     }
@@ -105,7 +106,7 @@ void CNavDialogImp::LocateFile() {
         return;
     }
     setFileNameText(found);
-    m_fileNameEditDirty = true;
+    SetFileNameEditDirty(1);
     m_fileName.SetFileNameComboBoxDirty(1);
     refuseFileName();
 }

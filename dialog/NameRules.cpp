@@ -1,5 +1,6 @@
 #include "dialog/NameRules.h"
 
+#include <knav/CNavPathname.h>
 #include <platform/Windows.h>
 
 #include <algorithm>
@@ -32,6 +33,17 @@ std::wstring cutToPath(std::wstring name) {
 }
 
 }  // namespace
+
+NAV_DATA_TYPE kindOfPath(const wchar_t* path) {
+    return NavIsUNCPath(path) ? NAV_DATA_NETWORK : NAV_DATA_FILE;
+}
+
+bool isPickedFile(const CNavData& item) {
+    const CNavPathname* path = item.GetID() ? item.GetPathname() : nullptr;
+    CString full;
+    return path && path->GetType() == CZoUiPathname::ExistingFile && !path->GetIsExtension() && !path->GetIsURL() &&
+           path->GetFullPath(full) && full == item.GetText();
+}
 
 std::optional<std::size_t> extensionDot(std::wstring_view name) {
     const std::size_t dot = name.rfind(L'.');
@@ -132,6 +144,11 @@ ExtensionOutcome withFilterExtension(std::wstring_view name, const ExtensionFact
         return unchanged;
     }
     return {cutToPath(std::wstring(name.substr(0, *dot + 1)) + std::wstring(pattern.substr(2))), 1};
+}
+
+std::wstring_view withoutQuotes(std::wstring_view name) {
+    const bool quoted = name.size() > 2 && name.front() == L'"' && name.back() == L'"';
+    return quoted ? name.substr(1, name.size() - 2) : name;
 }
 
 std::wstring withoutAccelerator(std::wstring_view caption) {

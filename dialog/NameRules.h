@@ -19,6 +19,12 @@ inline bool isFileKind(const CNavData& item) {
     return item.GetDataType() == NAV_DATA_FILE || item.GetDataType() == NAV_DATA_NETWORK;
 }
 
+/// Whether a path of the file system is one on this machine or on the network.
+NAV_DATA_TYPE kindOfPath(const wchar_t* path);
+
+/// A file picked in the view: its text is the full path that the view knows it by, and it was looked at then.
+bool isPickedFile(const CNavData& item);
+
 /// Where a name's extension starts: the position of its dot, when the dot lies behind the last separator and is not
 /// the last character.
 std::optional<std::size_t> extensionDot(std::wstring_view name);
@@ -58,6 +64,9 @@ struct ExtensionOutcome {
 
 /// The name with the extension of the file type in force. The caller has ruled out existing folders.
 ExtensionOutcome withFilterExtension(std::wstring_view name, const ExtensionFacts& facts);
+
+/// The name without the quotes around it; one that is nothing but quotes stays.
+std::wstring_view withoutQuotes(std::wstring_view name);
 
 /// A button caption without its accelerator mark.
 std::wstring withoutAccelerator(std::wstring_view caption);

@@ -111,20 +111,25 @@ CString CNavDialogImp::caption() {
 
 bool CNavDialogImp::mayReplaceAll() {
     for (int i = 0; i < m_data.GetCount(); ++i) {
-        // Asking pumps messages: the host may have emptied the array.
         const CNavData* item = m_data.GetData(i);
-        if (item && knav::isFileKind(*item) && withinReach(item->GetText()) && !mayReplace(item->GetText())) {
+        if (!item || !knav::isFileKind(*item)) {
+            continue;
+        }
+        // What cannot be looked at may be there.
+        const CString text = item->GetText();
+        if (!validateUNC(text) || !mayReplace(text)) {
             return false;
         }
     }
-    return true;
+    // Asking pumps messages: the host may have emptied the array.
+    return m_data.GetCount() > 0;
 }
 
 bool CNavDialogImp::mayReplace(const CString& text) {
     // What is written is the name as it stands; without its stray blanks it may be the file that the user means.
     CString name = text;
     if (!exists(name)) {
-        name = knav::trimName(text.view(), true);
+        TrimWhiteSpace(name, 1);
         if (!exists(name)) {
             return true;
         }
@@ -152,8 +157,9 @@ bool CNavDialogImp::refuseFileInUse(const CString& name) {
     return false;
 }
 
-bool CNavDialogImp::refuseMissing(CNavData& item) {
-    if (item.GetPathname()->Exists() || m_browser.GetMultiSelectAllowed()) {
+bool CNavDialogImp::refuseMissing(const CNavData& item) {
+    const CNavPathname* path = item.GetPathname();
+    if (!knav::isFileKind(item) || m_browser.GetMultiSelectAllowed() || (path && path->Exists())) {
         return false;
     }
     const knav::TaskDialogPair pairs[] = {{L"FeatureName", caption()}, {L"FileName", fileNameText()}};

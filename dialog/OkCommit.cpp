@@ -1,6 +1,7 @@
 // What the first typed name turns out to be: a file, a folder to enter, a filter to set, or nothing usable.
 #include <knav/CNavDataArray.h>
 #include <knav/CNavNode.h>
+#include <knav/NavLinks.h>
 
 #include "dialog/CNavDialogImp.h"
 #include "dialog/Messages.h"
@@ -20,7 +21,7 @@ void takePath(CNavData& item, CNavPathname& path) {
     if (CString full; path.GetFullPath(full)) {
         item.SetText(full);
     }
-    item.SetDataType(NavIsUNCPath(path.GetPathString()) ? NAV_DATA_NETWORK : NAV_DATA_FILE);
+    item.SetDataType(knav::kindOfPath(path.GetPathString()));
 }
 
 }  // namespace
@@ -38,6 +39,11 @@ int CNavDialogImp::CommitFileNameEdit() {
         return 1;
     }
     if (!validateUNC(text) || !validateDrive(text)) {
+        return 0;
+    }
+    // A login pumps messages: the host may have emptied the array.
+    item = m_data.GetData(0);
+    if (!item) {
         return 0;
     }
     CNavPathname folder;
@@ -111,7 +117,8 @@ int CNavDialogImp::commitUnparsed(CNavData& item, const CString& text, bool inSi
         return 0;
     }
     if (picked && !inSite) {
-        goOrTell(picked.get());
+        const auto target = knav::ItemList::adopt(NavResolveLink(picked.get(), 0));
+        goOrTell(target ? target.get() : picked.get());
         return 0;
     }
     const wchar_t last = text.GetAt(text.GetLength() - 1);
@@ -153,19 +160,27 @@ void CNavDialogImp::enterTypedFolder(CNavPathname& folder) {
 void CNavDialogImp::leaveTypedFolder(bool typed) {
     if (typed) {
         setFileNameText(CString());
-        m_fileNameEditDirty = false;
+        SetFileNameEditDirty(0);
     }
 }
 
-void CNavDialogImp::parseOtherItems() {
+/// Makes the items from `first` on what they are on the disk.
+void CNavDialogImp::finishPaths(int first) {
     CNavPathname folder;
-    selectedFolderPathname(folder);
-    for (int i = 1; i < m_data.GetCount(); ++i) {
+    if (first < m_data.GetCount()) {
+        selectedFolderPathname(folder);
+    }
+    for (int i = first; i < m_data.GetCount(); ++i) {
         CNavData* item = m_data.GetData(i);
-        const bool isFile = item && knav::isFileKind(*item);
+        const CNavPathname* known = item ? item->GetPathname() : nullptr;
+        if (!known || !knav::isFileKind(*item) || known->GetIsExtension() || known->GetIsURL()) {
+            continue;
+        }
         CNavPathname path;
-        if (isFile && withinReach(item->GetText()) &&
-            path.CZoUiPathname::ParseRelative(item->GetText(), &folder, true) == PathErr::None) {
+        if (knav::isPickedFile(*item)) {
+            item->SetDataType(knav::kindOfPath(item->GetText()));
+        } else if (withinReach(item->GetText()) &&
+                   path.CZoUiPathname::ParseRelative(item->GetText(), &folder, true) == PathErr::None) {
             takePath(*item, path);
         }
     }

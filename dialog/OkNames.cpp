@@ -12,14 +12,6 @@
 
 namespace {
 
-/// A file picked in the view: its text is the full path that the view knows it by, and it was looked at then.
-bool isPickedFile(const CNavData& item) {
-    const CNavPathname* path = item.GetID() ? item.GetPathname() : nullptr;
-    CString full;
-    return path && path->GetType() == CZoUiPathname::ExistingFile && !path->GetIsExtension() && !path->GetIsURL() &&
-           path->GetFullPath(full) && full == item.GetText();
-}
-
 bool isRoot(const CNavNode* node) {
     return node && (node->GetType() == NavNodeExtensionRoot || node->GetType() == NavNodeWebFoldersRoot);
 }
@@ -31,10 +23,7 @@ OkHandlerErr CNavDialogImp::PreprocessData(CNavDataArray& data) {
         m_fileName.SendFileNameToData(data);
     }
     for (int i = 0; i < data.GetCount(); ++i) {
-        // A hook may have taken items out of the array.
-        CNavData* item = data.GetData(i);
-        const OkHandlerErr error = item ? finishItem(*item) : OkErrNone;
-        if (error != OkErrNone) {
+        if (const OkHandlerErr error = finishItem(data, i); error != OkErrNone) {
             reportNameError(error);
             return error;
         }
@@ -42,31 +31,49 @@ OkHandlerErr CNavDialogImp::PreprocessData(CNavDataArray& data) {
     return OkErrNone;
 }
 
-OkHandlerErr CNavDialogImp::finishItem(CNavData& item) {
-    CString text = item.GetText();
-    if (ReplaceEnvironmentStrings(text) > 0) {
-        item.SetText(text);
+OkHandlerErr CNavDialogImp::finishItem(CNavDataArray& data, int index) {
+    CNavData* item = data.GetData(index);
+    if (!item) {
+        return OkErrNone;
     }
-    if (const OkHandlerErr error = m_facade.CombineDataTextWithFolderName(&item, text); error != OkErrNone) {
+    const bool typed = !item->GetID();
+    CString text = typed ? knav::withoutQuotes(item->GetText()) : item->GetText();
+    ReplaceEnvironmentStrings(text);
+    item->SetText(text);
+    if (const OkHandlerErr error = m_facade.CombineDataTextWithFolderName(item, text); error != OkErrNone) {
         return error;
     }
-    text = knav::trimName(text.view(), false);
-    if (!item.GetID()) {
+    TrimWhiteSpace(text, 0);
+    if (typed) {
+        // A share tells nobody who is not logged in that a name is a folder.
+        m_ok.network.refusalAfterLogin(m_facade.GetSafeHwnd(), text);
         UpdateFileExtension(text, 0);
     }
+    // The hook, or the host during a login, may have taken items out of the array.
+    if (data.GetData(index) == item) {
+        finishText(*item, text);
+    }
+    return OkErrNone;
+}
+
+/// Gives an item its full path, which is that of its target for a shortcut, and its kind.
+void CNavDialogImp::finishText(CNavData& item, CString& text) {
     if (withinReach(text)) {
         resolveShortcut(item, text);
     }
     item.SetText(text);
     if (!withinReach(text)) {
-        item.SetDataType(NAV_DATA_NETWORK);
-        return OkErrNone;  // the user is told when the first name is committed
+        item.SetDataType(NAV_DATA_NETWORK);  // the user is told when the name is committed or looked at
+        return;
     }
     if (CString name = item.GetTextInFolder(); isRoot(currentFolderNode()) && !name.IsEmpty()) {
         item.SetText(name);
     }
     classifyItem(item, text);
-    return OkErrNone;
+}
+
+void CNavDialogImp::TrimWhiteSpace(CString& name, int trimBaseEnd) {
+    name = knav::trimName(name.view(), trimBaseEnd != 0);
 }
 
 int CNavDialogImp::ReplaceEnvironmentStrings(CString& text) {
@@ -90,8 +97,8 @@ void CNavDialogImp::resolveShortcut(CNavData& item, CString& text) {
 
 void CNavDialogImp::classifyItem(CNavData& item, const CString& text) {
     CZoUiPathname path;
-    const CNavNode* node = lookInNode();
-    if (isPickedFile(item) || (path.Parse(text, true) == PathErr::None && path.WasAbsolute())) {
+    const CNavNode* node = currentFolderNode();
+    if (knav::isPickedFile(item) || (path.Parse(text, true) == PathErr::None && path.WasAbsolute())) {
         item.SetDataType(NAV_DATA_FILE);
     } else if (NavIsUNCPath(text)) {
         item.SetDataType(NAV_DATA_NETWORK);
@@ -105,21 +112,16 @@ void CNavDialogImp::classifyItem(CNavData& item, const CString& text) {
     }
 }
 
-std::optional<CString> CNavDialogImp::folderTextForNames(CNavNode* node, CString& prefix, bool& unnamed) {
-    unnamed = false;
-    CString folder;
+/// The folder that names are put into, without text when there is none; nothing for one that has no name.
+std::optional<CNavDialogImp::FolderText> CNavDialogImp::folderTextForNames(CNavNode* node) {
+    FolderText folder;
     CNavPathname pathname;
     if (selectedFolderPathname(pathname)) {
-        pathname.GetAttachedPrefix(prefix);
-        if (!pathname.GetFullPath(folder)) {
-            return std::nullopt;
-        }
-        return folder;
-    }
-    if (!node) {
+        pathname.GetAttachedPrefix(folder.prefix);
+        pathname.GetFullPath(folder.text);
+    } else if (node && (!node->GetNameForParsing(folder.text) || folder.text.IsEmpty())) {
         return std::nullopt;
     }
-    unnamed = !node->GetNameForParsing(folder) || folder.IsEmpty();
     return folder;
 }
 
@@ -128,26 +130,18 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
     text = item->GetText();
     CNavNode* node = currentFolderNode();
     const NAV_DATA_TYPE type = item->GetDataType();
-    if (isRoot(node) || type == NAV_DATA_URL || type == NAV_DATA_NETWORK) {
+    if (isRoot(node) || type == NAV_DATA_URL || type == NAV_DATA_NETWORK || knav::isPickedFile(*item)) {
         return OkErrNone;
     }
-    if (isPickedFile(*item)) {
-        return OkErrNone;
-    }
-    CString prefix;
-    bool unnamed = false;
-    const std::optional<CString> folder = folderTextForNames(node, prefix, unnamed);
-    if (unnamed) {
-        return OkErrNone;
-    }
-    if (!withinReach(text)) {
+    const std::optional<FolderText> folder = folderTextForNames(node);
+    if (!folder || !withinReach(text)) {
         return OkErrNone;
     }
     CNavPathname parsed;
     const bool isPath = parsed.Parse(text, true) == PathErr::None;
     if (isPath) {
-        if (parsed.GetType() == CZoUiPathname::Wildcard && !prefix.IsEmpty()) {
-            text = prefix + text;
+        if (parsed.GetType() == CZoUiPathname::Wildcard && !folder->prefix.IsEmpty()) {
+            text = folder->prefix + text;
             return OkErrNone;
         }
         if (parsed.WasAbsolute()) {
@@ -159,7 +153,7 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
         return OkErrNone;
     }
     if (knav::isSite(node)) {
-        text = knav::joinUrl(folder.value_or(CString()).view(), text.view());
+        text = knav::joinUrl(folder->text.view(), text.view());
         return OkErrNone;
     }
     // Picked in the view, but no path: a server, or a place such as My Computer. It can be entered.
@@ -169,7 +163,7 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
     if (node && !node->IsInFileSystem()) {
         return OkErrNoFileSystemFolder;
     }
-    return knav::appendPath(text, folder.value_or(CString())) ? OkErrNone : OkErrNameTooLong;
+    return knav::appendPath(text, folder->text) ? OkErrNone : OkErrNameTooLong;
 }
 
 int CNavDialogImp::UpdateFileExtension(CString& name, int replace) {
@@ -197,7 +191,7 @@ int CNavDialogImp::IsExistingFolder(const CString& name) {
     CNavPathname parsed;
     CNavPathname folder;
     selectedFolderPathname(folder);
-    CNavNode* node = lookInNode();
+    CNavNode* node = currentFolderNode();
     if (knav::isSite(node)) {
         return parsed.ParseRelative(name, &folder, node, 0) == PathErr::None &&
                parsed.GetType() == CZoUiPathname::Directory;

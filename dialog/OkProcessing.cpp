@@ -46,7 +46,6 @@ void CNavDialogImp::processOk() {
     }
     if (m_facade.OnFileNameOK()) {
         m_ok.closing = true;
-        parseOtherItems();
         AddDataToHistory();
         m_facade.CZoUiDialog::OnOK();
     }
@@ -74,7 +73,7 @@ int CNavDialogImp::SendCurrentFolderToData() {
     }
     item->SetText(text);
     item->SetPathname(&folder);
-    item->SetDataType(NavIsUNCPath(text) ? NAV_DATA_NETWORK : NAV_DATA_FILE);
+    item->SetDataType(knav::kindOfPath(text));
     return 1;
 }
 
@@ -84,14 +83,28 @@ bool CNavDialogImp::firstIsFolder() {
     return path && path->GetType() == CZoUiPathname::Directory && withinReach(first->GetText()) && path->Exists();
 }
 
+/// The folder shown, which was put in for want of a choice, is no folder that can be the result.
+void CNavDialogImp::refuseFolderShown() {
+    const CString folder = m_data.GetData(0)->GetText();
+    m_data.RemoveAllData();
+    if (validateUNC(folder)) {
+        reportNameError(OkErrNoFileSystemFolder);
+    }
+}
+
 int CNavDialogImp::OnFileNameOK() {
     const bool asksBeforeReplacing = m_options.creatingFile && m_options.confirmReplace;
 
     if (FileDialogAllowReturnFolderEnabler::status()) {
-        SendCurrentFolderToData();
+        const bool nothingChosen = SendCurrentFolderToData() != 0;
         if (firstIsFolder()) {
+            finishPaths(0);
             SaveCurrentStates();
             return 1;
+        }
+        if (nothingChosen) {
+            refuseFolderShown();
+            return 0;
         }
     }
     if (m_data.GetCount() == 0) {
@@ -118,10 +131,11 @@ int CNavDialogImp::OnFileNameOK() {
         return 0;
     }
     canonicalizeSiteItem(*first);
+    finishPaths(1);
     if (asksBeforeReplacing && !mayReplaceAll()) {
         return 0;
     }
-    if (knav::isFileKind(*first) && !m_options.creatingFile && m_options.confirmReplace && refuseMissing(*first)) {
+    if (!m_options.creatingFile && m_options.confirmReplace && refuseMissing(*first)) {
         return 0;
     }
     rememberName();

@@ -1,13 +1,17 @@
 // Network names typed into the dialog, with a network provider of the tests' own behind the platform's functions.
+#include <knav/CNavPathname.h>
+#include <knav/FileDialogAllowReturnFolderEnabler.h>
 #include <knav/NavFolders.h>
 #include <knav/NavNames.h>
 #include <platform/ScopedHandle.h>
+#include <winioctl.h>
 
 #include "dialog/DialogUser.h"
+#include "dialog/FakeNetwork.h"
 #include "dialog/Messages.h"
-#include "dialog/NetworkCheck.h"
 #include "shell/ItemList.h"
 #include "support/ChildTests.h"
+#include "support/RealNamespace.h"
 
 namespace knav::test {
 namespace {
@@ -133,15 +137,20 @@ TEST_F(InsideNetwork, LocationThatIsNotThere_IsRefusedInTheRightWords) {
          L"list \\\\knavtest\nfind \\\\knavtest\\nothing\n"},
         {"a path", L"\\\\nowhere\\plans\\a.dwg",
          messageText(IDS_KNAV_NETWORK_UNREACHABLE, L"\\\\nowhere\\plans\\a.dwg"), L"find \\\\nowhere\\plans\\a.dwg\n"},
+        {"a further name, which may be there and would be written over", L"\"a\" \"\\\\nowhere\\plans\\b\"",
+         messageText(IDS_KNAV_NETWORK_UNREACHABLE, L"\\\\nowhere\\plans\\b.dwg"), L"find \\\\nowhere\\plans\\b\n"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.why);
         const std::size_t before = prompts.seen().size();
         prompts.answer(IDOK);
         TestDialog dialog(folder.path());
+        dialog.SetCreatingFile(1);
+        dialog.SetConfirmReplace(1);
+        dialog.SetMultiSelectAllowed(1);
         DialogUser user(dialog);
         user.type(row.typed).ok().untilAsked(prompts, before + 1).settle();
-        user.check([&] { expectNameReadyToRetype(row.typed); }).type(L"local").ok();
+        user.check([&] { expectNameReadyToRetype(row.typed); }).type(L"new").ok();
         EXPECT_EQ(user.run(), IDOK) << "the dialog is as usable as before";
         ASSERT_EQ(prompts.seen().size(), before + 1);
         EXPECT_EQ(prompts.seen().back().text, row.text);
@@ -177,20 +186,51 @@ TEST_F(InsideNetwork, ServerOnTheNetwork_IsReturned) {
     }
 }
 
+/// Picks a location of the network on OK: the platform of these tests has none to pick in the view.
+struct PickingDialog : TestDialog {
+    PickingDialog(const wchar_t* folder, const wchar_t* location) : TestDialog(folder), picked(location) {}
+    OkHandlerErr PreprocessData(CNavDataArray& items) override {
+        CNavData& item = *items.AddData();
+        item.SetText(picked);
+        item.SetDataType(NAV_DATA_FILE);
+        item.SetID(NavGetDrivesFolderItem(nullptr));
+        item.GetPathname()->Parse(picked, false);
+        return TestDialog::PreprocessData(items);
+    }
+    const CString picked;
+};
+
 TEST_F(InsideNetwork, ServerPickedInTheView_IsEntered) {
-    struct Picking : TestDialog {
-        using TestDialog::TestDialog;
-        OkHandlerErr PreprocessData(CNavDataArray& items) override {
-            CNavData& item = *items.AddData();
-            item.SetText(L"\\\\knavtest");
-            item.SetDataType(NAV_DATA_FILE);
-            item.SetID(NavGetDrivesFolderItem(nullptr));  // the platform of these tests has no servers to pick
-            return TestDialog::PreprocessData(items);
-        }
-    };
-    Picking dialog(folder.path());
+    PickingDialog dialog(folder.path(), L"\\\\knavtest");
     EXPECT_EQ(DialogUser(dialog).ok().untilFolder(kMyComputer).cancel().run(), IDCANCEL);
     EXPECT_EQ(questions(), L"list \\\\knavtest\n");
+}
+
+TEST_F(InsideNetwork, FolderPickedToBeReturned_IsOneOfTheNetwork) {
+    const FileDialogAllowReturnFolderEnabler returnsFolders;
+    PickingDialog dialog(folder.path(), L"\\\\knavtest\\plans\\sub");
+    EXPECT_EQ(DialogUser(dialog).ok().run(), IDOK);
+    ASSERT_THAT(dialog.chosen(), ElementsAre(L"\\\\knavtest\\plans\\sub"));
+    EXPECT_EQ(dialog.data.GetData(0)->GetDataType(), NAV_DATA_NETWORK);
+}
+
+// The file system shows nothing of the share to whoever has not logged in.
+TEST_F(InsideNetwork, FolderOnAShareThatWantsALogin_IsAFolderAfterIt) {
+    static struct : FakeNetwork {
+        using FakeNetwork::FakeNetwork;
+        unsigned long logIn(HWND owner, const std::wstring& share, std::wstring& message) override {
+            CreateDirectoryW(networkFolder() + L"\\knavtest\\plans\\secret", nullptr);
+            return FakeNetwork::logIn(owner, share, message);
+        }
+    } network(ERROR_ACCESS_DENIED);
+    const NetworkInPlace inPlace(network, kLongEnough);
+    constexpr wchar_t secret[] = L"\\\\knavtest\\plans\\secret";
+    prompts.answer(IDOK);
+    TestDialog dialog(folder.path());
+    DialogUser user(dialog);
+    EXPECT_EQ(user.type(secret).ok().untilAsked(prompts).settle().cancel().run(), IDCANCEL) << "no new file";
+    EXPECT_EQ(prompts.seen()[0].text, messageText(IDS_KNAV_INVALID_PATH, secret)) << "the platform cannot show it";
+    RemoveDirectoryW(networkFolder() + L"\\knavtest\\plans\\secret");
 }
 
 TEST_F(InsideNetwork, FolderOnAShare_IsEnteredOrRefusedButNotReturned) {
@@ -214,6 +254,78 @@ TEST_F(InsideNetwork, FolderOnAShare_IsEnteredOrRefusedButNotReturned) {
         EXPECT_EQ(user.cancel().run(), IDCANCEL);
         EXPECT_EQ(questions(), asked);
     }
+}
+
+/// A folder of this machine under a drive letter of the network.
+class MappedDrive {
+public:
+    explicit MappedDrive(CString folder) {
+        folder.Replace(L"C:\\", L"../drive_c/");
+        folder.Replace(L"\\", L"/");
+        define(utf8(folder.view()));
+    }
+    ~MappedDrive() { define({}); }
+    MappedDrive(const MappedDrive&) = delete;
+    MappedDrive& operator=(const MappedDrive&) = delete;
+
+private:
+    struct Request {
+        ULONG size = sizeof(Request);
+        ULONG type = DRIVE_REMOTE;
+        ULONG fileSystem[2] = {};
+        ULONGLONG device = 0;
+        WCHAR letter = L'x';
+        USHORT mountPoint = 0;
+        USHORT unused[2] = {};
+        char text[MAX_PATH] = {};
+    };
+    /// Without a folder the drive goes.
+    static void define(const std::string& folder) {
+        Request request;
+        request.mountPoint = folder.empty() ? 0 : offsetof(Request, text);
+        folder.copy(request.text, MAX_PATH - 1);
+        const ScopedHandle manager(CreateFileW(L"\\\\.\\MountPointManager", GENERIC_READ | GENERIC_WRITE,
+                                               FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr));
+        constexpr DWORD kDefineDrive = CTL_CODE('m', 32, METHOD_BUFFERED, FILE_READ_ACCESS | FILE_WRITE_ACCESS);
+        DWORD got = 0;
+        EXPECT_TRUE(DeviceIoControl(manager.get(), kDefineDrive, &request, sizeof request, nullptr, 0, &got, nullptr));
+    }
+};
+
+class DialogOnANetworkDrive : public DialogTest {
+protected:
+    /// Shows the drive, loses its server, picks an item, and chooses OK.
+    void expectRefused(TestDialog& dialog, std::vector<std::wstring> picked, const wchar_t* name) {
+        static FakeNetwork network(NO_ERROR);
+        network.answer = NO_ERROR;
+        const NetworkInPlace inPlace(network, kLongEnough);
+        const std::size_t before = prompts.seen().size();
+        prompts.answer(IDOK);
+        dialog.SetDefaultInitialFolder(L"X:\\");
+        dialog.SetForceFilterIndex(kAllFiles);
+        DialogUser user(dialog);
+        user.untilFolder(L"X:\\").pick(std::move(picked)).check([] { network.answer = ERROR_BAD_NETPATH; }).ok();
+        user.untilAsked(prompts, before + 1).settle().type(wide(folder.path(L"local.dwg"))).ok();
+        EXPECT_EQ(user.run(), IDOK) << "what is on this machine can be chosen from there";
+        EXPECT_EQ(dialog.chosen(), paths({L"local.dwg"}));
+        ASSERT_EQ(prompts.seen().size(), before + 1);
+        EXPECT_EQ(prompts.seen().back().text, messageText(IDS_KNAV_NETWORK_UNREACHABLE, name));
+        EXPECT_EQ(network.asked(), L"drive X:");
+    }
+};
+
+// The files of the drive are still there in these tests, so that whoever asks for them shows.
+TEST_F(DialogOnANetworkDrive, WhoseServerHasGone_IsNotReadOnOk) {
+    folder.addFile(L"local.dwg");
+    folder.addFolder(L"share\\sub");
+    addShortcut(folder, L"share\\away.lnk", folder.addFolder(L"elsewhere"));
+    const MappedDrive drive(folder.path(L"share"));
+    TestDialog dialog;
+    expectRefused(dialog, {L"away"}, L"X:\\away.lnk");
+
+    const FileDialogAllowReturnFolderEnabler returnsFolders;
+    TestDialog folders;
+    expectRefused(folders, {L"sub"}, L"X:\\sub");
 }
 
 }  // namespace

@@ -26,11 +26,12 @@ class DialogSave : public DialogTest {};
 TEST_F(DialogSave, ExistingFile_IsReplacedOnlyWhenTheUserAgrees) {
     folder.addFile(L"plan.dwg");
     folder.addFile(L"site .dwg");
-    constexpr std::pair<const wchar_t*, const wchar_t*> rows[] = {
+    const std::pair<std::wstring, const wchar_t*> rows[] = {
         {L"plan", L"plan.dwg"},
         {L"plan .dwg", L"plan.dwg"},
         {L"site .dwg", L"site .dwg"},
         {L"\"new\" \"plan\"", L"plan.dwg"},
+        {L"\"new\" \"" + wide(folder.path(L"plan").Mid(2)) + L"\"", L"plan.dwg"},
     };
     for (const auto& [typed, asked] : rows) {
         SCOPED_TRACE(utf8(typed));
@@ -39,7 +40,7 @@ TEST_F(DialogSave, ExistingFile_IsReplacedOnlyWhenTheUserAgrees) {
         SaveDialog dialog(folder.path());
         dialog.SetMultiSelectAllowed(1);
         DialogUser user(dialog);
-        user.type(typed).ok().untilAsked(prompts, before + 1).settle();
+        user.type(typed).check([] { SetCurrentDirectoryW(L"Z:\\"); }).ok().untilAsked(prompts, before + 1).settle();
         user.check([&typed] { expectNameReadyToRetype(typed); }).ok();
         EXPECT_EQ(user.run(), IDOK);
         ASSERT_EQ(prompts.seen().size(), before + 2);
@@ -118,7 +119,9 @@ TEST_F(DialogSave, OtherFileType_ChangesTheExtensionInTheField) {
     SaveDialog dialog(folder.path());
     DialogUser user(dialog);
     user.type(L"plan.dwg").chooseType(kTexts).untilName(L"plan.txt").chooseType(kDrawings).untilName(L"plan.dwg");
-    EXPECT_EQ(user.ok().run(), IDOK);
+    user.type(L"\"plan.dwg\"").chooseType(kTexts).settle();
+    user.check([] { EXPECT_EQ(fileNameText(), L"\"plan.dwg\""); }).ok();
+    EXPECT_EQ(user.run(), IDOK);
     EXPECT_EQ(dialog.chosen(), paths({L"plan.dwg"}));
     EXPECT_EQ(dialog.count("UpdateFileExtension plan.dwg replace"), 1);
 }
@@ -207,6 +210,17 @@ TEST_F(DialogFolders, ReturnFolderMode_NamesAndReturnsTheSelectedFolder) {
     EXPECT_EQ(DialogUser(dialog).pick({L"sub"}).untilName(L"sub").ok().run(), IDOK);
     ASSERT_EQ(dialog.chosen(), paths({L"sub"}));
     EXPECT_EQ(dialog.data.GetData(0)->GetPathname()->GetType(), CZoUiPathname::Directory);
+}
+
+TEST_F(DialogFolders, ReturnFolderMode_PlaceWithoutAPathIsRefusedInTheRightWords) {
+    const FileDialogAllowReturnFolderEnabler mode;
+    prompts.answer(IDOK);
+    TestDialog dialog(L"C:\\");
+    DialogUser user(dialog);
+    user.command(IDM_KNAV_UP).untilFolder(kMyComputer).ok().untilAsked(prompts).settle();
+    EXPECT_EQ(user.check([] { expectNameReadyToRetype(L""); }).cancel().run(), IDCANCEL);
+    EXPECT_EQ(prompts.seen()[0].text, messageText(IDS_KNAV_NO_FOLDER_TO_OPEN));
+    EXPECT_EQ(dialog.data.GetCount(), 0);
 }
 
 TEST_F(DialogFolders, ReturnFolderMode_KeepsATypedNameWhenNothingIsSelectedAnyMore) {

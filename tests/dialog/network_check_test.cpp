@@ -2,22 +2,21 @@
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
-#include <knav/FileDialogAllowReturnFolderEnabler.h>
-#include <platform/ScopedHandle.h>
-#include <winioctl.h>
 
 #include <atomic>
-#include <mutex>
 
 #include "dialog/DialogUser.h"
+#include "dialog/FakeNetwork.h"
 #include "dialog/FolderTexts.h"
-#include "dialog/Messages.h"
 #include "dialog/NetworkAnswers.h"
 #include "support/Printers.h"
-#include "support/RealNamespace.h"
 
 namespace knav {
 namespace {
+
+using test::FakeNetwork;
+using test::kLongEnough;
+using test::NetworkInPlace;
 
 constexpr struct {
     const char* why;
@@ -47,53 +46,6 @@ TEST(NetworkCheck, SplitNetworkName_TellsServerShareAndPath) {
     }
 }
 
-/// A network with one answer for everything, which notes what was asked.
-class FakeNetwork : public NetworkProbe {
-public:
-    explicit FakeNetwork(unsigned long error, std::wstring message = {})
-        : answer(error), m_message(std::move(message)) {}
-
-    unsigned long server(const std::wstring& server, std::wstring& message) override {
-        return note(L"server " + server, message);
-    }
-    unsigned long share(const std::wstring& server, const std::wstring& share, std::wstring& message) override {
-        return note(L"share " + server + L" " + share, message);
-    }
-    unsigned long path(const std::wstring& path, std::wstring& message) override {
-        return note(L"path " + path, message);
-    }
-    unsigned long drive(const std::wstring& drive) override {
-        std::wstring unused;
-        return note(L"drive " + drive, unused);
-    }
-    unsigned long logIn(HWND, const std::wstring& share, std::wstring&) override {
-        m_loggedInTo = share;
-        return loginAnswer;
-    }
-    std::wstring asked() const {
-        const std::scoped_lock lock(m_mutex);
-        return m_asked;
-    }
-    const std::wstring& loggedInTo() const { return m_loggedInTo; }
-
-    unsigned long answer;
-    unsigned long loginAnswer = NO_ERROR;
-
-protected:
-    virtual unsigned long note(std::wstring question, std::wstring& message) {
-        const std::scoped_lock lock(m_mutex);
-        m_asked = std::move(question);
-        message = m_message;
-        return answer;
-    }
-
-private:
-    const std::wstring m_message;
-    mutable std::mutex m_mutex;
-    std::wstring m_asked;
-    std::wstring m_loggedInTo;
-};
-
 /// Answers only when it is let go.
 class HangingNetwork : public FakeNetwork {
 public:
@@ -110,23 +62,6 @@ private:
     const HANDLE m_letGo = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     std::atomic<int> m_questions = 0;
 };
-
-/// The network of the process, while it lives.
-struct NetworkInPlace {
-    NetworkInPlace(NetworkProbe& network, unsigned patienceMs) {
-        setNetworkProbe(&network);
-        setNetworkPatience(patienceMs);
-    }
-    ~NetworkInPlace() {
-        setNetworkPatience(10'000);
-        setNetworkProbe(nullptr);
-    }
-    NetworkInPlace(const NetworkInPlace&) = delete;
-    NetworkInPlace& operator=(const NetworkInPlace&) = delete;
-};
-
-/// A thread can start late on a machine that has much to do.
-constexpr unsigned kLongEnough = 50'000;
 
 TEST(NetworkCheck, ReachableLocation_IsAskedForByItsKind) {
     const std::pair<const wchar_t*, const wchar_t*> rows[] = {
@@ -281,78 +216,6 @@ TEST(NetworkCheck, OptionsOnAServerThatIsGone_AreTakenByTheirTextAlone) {
     EXPECT_EQ(dialog.NavigateToFolder(L"\\\\gone\\plans"), 0);
     EXPECT_EQ(gone.asked(), L"") << "nobody has an answer yet";
     gone.letGo();
-}
-
-/// A folder of this machine under a drive letter of the network.
-class MappedDrive {
-public:
-    explicit MappedDrive(CString folder) {
-        folder.Replace(L"C:\\", L"../drive_c/");
-        folder.Replace(L"\\", L"/");
-        define(test::utf8(folder.view()));
-    }
-    ~MappedDrive() { define({}); }
-    MappedDrive(const MappedDrive&) = delete;
-    MappedDrive& operator=(const MappedDrive&) = delete;
-
-private:
-    struct Request {
-        ULONG size = sizeof(Request);
-        ULONG type = DRIVE_REMOTE;
-        ULONG fileSystem[2] = {};
-        ULONGLONG device = 0;
-        WCHAR letter = L'x';
-        USHORT mountPoint = 0;
-        USHORT unused[2] = {};
-        char text[MAX_PATH] = {};
-    };
-    /// Without a folder the drive goes.
-    static void define(const std::string& folder) {
-        Request request;
-        request.mountPoint = folder.empty() ? 0 : offsetof(Request, text);
-        folder.copy(request.text, MAX_PATH - 1);
-        const ScopedHandle manager(CreateFileW(L"\\\\.\\MountPointManager", GENERIC_READ | GENERIC_WRITE,
-                                               FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr));
-        constexpr DWORD kDefineDrive = CTL_CODE('m', 32, METHOD_BUFFERED, FILE_READ_ACCESS | FILE_WRITE_ACCESS);
-        DWORD got = 0;
-        EXPECT_TRUE(DeviceIoControl(manager.get(), kDefineDrive, &request, sizeof request, nullptr, 0, &got, nullptr));
-    }
-};
-
-class DialogOnANetworkDrive : public test::DialogTest {
-protected:
-    /// Shows the drive, loses its server, picks an item, and chooses OK.
-    void expectRefused(test::TestDialog& dialog, std::vector<std::wstring> picked, const wchar_t* name) {
-        static FakeNetwork network(NO_ERROR);
-        network.answer = NO_ERROR;
-        const NetworkInPlace inPlace(network, kLongEnough);
-        const std::size_t before = prompts.seen().size();
-        prompts.answer(IDOK);
-        dialog.SetDefaultInitialFolder(L"X:\\");
-        dialog.SetForceFilterIndex(test::kAllFiles);
-        test::DialogUser user(dialog);
-        user.untilFolder(L"X:\\").pick(std::move(picked)).check([] { network.answer = ERROR_BAD_NETPATH; }).ok();
-        user.untilAsked(prompts, before + 1).settle().type(test::wide(folder.path(L"local.dwg"))).ok();
-        EXPECT_EQ(user.run(), IDOK) << "what is on this machine can be chosen from there";
-        EXPECT_EQ(dialog.chosen(), paths({L"local.dwg"}));
-        ASSERT_EQ(prompts.seen().size(), before + 1);
-        EXPECT_EQ(prompts.seen().back().text, messageText(IDS_KNAV_NETWORK_UNREACHABLE, name));
-        EXPECT_EQ(network.asked(), L"drive X:");
-    }
-};
-
-// The files of the drive are still there in these tests, so that whoever asks for them shows.
-TEST_F(DialogOnANetworkDrive, WhoseServerHasGone_IsNotReadOnOk) {
-    folder.addFile(L"local.dwg");
-    folder.addFolder(L"share\\sub");
-    test::addShortcut(folder, L"share\\away.lnk", folder.addFolder(L"elsewhere"));
-    const MappedDrive drive(folder.path(L"share"));
-    test::TestDialog dialog;
-    expectRefused(dialog, {L"away"}, L"X:\\away.lnk");
-
-    const FileDialogAllowReturnFolderEnabler returnsFolders;
-    test::TestDialog folders;
-    expectRefused(folders, {L"sub"}, L"X:\\sub");
 }
 
 }  // namespace
