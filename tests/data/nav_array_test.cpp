@@ -1,5 +1,4 @@
 #include <knav/CNavArray.h>
-#include <knav/FileDialogAllowReturnFolderEnabler.h>
 
 namespace {
 
@@ -28,17 +27,7 @@ private:
     int m_made = 0;
 };
 
-// Makes no element, in one way or the other.
-class PoorArray : public CNavArray<Logged> {
-public:
-    explicit PoorArray(bool throws) : m_throws(throws) {}
-    Logged* NewData() override { return m_throws ? throw std::bad_alloc() : nullptr; }
-
-private:
-    bool m_throws;
-};
-
-TEST(CNavArray, GivesNullForAnIndexOutsideAndForAnElementThatCannotBeMade) {
+TEST(CNavArray, GivesNullForAnIndexOutside) {
     CNavArray<Logged> array;
     Logged* const first = array.AddData();
     Logged* const second = array.AddData();
@@ -51,11 +40,6 @@ TEST(CNavArray, GivesNullForAnIndexOutsideAndForAnElementThatCannotBeMade) {
     }
     EXPECT_EQ(array.GetCount(), 2);
     EXPECT_EQ(array.IsIndexValid(1), 1);
-    for (const bool throws : {false, true}) {
-        PoorArray poor(throws);
-        EXPECT_EQ(poor.AddData(), nullptr);
-        EXPECT_EQ(poor.GetCount(), 0);
-    }
 }
 
 TEST(CNavArray, DeletesWhatItRemovesAndNothingThatTheBaseDoes) {
@@ -77,16 +61,6 @@ TEST(CNavArray, DeletesWhatItRemovesAndNothingThatTheBaseDoes) {
         EXPECT_EQ(deleted.size(), 5u);
     }
     EXPECT_THAT(deleted, ElementsAre(2, 1, 3, 4, 5, 6, 7)) << "the destructor deletes the rest once";
-}
-
-TEST(FileDialogAllowReturnFolderEnabler, HoldsUntilTheLastIsGone) {
-    EXPECT_FALSE(FileDialogAllowReturnFolderEnabler::status());
-    {
-        const FileDialogAllowReturnFolderEnabler outer;
-        { const FileDialogAllowReturnFolderEnabler inner; }
-        EXPECT_TRUE(FileDialogAllowReturnFolderEnabler::status());
-    }
-    EXPECT_FALSE(FileDialogAllowReturnFolderEnabler::status());
 }
 
 }  // namespace
