@@ -47,7 +47,7 @@ public:
     void placesChanged() override { ++changed; }
     bool leavesOutDisabledExtensions() const override { return false; }
     bool isExtensionDeleted(const wchar_t* name) override { return deleted == name; }
-    ITEMIDLIST* shownFolder() const override { return shown.get(); }
+    ITEMIDLIST* shownFolder() const override { return nullptr; }
 
     /// The names of the rows.
     std::vector<std::wstring> names() const {
@@ -60,7 +60,6 @@ public:
     CNavListBox list;
     std::map<std::wstring, std::wstring> stored;
     std::wstring deleted;
-    ItemList shown;
     int saved = 0;
     int changed = 0;
     int chosen = 0;

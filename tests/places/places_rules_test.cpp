@@ -34,9 +34,8 @@ TEST(ShortenedLabel, room_decides) {
 TEST(DropIndex, pointer_decides) {
     constexpr int kRowHeight = 60;
     constexpr int kRows = 5;
-    EXPECT_EQ(0, insertionIndex(29, kRowHeight, 0, kRows)) << "upper half of the first row";
-    EXPECT_EQ(1, insertionIndex(30, kRowHeight, 0, kRows)) << "lower half of it";
-    EXPECT_EQ(3, insertionIndex(30, kRowHeight, 2, kRows)) << "scrolled";
+    EXPECT_EQ(2, insertionIndex(29, kRowHeight, 2, kRows)) << "upper half of the first row shown";
+    EXPECT_EQ(3, insertionIndex(30, kRowHeight, 2, kRows)) << "lower half of it";
     EXPECT_EQ(5, insertionIndex(1000, kRowHeight, 0, kRows)) << "below the last row";
     EXPECT_EQ(0, insertionIndex(-500, kRowHeight, 0, kRows)) << "above the list";
 }
