@@ -83,28 +83,13 @@ TEST_P(Resources, TextsTakeTheArgumentThatTheirCallersGive) {
     }
 }
 
-TEST_P(Resources, MenuEntriesHaveMnemonicsOfTheirOwn) {
-    for (const UINT id : kMenus) {
-        for (const auto& popup : popupsOf(m_module, id)) {
-            std::set<wchar_t> used;
-            for (const Entry& entry : popup) {
-                EXPECT_NE(mnemonicOf(entry.text), 0) << id << ": " << utf8(entry.text);
-                EXPECT_TRUE(used.insert(mnemonicOf(entry.text)).second) << id << ": " << utf8(entry.text);
-            }
-        }
-    }
-    for (const UINT item : {IDS_KNAV_FAVORITE_ITEM, IDS_KNAV_FAVORITE_ITEMS}) {
-        EXPECT_NE(mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_FOLDER)), mnemonicOf(m_module.text(item)));
-    }
-}
-
 // What a menu entry promises at its right edge is what the keys do.
 std::string shownKey(const ACCEL& key) {
     const std::string text = key.fVirt & FCONTROL ? "Ctrl+" : "";
     return text + (key.fVirt & FSHIFT ? "Shift+" : "") + static_cast<char>(key.key);
 }
 
-TEST_P(Resources, KeysAreCommandsAndMenusShowThem) {
+TEST_P(Resources, MenuEntriesHaveMnemonicsOfTheirOwnAndShowTheKeysOfTheirCommands) {
     std::map<UINT, std::string> keyOf;
     std::set<std::pair<WORD, BYTE>> used;
     for (const ACCEL& key : m_module.keys()) {
@@ -120,12 +105,18 @@ TEST_P(Resources, KeysAreCommandsAndMenusShowThem) {
     ASSERT_FALSE(keyOf.empty());
     for (const UINT id : kMenus) {
         for (const auto& popup : popupsOf(m_module, id)) {
+            std::set<wchar_t> mnemonics;
             for (const Entry& entry : popup) {
+                const wchar_t mnemonic = mnemonicOf(entry.text);
+                EXPECT_TRUE(mnemonic && mnemonics.insert(mnemonic).second) << id << ": " << utf8(entry.text);
                 const size_t tab = entry.text.find(L'\t');
                 const std::wstring shown = tab != std::wstring::npos ? entry.text.substr(tab + 1) : L"";
                 EXPECT_TRUE(shown.empty() || utf8(shown) == keyOf[entry.id]) << utf8(entry.text);
             }
         }
+    }
+    for (const UINT item : {IDS_KNAV_FAVORITE_ITEM, IDS_KNAV_FAVORITE_ITEMS}) {
+        EXPECT_NE(mnemonicOf(m_module.text(IDS_KNAV_FAVORITE_FOLDER)), mnemonicOf(m_module.text(item)));
     }
 }
 
