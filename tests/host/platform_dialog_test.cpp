@@ -15,11 +15,6 @@ using knav::test::DialogTemplate;
 
 constexpr UINT WM_STEP = WM_APP + 1;
 
-const DialogTemplate& sampleTemplate() {
-    static const DialogTemplate made = DialogTemplate(L"sample").okAndCancel();
-    return made;
-}
-
 class OwnerWindow : public CWnd {
 public:
     OwnerWindow() {
@@ -33,7 +28,7 @@ public:
 
 class SampleDialog : public CDialog {
 public:
-    explicit SampleDialog(CWnd* parent = nullptr) { InitModalIndirect(sampleTemplate().get(), parent); }
+    explicit SampleDialog(CWnd* parent = nullptr) { InitModalIndirect(m_template.get(), parent); }
 
     std::function<void()> onInit = [] {};
     std::function<void()> onStep = [] {};
@@ -56,6 +51,9 @@ protected:
         return 0;
     }
     DECLARE_MESSAGE_MAP()
+
+private:
+    const DialogTemplate m_template{L"sample"};
 };
 BEGIN_MESSAGE_MAP(SampleDialog, CDialog)
 ON_MESSAGE(WM_STEP, &SampleDialog::onStepMessage)

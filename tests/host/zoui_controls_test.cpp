@@ -51,9 +51,6 @@ TEST(ZoUiListBox, TipFollowsThePointerFromRowToRow) {
     toolOf(list, text);
     EXPECT_STREQ(text, L"") << "no window is made for a list without tips";
     list.m_tips = 1;
-    list.moveTo(list.rowHeight() + 1);
-    toolOf(list, text);
-    EXPECT_STREQ(text, L"") << "nor for a row without one";
     list.moveTo(1);
     const RECT row = toolOf(list, text).rect;
     EXPECT_STREQ(text, L"the first row ") << "the blank is there to be cut off";
@@ -61,11 +58,8 @@ TEST(ZoUiListBox, TipFollowsThePointerFromRowToRow) {
     EXPECT_EQ(row.bottom, list.rowHeight());
     list.moveTo(list.rowHeight() + 1);
     const RECT none = toolOf(list, text).rect;
-    EXPECT_STREQ(text, L"");
+    EXPECT_STREQ(text, L"") << "a row without a tip";
     EXPECT_TRUE(IsRectEmpty(&none));
-    list.moveTo(150);
-    toolOf(list, text);
-    EXPECT_STREQ(text, L"") << "below the last row";
 }
 
 }  // namespace

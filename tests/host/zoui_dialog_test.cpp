@@ -35,7 +35,6 @@ bool isInside(const RECT& inner, const RECT& outer) {
 class PlacedDialog : public CZoUiDialog {
 public:
     explicit PlacedDialog(DWORD style = WS_THICKFRAME) : CZoUiDialog(0), m_template(L"Place", style) {
-        m_template.okAndCancel();
         InitModalIndirect(m_template.get());
     }
     // Named as late as this by a class that takes its name from its caption.

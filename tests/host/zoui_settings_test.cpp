@@ -39,12 +39,6 @@ TEST_F(SettingsTest, SettingsKeyIsRootAndName) {
     EXPECT_EQ(m_dialog.GetSettingsKey(), L"Software\\Other\\Sample");
     const CZoUiDialog second(0);
     EXPECT_EQ(second.GetRootKey(), L"Software\\Kelvara\\Dialogs") << "its own root is the dialog's alone";
-
-    const CString previous = CZoUiDialog::GetDefaultRootKey();
-    CZoUiDialog::SetDefaultRootKey(L"Software\\Host\\Dialogs");
-    EXPECT_EQ(second.GetRootKey(), L"Software\\Host\\Dialogs");
-    EXPECT_EQ(m_dialog.GetRootKey(), L"Software\\Other");
-    CZoUiDialog::SetDefaultRootKey(previous);
 }
 
 TEST_F(SettingsTest, NamesWithOddCharactersGetKeysOfTheirOwnDirectlyBelowTheRoot) {

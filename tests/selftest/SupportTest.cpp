@@ -5,13 +5,8 @@
 #include "support/LevelCheck.h"
 #include "support/ObjectCounts.h"
 #include "support/Printers.h"
-#include "support/RegistryRedirect.h"
-#include "support/ScopedTempFolder.h"
 
-using knav::test::growthOver;
 using knav::test::ObjectCounts;
-using knav::test::RegistryRedirect;
-using knav::test::ScopedTempFolder;
 
 TEST(ObjectCounts, EachKindOfLeakIsSeenAndEndsWhenFreed) {
     const ObjectCounts before = ObjectCounts::now();
@@ -43,49 +38,6 @@ TEST(LevelCheck, SeesWhatARepetitionLeavesBehind) {
     EXPECT_TRUE(grew);
     CoTaskMemFree(lost);
     CoTaskMemFree(cached);
-}
-
-TEST(ObjectCounts, ShellListsAndReallocatedBlocksBalance) {
-    EXPECT_EQ(growthOver(20,
-                         [] {
-                             ITEMIDLIST* list = nullptr;
-                             ASSERT_EQ(SHGetSpecialFolderLocation(nullptr, CSIDL_DRIVES, &list), S_OK);
-                             ILFree(list);
-                             void* grown = CoTaskMemRealloc(nullptr, 4);
-                             grown = CoTaskMemRealloc(grown, 4000);
-                             CoTaskMemFree(CoTaskMemRealloc(grown, 8));
-                             SysFreeString(SysAllocString(L"text"));
-                         }),
-              ObjectCounts{});
-}
-
-TEST(ScopedTempFolder, MakesTreesAndRemovesThem) {
-    CString file;
-    {
-        const ScopedTempFolder folder;
-        file = folder.addFile(L"sub\\a b \u00e4.txt", "abc");
-        EXPECT_NE(GetFileAttributesW(file), INVALID_FILE_ATTRIBUTES);
-        EXPECT_EQ(file, folder.path(L"sub\\a b \u00e4.txt"));
-    }
-    EXPECT_EQ(GetFileAttributesW(file), INVALID_FILE_ATTRIBUTES);
-}
-
-TEST(RegistryRedirect, ValuesStayInsideAndDoNotReachTheNextRedirect) {
-    const auto write = [](DWORD value) {
-        return RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\KnavSelfTest", L"Value", REG_DWORD, &value, sizeof value);
-    };
-    const auto exists = [] {
-        return RegGetValueW(HKEY_CURRENT_USER, L"Software\\KnavSelfTest", L"Value", RRF_RT_DWORD, nullptr, nullptr,
-                            nullptr) == ERROR_SUCCESS;
-    };
-    {
-        const RegistryRedirect redirect;
-        ASSERT_EQ(write(1), ERROR_SUCCESS);
-        EXPECT_TRUE(exists());
-    }
-    EXPECT_FALSE(exists());
-    const RegistryRedirect redirect;
-    EXPECT_FALSE(exists());
 }
 
 TEST(FaultReport, FaultEndsTheProgramWithItsCodeAndAStack) {

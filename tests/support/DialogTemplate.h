@@ -1,4 +1,4 @@
-// A dialog template in memory, for tests that need a dialog with a few controls.
+// A dialog template in memory, for tests that need any dialog.
 #pragma once
 
 #include <platform/Windows.h>
@@ -8,36 +8,28 @@
 
 namespace knav::test {
 
+/// A captioned popup with OK and Cancel.
 class DialogTemplate {
 public:
-    /// Size in dialog units; `style` is added to that of a captioned popup, or to nothing for a child.
-    explicit DialogTemplate(const wchar_t* caption, DWORD style = 0, short width = 160, short height = 100) {
-        const DWORD frame = (style & WS_CHILD) != 0 ? 0 : WS_POPUP | WS_CAPTION | WS_SYSMENU;
-        put(DLGTEMPLATE{frame | style, 0, 0, 10, 10, width, height});
+    explicit DialogTemplate(const wchar_t* caption, DWORD style = 0) {
+        put(DLGTEMPLATE{WS_POPUP | WS_CAPTION | WS_SYSMENU | style, 0, 2, 10, 10, 160, 100});
         text(L"");
         text(L"");
         text(caption);
-    }
-
-    DialogTemplate& control(const wchar_t* windowClass, const wchar_t* content, WORD id, DWORD style, short top,
-                            short height = 14) {
-        align();
-        put(DLGITEMTEMPLATE{WS_CHILD | WS_VISIBLE | style, 0, 5, top, 120, height, id});
-        text(windowClass);
-        text(content);
-        put(WORD{0});
-        ++reinterpret_cast<DLGTEMPLATE*>(m_bytes.data())->cdit;
-        return *this;
-    }
-
-    DialogTemplate& okAndCancel() {
-        control(WC_BUTTONW, L"OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 60);
-        return control(WC_BUTTONW, L"Cancel", IDCANCEL, WS_TABSTOP, 80);
+        button(L"OK", IDOK, BS_DEFPUSHBUTTON, 60);
+        button(L"Cancel", IDCANCEL, BS_PUSHBUTTON, 80);
     }
 
     const DLGTEMPLATE* get() const { return reinterpret_cast<const DLGTEMPLATE*>(m_bytes.data()); }
 
 private:
+    void button(const wchar_t* content, WORD id, DWORD style, short top) {
+        m_bytes.resize((m_bytes.size() + 3) / 4 * 4);
+        put(DLGITEMTEMPLATE{WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 5, top, 120, 14, id});
+        text(WC_BUTTONW);
+        text(content);
+        put(WORD{0});
+    }
     template <class Value>
     void put(const Value& value) {
         const auto* const bytes = reinterpret_cast<const char*>(&value);
@@ -49,7 +41,6 @@ private:
         }
         put(L'\0');
     }
-    void align() { m_bytes.resize((m_bytes.size() + 3) / 4 * 4); }
 
     std::vector<char> m_bytes;
 };
