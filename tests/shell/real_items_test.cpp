@@ -161,6 +161,10 @@ TEST_F(RealItems, LeadToTheirFoldersAndTargets) {
     EXPECT_TRUE(ComPtr<IShellFolder>::adopt(NavGetFolderFromDesktop(toFolder.get())));
     const auto toFile = ItemList::adopt(NavResolveLink(listOf("a shortcut to a file").get(), 0));
     EXPECT_TRUE(isSame(toFile, listOf("a file three deep, not ASCII")));
+    const ItemList documents = special(CSIDL_PERSONAL);
+    const ItemList link = parsed(addShortcut(m_temp, L"documents.lnk", L"", documents.get()));
+    EXPECT_THAT(ItemList::adopt(NavResolveLink(link.get(), 0)).get(), HoldsSameBytes(documents.get()))
+        << "a virtual folder with a path stays what it is";
     const ItemList damaged = parsed(m_temp.addFile(L"damaged.lnk", "this is no shortcut"));
     for (ITEMIDLIST* const list : {damaged.get(), static_cast<ITEMIDLIST*>(nullptr)}) {
         EXPECT_EQ(NavResolveLink(list, 0), nullptr);

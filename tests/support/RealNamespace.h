@@ -41,12 +41,14 @@ struct Child {
           })) {}
 };
 
-/// Makes a shortcut file, and returns its path.
-inline CString addShortcut(const ScopedTempFolder& folder, const wchar_t* name, const CString& target) {
+/// Makes a shortcut file that leads to a path or to a list, and returns its path.
+inline CString addShortcut(const ScopedTempFolder& folder, const wchar_t* name, const CString& target,
+                           const ITEMIDLIST* list = nullptr) {
     const CString path = folder.path(name);
     const auto link = createInProcess<IShellLinkW>(CLSID_ShellLink);
     const auto file = link.as<IPersistFile>();
-    EXPECT_TRUE(file && SUCCEEDED(link->SetPath(target)) && SUCCEEDED(file->Save(path, TRUE)));
+    const HRESULT set = list != nullptr ? link->SetIDList(list) : link->SetPath(target);
+    EXPECT_TRUE(file && SUCCEEDED(set) && SUCCEEDED(file->Save(path, TRUE)));
     return path;
 }
 
