@@ -68,7 +68,7 @@ NetworkAnswer NetworkAnswers::ask(const CString& path) {
     const CWaitCursor wait;
     const ULONGLONG start = GetTickCount64();
     const unsigned long long left = networkPatience() - std::min<unsigned long long>(m_waited, networkPatience());
-    const NetworkAnswer answer = checkNetworkLocation(networkProbe(), path, static_cast<unsigned>(left));
+    NetworkAnswer answer = checkNetworkLocation(networkProbe(), path, static_cast<unsigned>(left));
     m_waited += GetTickCount64() - start;
     return answer;
 }

@@ -228,7 +228,7 @@ TEST_F(InsideNetwork, FolderOnAShareThatWantsALogin_IsAFolderAfterIt) {
     prompts.answer(IDOK);
     TestDialog dialog(folder.path());
     DialogUser user(dialog);
-    EXPECT_EQ(user.type(secret).ok().untilAsked(prompts).settle().cancel().run(), IDCANCEL) << "no new file";
+    ASSERT_EQ(user.type(secret).ok().untilAsked(prompts).settle().cancel().run(), IDCANCEL) << "no new file";
     EXPECT_EQ(prompts.seen()[0].text, messageText(IDS_KNAV_INVALID_PATH, secret)) << "the platform cannot show it";
     RemoveDirectoryW(networkFolder() + L"\\knavtest\\plans\\secret");
 }
