@@ -100,13 +100,11 @@ void CNavDialogImp::canonicalizeSiteItem(CNavData& item) {
     }
 }
 
-/// The title of boxes that ask about a file.
+/// What task dialogs call the dialog.
 CString CNavDialogImp::caption() {
-    CString caption = m_options.caption;
-    if (caption.IsEmpty()) {
-        m_facade.GetWindowText(caption);
-    }
-    return caption;
+    CString title;
+    m_facade.GetWindowText(title);
+    return title;
 }
 
 bool CNavDialogImp::mayReplaceAll() {
@@ -138,7 +136,7 @@ bool CNavDialogImp::mayReplace(const CString& text) {
         return false;
     }
     const CString question = knav::messageText(IDS_KNAV_REPLACE, name);
-    if (knav::showText(m_facade, question, caption(), MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) == IDYES) {
+    if (knav::showText(m_facade, question, MB_YESNO | MB_ICONWARNING | MB_DEFBUTTON2) == IDYES) {
         return true;
     }
     refuseFileName();

@@ -14,17 +14,17 @@ void CNavDialogImp::OnOK() {
     if (m_ok.running) {
         return;
     }
-    m_ok.closing = false;
+    m_ok.closing = m_ok.moved = m_ok.selectionMissed = false;
     m_options.readOnlySpecified = m_ok.readOnly;
     {
         const knav::NetworkAnswers::Scope asked(m_ok.network);
         const knav::ScopedFlag running(m_ok.running);
         processOk();
     }
-    if (std::exchange(m_ok.moved, false) && !m_ok.closing) {
+    if (m_ok.moved && !m_ok.closing) {
         m_data.RemoveAllData();  // of the folder that was left
     }
-    if (std::exchange(m_ok.selectionMissed, false) && !m_ok.closing) {
+    if (m_ok.selectionMissed && !m_ok.closing) {
         postToSelf(OwnMessage::SyncSelection);
     }
 }
