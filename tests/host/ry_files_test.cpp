@@ -1,3 +1,4 @@
+#include <platform/Resources.h>
 #include <platform/ScopedHandle.h>
 #include <ry/FileSystem.h>
 #include <ry/RyUtResource.h>
@@ -7,6 +8,7 @@
 #include <atomic>
 #include <memory>
 
+#include "resources/ids.h"
 #include "support/Printers.h"
 #include "support/ScopedTempFolder.h"
 
@@ -19,6 +21,12 @@ CString currentDirectory() {
     wchar_t folder[MAX_PATH];
     GetCurrentDirectoryW(MAX_PATH, folder);
     return folder;
+}
+
+CString programFolder() {
+    wchar_t program[MAX_PATH];
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    return CString(program).Left(CString(program).ReverseFind(L'\\') + 1);
 }
 
 // The test's own folder is the current directory, and the previous one is again at the end.
@@ -68,6 +76,26 @@ TEST_F(FilesTest, LoadDllFindsRelativeNamesOnlyBesideTheModules) {
     EXPECT_EQ(RyUtResource::loadDll(nullptr), nullptr);
 }
 
+TEST_F(FilesTest, ResourcesAreSearchedInTheCurrentModuleThenInTheNewest) {
+    const HINSTANCE first = RyUtResource::loadDll(L"KnavRes.dll");
+    ASSERT_TRUE(CopyFileW(programFolder() + L"KnavRes.dll", m_folder.path(L"second.dll"), FALSE));
+    const HINSTANCE second = RyUtResource::loadDll(m_folder.path(L"second.dll"));
+    const auto found = [] { return AfxFindResourceHandle(MAKEINTRESOURCEW(IDR_KNAV_OK_MENU), RT_MENU); };
+    {
+        const CDynLinkLibrary firstLink(first);
+        {
+            const CDynLinkLibrary secondLink(second);
+            EXPECT_EQ(found(), second);
+            const ScopedResourceHandle current(first);
+            EXPECT_EQ(found(), first);
+        }
+        EXPECT_EQ(found(), first);
+    }
+    EXPECT_EQ(found(), GetModuleHandleW(nullptr)) << "in none of them";
+    RyUtResource::freeDll(second);
+    RyUtResource::freeDll(first);
+}
+
 TEST_F(FilesTest, ChangeDirAbandonsALocationThatDoesNotAnswer) {
     struct Shared {
         const ScopedHandle go{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
@@ -85,11 +113,8 @@ TEST_F(FilesTest, ChangeDirAbandonsALocationThatDoesNotAnswer) {
     const std::wstring instead = networkAwareChangeDir(L"\\\\dead\\share\\x", false, hangingProbe, 200);
     EXPECT_LT(GetTickCount64() - start, 5'000u);
 
-    wchar_t program[MAX_PATH];
-    GetModuleFileNameW(nullptr, program, MAX_PATH);
-    const CString programFolder = CString(program).Left(CString(program).ReverseFind(L'\\') + 1);
-    EXPECT_EQ(CString(instead), programFolder);
-    EXPECT_EQ((currentDirectory() + L"\\").CompareNoCase(programFolder), 0);
+    EXPECT_EQ(CString(instead), programFolder());
+    EXPECT_EQ((currentDirectory() + L"\\").CompareNoCase(programFolder()), 0);
 
     // The answer that comes after all changes nothing any more.
     SetCurrentDirectoryW(m_folder.path());
