@@ -181,6 +181,9 @@ CNavNode* CNavDialogImp::lookInNode() const {
 bool CNavDialogImp::selectedFolderPathname(CNavPathname& folder) {
     CString shown;
     GetCurrentFolderForPersistence(shown);
+    if (knav::isDesktopKeyword(shown)) {
+        shown = knav::pathOfSpecialFolder(CSIDL_DESKTOPDIRECTORY);
+    }
     return m_lookIn.GetSafeHwnd() && withinReach(shown) && m_lookIn.GetPathname(folder);
 }
 

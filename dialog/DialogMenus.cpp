@@ -142,7 +142,8 @@ void CNavDialogImp::PrepareToolsMenu(CMenu* menu) {
     facts.hasPlaces = m_places.GetSafeHwnd() && !m_policies.noPlacesList;
     facts.isPlace = facts.hasPlaces && m_places.GetCurSel() >= 0;
     const CNavNode* node = currentFolderNode();
-    facts.isRemote = node && (node->IsInternetType() || node->IsWebFoldersType());
+    facts.isRemote =
+        node && node->GetType() != NavNodeInternetRoot && (node->IsInternetType() || node->IsWebFoldersType());
     GetCurrentFolder(facts.folder);
     facts.selected = selectedCount();
     knav::prepareToolsMenu(*menu, facts);

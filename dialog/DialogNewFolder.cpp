@@ -74,7 +74,8 @@ void CNavDialogImp::CmdNewFolder() {
     if (name.IsEmpty()) {
         return;
     }
-    if (knav::isSite(node)) {
+    // Another node now, perhaps: a login lets messages run.
+    if (knav::isSite(currentFolderNode())) {
         CreateNewWebFolder(name);
     } else {
         createFolderOnDisk(name);
@@ -123,8 +124,8 @@ void CNavDialogImp::CreateNewWebFolder(const CString& name) {
 /// it yet is refreshed; one that takes its time over that is asked again for a while, as long as the user selects
 /// nothing else and stays in the same control.
 void CNavDialogImp::renameWhenShown(const CString& name) {
-    if (const HWND list = m_listInUse->GetSafeHwnd()) {
-        ListView_SetItemState(list, -1, 0, LVIS_SELECTED);  // what is selected from now on is new
+    if (selectedCount() > 0) {
+        ListView_SetItemState(m_listInUse->GetSafeHwnd(), -1, 0, LVIS_SELECTED);  // what is selected from now on is new
     }
     if (beginRename(name)) {
         return;

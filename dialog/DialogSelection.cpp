@@ -115,7 +115,8 @@ void CNavDialogImp::OnFileNameSelectionChange() {
 /// view itself goes first.
 void CNavDialogImp::showTypedName() {
     const HWND list = m_listInUse->GetSafeHwnd();
-    if (!list || ::GetFocus() != list || !m_fileNameEditDirty || selectedCount() > 0) {
+    const bool newFolderComes = !m_newFolder.name.IsEmpty();
+    if (!list || ::GetFocus() != list || !m_fileNameEditDirty || selectedCount() > 0 || newFolderComes) {
         return;
     }
     const CString typed = fileNameText();

@@ -123,8 +123,9 @@ NetworkAnswer networkLogin(NetworkProbe& probe, HWND owner, const NetworkName& l
     if (error == NO_ERROR || error == ERROR_SESSION_CREDENTIAL_CONFLICT) {
         return {true, false, 0, {}};
     }
-    if (message.empty() && error != ERROR_CANCELLED) {
-        message = share + L"\n\n" + systemMessage(error);
+    if (const std::wstring reason(systemMessage(error));
+        message.empty() && !reason.empty() && error != ERROR_CANCELLED) {
+        message = share + L"\n\n" + reason;
     }
     return {false, false, codeOf(error), CString(message)};
 }

@@ -19,6 +19,7 @@ bool isRoot(const CNavNode* node) {
 }  // namespace
 
 OkHandlerErr CNavDialogImp::PreprocessData(CNavDataArray& data) {
+    const knav::NetworkAnswers::Scope asked(m_ok.network);
     if (m_fileName.IsFileNameComboBoxDirty() || data.GetCount() == 0) {
         m_fileName.SendFileNameToData(data);
     }
@@ -63,7 +64,7 @@ void CNavDialogImp::finishText(CNavData& item, CString& text) {
     }
     item.SetText(text);
     if (!withinReach(text)) {
-        item.SetDataType(NAV_DATA_NETWORK);  // the user is told when the name is committed or looked at
+        item.SetDataType(knav::kindOfPath(text));  // the user is told when the name is committed or looked at
         return;
     }
     if (CString name = item.GetTextInFolder(); isRoot(currentFolderNode()) && !name.IsEmpty()) {
@@ -137,6 +138,11 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
     if (!folder || !withinReach(text)) {
         return OkErrNone;
     }
+    // To parse a name is to ask the disk about it.
+    if (CString full = text; !NavIsURL(text) && knav::appendPath(full, folder->text) && !withinReach(full)) {
+        text = full;
+        return OkErrNone;
+    }
     CNavPathname parsed;
     const bool isPath = parsed.Parse(text, true) == PathErr::None;
     if (isPath) {
@@ -167,6 +173,7 @@ OkHandlerErr CNavDialogImp::CombineDataTextWithFolderName(CNavData* item, CStrin
 }
 
 int CNavDialogImp::UpdateFileExtension(CString& name, int replace) {
+    const knav::NetworkAnswers::Scope asked(m_ok.network);
     CString pattern;
     GetCurrentFileExtension(pattern);
     if (!knav::namesOneExtension(pattern.view()) || IsExistingFolder(name)) {

@@ -85,7 +85,8 @@ bool CNavDialogImp::firstIsFolder() {
 
 /// The folder shown, which was put in for want of a choice, is no folder that can be the result.
 void CNavDialogImp::refuseFolderShown() {
-    const CString folder = m_data.GetData(0)->GetText();
+    const CNavData* first = m_data.GetData(0);
+    const CString folder = first ? first->GetText() : L"";
     m_data.RemoveAllData();
     if (validateUNC(folder)) {
         reportNameError(OkErrNoFileSystemFolder);
@@ -135,7 +136,8 @@ int CNavDialogImp::OnFileNameOK() {
     if (asksBeforeReplacing && !mayReplaceAll()) {
         return 0;
     }
-    if (!m_options.creatingFile && m_options.confirmReplace && refuseMissing(*first)) {
+    first = m_data.GetData(0);
+    if (first && !m_options.creatingFile && m_options.confirmReplace && refuseMissing(*first)) {
         return 0;
     }
     rememberName();

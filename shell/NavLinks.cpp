@@ -41,8 +41,11 @@ bool isFolder(ITEMIDLIST* list) {
 // A shortcut that was made from a path records a list that takes every target for a file: that of a folder cannot be
 // bound. The list that the path has now can.
 knav::ItemList folderMistakenForFile(ITEMIDLIST* recorded) {
-    const CString path = isFolder(recorded) ? CString() : knav::pathOfFolder(recorded);
-    return isFile(path) ? knav::ItemList() : knav::ItemList::adopt(NavGetQualifiedItemListFromFolderFullPath(path));
+    const CString path = knav::pathOfFolder(recorded);
+    if (path.IsEmpty() || isFile(path) || isFolder(recorded)) {
+        return {};
+    }
+    return knav::ItemList::adopt(NavGetQualifiedItemListFromFolderFullPath(path));
 }
 
 }  // namespace

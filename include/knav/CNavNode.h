@@ -106,8 +106,8 @@ public:
     /// empty text, when there is no name.
     int GetNameInFolder(CString& name) const;
     int GetNameForParsing(CString& name) const;
-    /// A new qualified list of the node, which the caller frees; null when memory is short, and when neither the node
-    /// nor one that it lies below has a list.
+    /// A new qualified list of the node, which the caller frees; null when memory is short, when neither the node nor
+    /// one that it lies below has a list, and when lists are too damaged to be joined.
     ITEMIDLIST* CalculateQualifiedItemList() const;
 
     /// Asks the shell for the attributes and has the icon taken anew. Zero, with everything as it was, when it fails.
