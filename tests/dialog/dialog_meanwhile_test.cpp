@@ -3,6 +3,7 @@
 
 #include "dialog/DialogUser.h"
 #include "dialog/Messages.h"
+#include "support/Controls.h"
 
 namespace knav::test {
 namespace {
@@ -107,25 +108,12 @@ TEST_F(DialogMeanwhile, DriveThatIsTakenOut_IsToldAndTheDialogCanBeUsedOn) {
     EXPECT_EQ(prompts.seen()[1].text, messageText(IDS_KNAV_NO_DRIVE, L"R:"));
 }
 
-std::vector<std::wstring> lookInRows() {
-    const HWND combo = DialogDriver::control(IDC_KNAV_LOOK_IN);
-    std::vector<std::wstring> rows(static_cast<std::size_t>(SendMessageW(combo, CB_GETCOUNT, 0, 0)));
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        wchar_t text[MAX_PATH] = L"";
-        SendMessageW(combo, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
-        rows[i] = text;
-    }
-    return rows;
-}
-
 TEST_F(DialogMeanwhile, DriveThatIsPutIn_IsOfferedInTheLookInList) {
-    const auto drop = [](bool down) {
-        SendMessageW(DialogDriver::control(IDC_KNAV_LOOK_IN), CB_SHOWDROPDOWN, down, 0);
-    };
-    const auto listed = [&drop] {
-        drop(true);
-        const auto rows = lookInRows();
-        drop(false);
+    const auto listed = [] {
+        const HWND lookIn = DialogDriver::control(IDC_KNAV_LOOK_IN);
+        SendMessageW(lookIn, CB_SHOWDROPDOWN, TRUE, 0);
+        const auto rows = rowsOf(lookIn);
+        SendMessageW(lookIn, CB_SHOWDROPDOWN, FALSE, 0);
         return std::ranges::any_of(rows, [](const auto& row) { return row.find(L"(R:)") != std::wstring::npos; });
     };
     TestDialog dialog(folder.path());

@@ -5,6 +5,7 @@
 #include "dialog/CNavDialogImp.h"
 #include "dialog/DialogUser.h"
 #include "dialog/Messages.h"
+#include "support/Controls.h"
 #include "support/TestExtension.h"
 
 namespace knav::test {
@@ -14,14 +15,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 std::vector<std::wstring> historyShown() {
-    std::vector<std::wstring> entries;
-    const HWND combo = DialogDriver::control(IDC_KNAV_FILE_NAME);
-    for (int i = 0; i < static_cast<int>(SendMessageW(combo, CB_GETCOUNT, 0, 0)); ++i) {
-        std::array<wchar_t, MAX_PATH> text{};
-        SendMessageW(combo, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text.data()));
-        entries.emplace_back(text.data());
-    }
-    return entries;
+    return rowsOf(DialogDriver::control(IDC_KNAV_FILE_NAME));
 }
 
 class DialogSettings : public DialogTest {

@@ -4,6 +4,7 @@
 #include "demo/driver/RemoteList.h"
 #include "e2e/DialogInput.h"
 #include "resources/ids.h"
+#include "support/Controls.h"
 
 namespace knav::test {
 
@@ -19,16 +20,7 @@ public:
     }
     HWND focus() const { return thread().hwndFocus; }
     bool menuIsOpen() const { return (thread().flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0; }
-    std::vector<std::wstring> lookInRows() const {
-        const HWND combo = control(IDC_KNAV_LOOK_IN);
-        std::vector<std::wstring> rows(static_cast<std::size_t>(SendMessageW(combo, CB_GETCOUNT, 0, 0)));
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            wchar_t text[MAX_PATH] = L"";
-            SendMessageW(combo, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
-            rows[i] = text;
-        }
-        return rows;
-    }
+    std::vector<std::wstring> lookInRows() const { return rowsOf(control(IDC_KNAV_LOOK_IN)); }
     std::wstring lookIn() const {
         const auto rows = lookInRows();
         const LRESULT row = SendMessageW(control(IDC_KNAV_LOOK_IN), CB_GETCURSEL, 0, 0);

@@ -4,6 +4,7 @@
 #include <platform/GdiOwners.h>
 
 #include <string>
+#include <vector>
 
 namespace knav::test {
 
@@ -17,6 +18,17 @@ inline std::wstring classOf(HWND window) {
     wchar_t name[64] = L"";
     GetClassNameW(window, name, 64);
     return name;
+}
+
+/// The texts of a combo box's rows.
+inline std::vector<std::wstring> rowsOf(HWND combo) {
+    std::vector<std::wstring> rows(static_cast<std::size_t>(SendMessageW(combo, CB_GETCOUNT, 0, 0)));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        wchar_t text[MAX_PATH] = L"";
+        SendMessageW(combo, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
+        rows[i] = text;
+    }
+    return rows;
 }
 
 inline RECT rectIn(HWND dialog, HWND control) {
