@@ -2,10 +2,11 @@
 #include <platform/CDialog.h>
 #include <platform/CEdit.h>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <functional>
 #include <stdexcept>
+#include <vector>
 
 #include "support/DialogTemplate.h"
 
@@ -32,6 +33,7 @@ public:
 
     std::function<void()> onInit = [] {};
     std::function<void()> onStep = [] {};
+    std::function<bool(LPARAM)> onIdle = [](LPARAM) { return false; };
 
     // Runs the dialog and calls `step` from a posted message when it is up.
     INT_PTR runWith(std::function<void()> step) {
@@ -50,6 +52,7 @@ protected:
         onStep();
         return 0;
     }
+    LRESULT onKickIdle(WPARAM, LPARAM count) { return onIdle(count); }
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -57,6 +60,7 @@ private:
 };
 BEGIN_MESSAGE_MAP(SampleDialog, CDialog)
 ON_MESSAGE(WM_STEP, &SampleDialog::onStepMessage)
+ON_MESSAGE(WM_KICKIDLE, &SampleDialog::onKickIdle)
 END_MESSAGE_MAP()
 
 TEST(ModalDialog, DisablesItsOwnerAndPutsEverythingBack) {
@@ -86,16 +90,18 @@ TEST(ModalDialog, DisablesItsOwnerAndPutsEverythingBack) {
     EXPECT_FALSE(owner.IsWindowEnabled()) << "as it was";
 }
 
-TEST(ModalDialog, WhateverGoesWrongFailsItAndLeavesTheOwnerEnabled) {
+TEST(ModalDialog, HoweverItEndsTheOwnerIsLeftEnabled) {
     struct Row {
         const char* why;
         std::function<void(SampleDialog&)> atInit;
         std::function<void(SampleDialog&)> whenShown;
+        INT_PTR result = kDialogFailed;
     };
     const Row rows[] = {
         {"initialising throws", [](SampleDialog&) { throw std::runtime_error("no data"); }, nullptr},
         {"destroyed by others", nullptr, [](SampleDialog& dialog) { ::DestroyWindow(dialog.m_hWnd); }},
         {"destroyed at once", [](SampleDialog& dialog) { ::DestroyWindow(dialog.m_hWnd); }, nullptr},
+        {"ended at once", [](SampleDialog& dialog) { dialog.EndDialog(12); }, nullptr, 12},
         {"the program is to end", nullptr, [](SampleDialog&) { PostQuitMessage(3); }},
     };
     for (const Row& row : rows) {
@@ -104,7 +110,7 @@ TEST(ModalDialog, WhateverGoesWrongFailsItAndLeavesTheOwnerEnabled) {
         SampleDialog dialog(&owner);
         dialog.onStep = [&] { row.whenShown(dialog); };
         dialog.onInit = [&] { row.atInit ? row.atInit(dialog) : void(dialog.PostMessage(WM_STEP)); };
-        EXPECT_EQ(dialog.DoModal(), kDialogFailed);
+        EXPECT_EQ(dialog.DoModal(), row.result);
         EXPECT_TRUE(owner.IsWindowEnabled());
     }
     MSG message{};
@@ -115,6 +121,23 @@ TEST(ModalDialog, WhateverGoesWrongFailsItAndLeavesTheOwnerEnabled) {
     EXPECT_EQ(CDialog(4711, &owner).DoModal(), kDialogFailed) << "no template";
     EXPECT_EQ(CDialog(4711, &owner, GetModuleHandleW(L"user32.dll")).DoModal(), kDialogFailed);
     EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(ModalDialog, KicksIdleUntilThereIsNothingToDo) {
+    SampleDialog dialog;
+    std::vector<LPARAM> counts;
+    dialog.onIdle = [&](LPARAM count) {
+        counts.push_back(count);
+        EXPECT_TRUE(dialog.IsWindowVisible());
+        if (counts.size() == 3) {
+            dialog.SetTimer(1, 20);  // its message starts the count anew, and not at once
+        } else if (counts.size() == 4) {
+            dialog.EndDialog(IDOK);
+        }
+        return count < 2;
+    };
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_THAT(counts, testing::ElementsAre(0, 1, 2, 0));
 }
 
 TEST(ModalDialog, SurvivesTheEndOfItsOwner) {

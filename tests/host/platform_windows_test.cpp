@@ -178,7 +178,10 @@ TEST(MessageMap, HandlerThatThrowsLeavesTheWindowUsable) {
     probe.action = [] { throw std::runtime_error("handler"); };
     EXPECT_EQ(probe.SendMessage(WM_APP), 0);
     EXPECT_EQ(probe.GetCurrentMessage().message, UINT{WM_NULL});
-    probe.action = [] {};
+    probe.action = [&] {
+        probe.GetWindowTextLength();
+        EXPECT_EQ(probe.GetCurrentMessage().message, UINT{WM_APP}) << "what Default() passes on, after a nested one";
+    };
     EXPECT_EQ(probe.SendMessage(WM_APP), 5);
 }
 

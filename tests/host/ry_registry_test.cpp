@@ -77,9 +77,12 @@ TEST_F(RegistryTest, OverlongTextIsRefusedBothWays) {
     EXPECT_EQ(ryRegGetValue(m_key.get(), L"long", text), ERROR_MORE_DATA) << "unterminated, as long as one that fits";
 }
 
-TEST_F(RegistryTest, DeleteTreeNeverTakesAWholeHive) {
+TEST_F(RegistryTest, DeleteTreeTakesTheKeyWithEverythingBelowButNeverAWholeHive) {
     EXPECT_EQ(ryRegDeleteTree(HKEY_CURRENT_USER, L""), ERROR_INVALID_PARAMETER);
     EXPECT_EQ(ryRegDeleteTree(HKEY_CURRENT_USER, nullptr), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(ryRegDeleteTree(HKEY_CURRENT_USER, L"Software\\A"), ERROR_SUCCESS);
+    EXPECT_FALSE(m_key.open(HKEY_CURRENT_USER, L"Software\\A"));
+    EXPECT_TRUE(m_key.open(HKEY_CURRENT_USER, L"Software"));
 }
 
 TEST_F(RegistryTest, EnumValueGivesEachNameAndTypeOnce) {

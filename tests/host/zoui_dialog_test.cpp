@@ -1,4 +1,5 @@
-#include <zoui/CZoUiDialog.h>
+#include <zoui/CZoUiTabMainDialog.h>
+#include <zoui/CZoUiTabPage.h>
 
 #include <gtest/gtest.h>
 
@@ -127,6 +128,78 @@ TEST_F(DialogPlaceTest, StoredPlaceIsFittedAndASenselessOneIgnored) {
         EXPECT_TRUE(isInside(opened, room)) << opened;
         EXPECT_EQ(opened == dialog.m_atInit, row.ignored) << opened;
         EXPECT_EQ(opened, row.opened.value_or(opened));
+    }
+}
+
+constexpr UINT kTabs = 200;
+constexpr UINT kField = 201;
+
+// Refuses one text of its field.
+class TextPage : public CZoUiTabPage {
+public:
+    TextPage() : CZoUiTabPage(9002) {}
+    CString m_text;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override {
+        DDX_Text(exchange, kField, m_text);
+        if (exchange->m_bSaveAndValidate && m_text == L"refused") {
+            exchange->Fail(kField);
+        }
+    }
+};
+
+class TabbedDialog : public CZoUiTabMainDialog {
+public:
+    TabbedDialog() : CZoUiTabMainDialog(9001, kTabs) {}
+    BOOL OnInitDialog() override {
+        EXPECT_EQ(AddPage(m_first, L"First"), 0);
+        EXPECT_EQ(AddPage(m_second, L"Second"), 1);
+        return CZoUiTabMainDialog::OnInitDialog();
+    }
+    // The one that the user sees; -1 for none or both.
+    int pageInFront() const {
+        const BOOL second = m_second.IsWindowVisible();
+        return m_first.IsWindowVisible() != second ? second : -1;
+    }
+    int chooseTab(int index) {
+        SendDlgItemMessage(kTabs, TCM_SETCURFOCUS, static_cast<WPARAM>(index));
+        EXPECT_EQ(SendDlgItemMessage(kTabs, TCM_GETCURSEL), pageInFront());
+        return pageInFront();
+    }
+
+    TextPage m_first;
+    TextPage m_second;
+};
+
+TEST(TabDialog, PagesChangeAndOkEndsUnlessAPageRefuses) {
+    TabbedDialog dialog;
+    TextPage& page = dialog.m_second;
+    for (int round = 0; round < 2; ++round) {  // it can be run again with the same pages
+        page.m_text = L"before";
+        DialogDriver driver;
+        driver.then("tabs", [&] {
+            EXPECT_EQ(dialog.pageInFront(), 0);
+            EXPECT_EQ(dialog.chooseTab(1), 1);
+            EXPECT_TRUE(isInside(rectOf(page), rectOf(*dialog.GetDlgItem(kTabs))));
+            CString shown;
+            page.GetDlgItemText(kField, shown);
+            EXPECT_STREQ(shown, L"before");
+            page.SetDlgItemText(kField, L"refused");
+            EXPECT_EQ(dialog.chooseTab(0), 1);
+            EXPECT_EQ(GetFocus(), page.GetDlgItem(kField)->m_hWnd);
+            page.SetDlgItemText(kField, L"after");
+            EXPECT_EQ(dialog.chooseTab(0), 0);
+            EXPECT_STREQ(page.m_text, L"after");
+            page.SetDlgItemText(kField, L"refused");
+        });
+        driver.click(IDOK);
+        driver.wait("the page that refuses", [&] { return dialog.pageInFront() == 1; });
+        driver.then("enter in a page's field is the dialog's OK", [&] {
+            page.SetDlgItemText(kField, L"after");
+            page.GetDlgItem(kField)->PostMessage(WM_KEYDOWN, VK_RETURN, 1);
+        });
+        EXPECT_EQ(driver.run([&] { return dialog.DoModal(); }), IDOK);
     }
 }
 

@@ -5,8 +5,10 @@
 #include "support/LevelCheck.h"
 #include "support/ObjectCounts.h"
 #include "support/Printers.h"
+#include "support/RegistryRedirect.h"
 
 using knav::test::ObjectCounts;
+using knav::test::RegistryRedirect;
 
 TEST(ObjectCounts, EachKindOfLeakIsSeenAndEndsWhenFreed) {
     const ObjectCounts before = ObjectCounts::now();
@@ -38,6 +40,22 @@ TEST(LevelCheck, SeesWhatARepetitionLeavesBehind) {
     EXPECT_TRUE(grew);
     CoTaskMemFree(lost);
     CoTaskMemFree(cached);
+}
+
+TEST(RegistryRedirect, KeepsValuesFromTheRealKeyAndFromTheNextRedirect) {
+    const wchar_t key[] = L"Software\\KnavSelfTest";
+    const auto isStored = [&] {
+        return RegGetValueW(HKEY_CURRENT_USER, key, L"Value", RRF_RT_DWORD, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+    };
+    {
+        RegistryRedirect redirect;
+        redirect.set(key, L"Value", 1);
+        EXPECT_TRUE(isStored());
+    }
+    EXPECT_FALSE(isStored());
+    RegDeleteTreeW(HKEY_CURRENT_USER, key);  // so that a failure does not outlast this run
+    const RegistryRedirect next;
+    EXPECT_FALSE(isStored());
 }
 
 TEST(FaultReport, FaultEndsTheProgramWithItsCodeAndAStack) {
