@@ -32,6 +32,7 @@ constexpr std::array kContenders{
     // Wine's filters so slowly that a folder of 10,000 files takes it minutes.
     Contender{"newer", &bench::showNewerDialog, 1'000},
     Contender{"bare", &bench::showBareView},
+    Contender{"frame", &bench::showFramedView},
 };
 enum Index { kThis, kOlder, kNewer, kBare };
 

@@ -1,6 +1,7 @@
-// The shell's folder view in a plain window.
+// The shell's folder view in a plain window, and among controls that do nothing.
 #include "bench/open/Dialogs.h"
 
+#include "resources/ids.h"
 #include "shell/ComPtr.h"
 #include "shell/InterfaceIds.h"
 
@@ -66,12 +67,24 @@ private:
     IShellFolder* m_folder;
 };
 
+bool isCancel(UINT message, WPARAM wParam) {
+    return message == WM_COMMAND && LOWORD(wParam) == IDCANCEL;
+}
+
 LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL) {
+    if (isCancel(message, wParam)) {
         PostQuitMessage(0);
         return 0;
     }
     return DefWindowProcW(window, message, wParam, lParam);
+}
+
+INT_PTR CALLBACK onFrameMessage(HWND, UINT message, WPARAM wParam, LPARAM) {
+    if (isCancel(message, wParam)) {
+        PostQuitMessage(0);
+        return TRUE;
+    }
+    return message == WM_INITDIALOG;
 }
 
 HWND makeWindow() {
@@ -87,6 +100,23 @@ HWND makeWindow() {
     return CreateWindowExW(0, kClass, bench::kCaption, WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, CW_USEDEFAULT,
                            place.right - place.left, place.bottom - place.top, nullptr, nullptr, type.hInstance,
                            nullptr);
+}
+
+/// The library's own template, whose controls nobody fills or draws.
+HWND makeFrame() {
+    static const HMODULE resources = LoadLibraryW(L"KnavRes.dll");
+    return CreateDialogParamW(resources, MAKEINTRESOURCEW(IDD_KNAV), nullptr, &onFrameMessage, 0);
+}
+
+RECT placeIn(HWND window) {
+    RECT place;
+    if (const HWND view = GetDlgItem(window, IDC_KNAV_VIEW)) {
+        GetWindowRect(view, &place);
+        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+    } else {
+        GetClientRect(window, &place);
+    }
+    return place;
 }
 
 knav::ComPtr<IShellFolder> bindFolder(const wchar_t* path) {
@@ -109,17 +139,13 @@ void runUntilCancelled() {
     }
 }
 
-}  // namespace
-
-void bench::showBareView(const wchar_t* path) {
+void showView(const wchar_t* path, HWND window) {
     const auto folder = bindFolder(path);
-    const HWND window = makeWindow();
     Browser browser(window, folder.get());
     knav::ComPtr<IShellView> view;
     folder->CreateViewObject(window, IID_IShellView, reinterpret_cast<void**>(view.put()));
 
-    RECT place;
-    GetClientRect(window, &place);
+    RECT place = placeIn(window);
     FOLDERSETTINGS settings{FVM_DETAILS, 0};
     HWND viewWindow = nullptr;
     view->CreateViewWindow(nullptr, &settings, &browser, &place, &viewWindow);
@@ -130,4 +156,14 @@ void bench::showBareView(const wchar_t* path) {
     view->DestroyViewWindow();
     view.reset();
     DestroyWindow(window);
+}
+
+}  // namespace
+
+void bench::showBareView(const wchar_t* folder) {
+    showView(folder, makeWindow());
+}
+
+void bench::showFramedView(const wchar_t* folder) {
+    showView(folder, makeFrame());
 }

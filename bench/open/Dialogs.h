@@ -19,5 +19,7 @@ void showOlderDialog(const wchar_t* folder);
 void showNewerDialog(const wchar_t* folder);
 /// The shell's view of the folder and nothing around it: what no dialog on top of that view can go below.
 void showBareView(const wchar_t* folder);
+/// The same view in a window with the controls of this library's dialog, which nobody fills or draws.
+void showFramedView(const wchar_t* folder);
 
 }  // namespace bench
