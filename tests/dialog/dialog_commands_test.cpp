@@ -92,7 +92,7 @@ TEST_F(DialogCommands, ViewsMenu_GraysTheModeThatIsOn_AndChoosingOneChangesTheLi
     const std::tuple<UINT, unsigned, int> rows[] = {
         {IDM_KNAV_LIST, 3, LV_VIEW_LIST}, {IDM_KNAV_THUMBNAILS, 5, -1}, {IDM_KNAV_DETAILS, 4, LV_VIEW_DETAILS}};
     for (const auto& [command, mode, view] : rows) {
-        m_user.command(command).settle().check([this, command, mode, view] {
+        m_user.command(command).settle().check([this, command = command, mode = mode, view = view] {
             PreparedMenu views(IDR_KNAV_VIEWS_MENU, m_dialog, &RecordingDialog::PrepareViewsMenu);
             for (const UINT id : {IDM_KNAV_LIST, IDM_KNAV_DETAILS, IDM_KNAV_THUMBNAILS}) {
                 EXPECT_EQ(views.isGray(id), id == command) << id;

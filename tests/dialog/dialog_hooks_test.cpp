@@ -110,14 +110,14 @@ TEST_F(DialogHooks, Menus_ArePreparedEachTimeTheyDrop) {
     user.settle();
     for (const auto& [id, note] : rows) {
         for (int times = 1; times <= 2; ++times) {
-            user.check([id] {
+            user.check([id = id] {
                 RECT area{};
                 GetClientRect(DialogDriver::control(id), &area);
                 const LPARAM arrow = MAKELPARAM(area.right - 5, area.bottom / 2);
                 PostMessageW(DialogDriver::control(id), WM_LBUTTONDOWN, MK_LBUTTON, arrow);
                 PostMessageW(DialogDriver::control(id), WM_LBUTTONUP, 0, arrow);
             });
-            user.until(note, [&dialog, note, times] { return dialog.count(note) == times; });
+            user.until(note, [&dialog, note = note, times] { return dialog.count(note) == times; });
             user.settle().check([] { EndMenu(); }).settle();
         }
     }

@@ -249,7 +249,7 @@ TEST_F(InsideNetwork, FolderOnAShare_IsEnteredOrRefusedButNotReturned) {
             user.untilFolder(typed);
         } else {
             prompts.answer(IDOK);
-            user.untilAsked(prompts, before + 1).settle().check([&] { expectNameReadyToRetype(typed); });
+            user.untilAsked(prompts, before + 1).settle().check([typed = typed] { expectNameReadyToRetype(typed); });
         }
         EXPECT_EQ(user.cancel().run(), IDCANCEL);
         EXPECT_EQ(questions(), asked);

@@ -41,7 +41,7 @@ TEST_F(DialogSave, ExistingFile_IsReplacedOnlyWhenTheUserAgrees) {
         dialog.SetMultiSelectAllowed(1);
         DialogUser user(dialog);
         user.type(typed).check([] { SetCurrentDirectoryW(L"Z:\\"); }).ok().untilAsked(prompts, before + 1).settle();
-        user.check([&typed] { expectNameReadyToRetype(typed); }).ok();
+        user.check([&typed = typed] { expectNameReadyToRetype(typed); }).ok();
         EXPECT_EQ(user.run(), IDOK);
         ASSERT_EQ(prompts.seen().size(), before + 2);
         const SeenPrompt& question = prompts.seen()[before];

@@ -5,9 +5,9 @@
 
 #include <platform/Windows.h>
 
+#include <algorithm>
 #include <cstring>
 #include <functional>
-#include <ranges>
 #include <string>
 #include <vector>
 
@@ -229,9 +229,10 @@ private:
             if (folder == nullptr) {
                 return nullptr;
             }
-            const auto newestFirst = folder->m_items | std::views::reverse;
-            const auto at = std::ranges::find(newestFirst, name, &Item::name);
-            if (at == newestFirst.end()) {
+            const auto& items = folder->m_items;
+            const auto isNamed = [&name](const Item& each) { return each.name == name; };
+            const auto at = std::find_if(items.rbegin(), items.rend(), isNamed);  // the newest first
+            if (at == items.rend()) {
                 return nullptr;
             }
             found = &*at;

@@ -19,8 +19,6 @@ extern "C" {
 #include <string>
 #include <string_view>
 
-#define EXPORTED extern "C" __declspec(dllexport)
-
 namespace {
 
 std::mutex g_mutex;
@@ -62,14 +60,14 @@ struct Enumeration {
 }  // namespace
 
 /// What was asked so far, one question a line, into `text`; starts anew.
-EXPORTED void TakeQuestions(wchar_t* text, std::size_t room) {
+extern "C" void TakeQuestions(wchar_t* text, std::size_t room) {
     const std::scoped_lock lock(g_mutex);
     wcsncpy(text, g_questions.c_str(), room - 1);
     text[room - 1] = L'\0';
     g_questions.clear();
 }
 
-EXPORTED DWORD WINAPI NPGetCaps(DWORD index) {
+extern "C" DWORD WINAPI NPGetCaps(DWORD index) {
     switch (index) {
         case WNNC_SPEC_VERSION:
             return WNNC_SPEC_VERSION51;
@@ -84,7 +82,7 @@ EXPORTED DWORD WINAPI NPGetCaps(DWORD index) {
     }
 }
 
-EXPORTED DWORD WINAPI NPOpenEnum(DWORD scope, DWORD, DWORD, LPNETRESOURCEW container, LPHANDLE handle) {
+extern "C" DWORD WINAPI NPOpenEnum(DWORD scope, DWORD, DWORD, LPNETRESOURCEW container, LPHANDLE handle) {
     if (scope != RESOURCE_GLOBALNET) {
         return WN_NOT_SUPPORTED;
     }
@@ -100,7 +98,7 @@ EXPORTED DWORD WINAPI NPOpenEnum(DWORD scope, DWORD, DWORD, LPNETRESOURCEW conta
     return *handle ? WN_SUCCESS : WN_OUT_OF_MEMORY;
 }
 
-EXPORTED DWORD WINAPI NPEnumResource(HANDLE handle, LPDWORD count, LPVOID buffer, LPDWORD) {
+extern "C" DWORD WINAPI NPEnumResource(HANDLE handle, LPDWORD count, LPVOID buffer, LPDWORD) {
     auto& all = *static_cast<Enumeration*>(handle);
     if (!same(all.server, L"knavtest") || all.ended) {
         return WN_NO_MORE_ENTRIES;
@@ -121,12 +119,12 @@ EXPORTED DWORD WINAPI NPEnumResource(HANDLE handle, LPDWORD count, LPVOID buffer
     return WN_SUCCESS;
 }
 
-EXPORTED DWORD WINAPI NPCloseEnum(HANDLE handle) {
+extern "C" DWORD WINAPI NPCloseEnum(HANDLE handle) {
     delete static_cast<Enumeration*>(handle);
     return WN_SUCCESS;
 }
 
-EXPORTED DWORD WINAPI NPGetResourceInformation(LPNETRESOURCEW asked, LPVOID buffer, LPDWORD, LPWSTR* rest) {
+extern "C" DWORD WINAPI NPGetResourceInformation(LPNETRESOURCEW asked, LPVOID buffer, LPDWORD, LPWSTR* rest) {
     note(L"find", asked->lpRemoteName);
     const Name name = split(asked->lpRemoteName);
     if (const DWORD error = answerOf(name.server); error != WN_SUCCESS) {
