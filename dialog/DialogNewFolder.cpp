@@ -1,4 +1,5 @@
 // Making a new folder, and letting the user name it.
+#include <knav/CNavDataArray.h>
 #include <knav/CNavNode.h>
 #include <knav/NavNames.h>
 #include <platform/CMenu.h>
@@ -124,9 +125,8 @@ void CNavDialogImp::CreateNewWebFolder(const CString& name) {
 /// it yet is refreshed; one that takes its time over that is asked again for a while, as long as the user selects
 /// nothing else and stays in the same control.
 void CNavDialogImp::renameWhenShown(const CString& name) {
-    if (selectedCount() > 0) {
-        ListView_SetItemState(m_listInUse->GetSafeHwnd(), -1, 0, LVIS_SELECTED);  // what is selected from now on is new
-    }
+    CNavDataArray nothing;
+    m_browser.SyncToData(nothing);  // what is selected from now on is new
     if (beginRename(name)) {
         return;
     }

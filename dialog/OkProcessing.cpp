@@ -3,6 +3,7 @@
 #include <knav/FileDialogAllowReturnFolderEnabler.h>
 
 #include "dialog/CNavDialogImp.h"
+#include "dialog/FolderQuestions.h"
 #include "dialog/Messages.h"
 #include "dialog/NameRules.h"
 #include "dialog/ScopedFlag.h"
@@ -103,7 +104,7 @@ int CNavDialogImp::OnFileNameOK() {
             SaveCurrentStates();
             return 1;
         }
-        if (nothingChosen) {
+        if (nothingChosen && !knav::isSite(currentFolderNode())) {
             refuseFolderShown();
             return 0;
         }
